@@ -1,0 +1,23 @@
+// Process environment: variables and the program's own place.
+#pragma once
+
+#include <string>
+
+namespace platform {
+
+class Environment {
+public:
+    Environment() = default;
+    Environment(const Environment&) = delete;
+    Environment& operator=(const Environment&) = delete;
+    virtual ~Environment() = default;
+
+    // As GetEnvironmentVariableW: false when the variable is not defined. Names ignore case.
+    virtual bool GetVariable(const std::wstring& name, std::wstring& value) = 0;
+    // Full path of the running program (GetModuleFileNameW of the process).
+    virtual std::wstring ModuleFileName() = 0;
+    // GetSystemDirectoryW, without a trailing backslash.
+    virtual std::wstring SystemDirectory() = 0;
+};
+
+} // namespace platform

@@ -1,0 +1,73 @@
+// Files and directories, with the Windows rules the program leans on.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <memory>
+#include <string>
+
+namespace platform {
+
+constexpr uint32_t kInvalidAttributes = 0xFFFFFFFF;  // INVALID_FILE_ATTRIBUTES
+
+enum FileAttribute : uint32_t {
+    kAttributeReadOnly = 0x1,
+    kAttributeHidden = 0x2,
+    kAttributeSystem = 0x4,
+    kAttributeDirectory = 0x10,
+    kAttributeArchive = 0x20,
+    kAttributeNormal = 0x80,
+};
+
+struct FindData {
+    uint32_t attributes = 0;
+    uint64_t size = 0;
+    std::wstring name;
+};
+
+// FindFirstFileW, or FindFirstFileExW with basic information and the large-fetch flag.
+enum class FindStyle { Plain, BasicLargeFetch };
+
+// The C runtime's binary open modes: "rb", "wb", "ab".
+enum class FileAccess { Read, Write, Append };
+
+// An open file. Destroying it closes it.
+class File {
+public:
+    File() = default;
+    File(const File&) = delete;
+    File& operator=(const File&) = delete;
+    virtual ~File() = default;
+
+    // Bytes read; 0 at the end of the file or on failure.
+    virtual size_t Read(void* data, size_t size) = 0;
+    // Bytes written.
+    virtual size_t Write(const void* data, size_t size) = 0;
+};
+
+class FileSystem {
+public:
+    FileSystem() = default;
+    FileSystem(const FileSystem&) = delete;
+    FileSystem& operator=(const FileSystem&) = delete;
+    virtual ~FileSystem() = default;
+
+    // As GetFileAttributesW: kInvalidAttributes when the path does not exist.
+    virtual uint32_t GetAttributes(const std::wstring& path) = 0;
+    // The first entry matching a path or wildcard pattern; false when there is none.
+    virtual bool FindFirst(const std::wstring& pattern, FindStyle style, FindData& found) = 0;
+    // As GetFullPathNameW into a buffer of bufferChars characters (terminator included):
+    // false when the path cannot be resolved or the result does not fit.
+    virtual bool GetFullPathName(const std::wstring& path, size_t bufferChars, std::wstring& full) = 0;
+    // As GetLongPathNameW: false when the path does not exist.
+    virtual bool GetLongPathName(const std::wstring& path, std::wstring& longPath) = 0;
+    // As SHCreateDirectory: creates the directory and every missing parent; returns its Win32 code.
+    virtual int CreateDirectoryTree(const std::wstring& path) = 0;
+    // Version of "shell32.dll" as major * 100 + minor.
+    virtual int ShellVersion() = 0;
+    // Opens a file in binary mode; denyWrite refuses other writers while it stays open.
+    // Null when the file cannot be opened.
+    virtual std::unique_ptr<File> Open(const std::wstring& path, FileAccess access, bool denyWrite) = 0;
+};
+
+} // namespace platform

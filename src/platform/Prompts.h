@@ -1,0 +1,24 @@
+// Questions and messages put to the user.
+#pragma once
+
+#include <string>
+
+namespace platform {
+
+// The answers of MessageBox.
+enum PromptAnswer : int { kAnswerOk = 1, kAnswerCancel = 2, kAnswerYes = 6, kAnswerNo = 7 };
+// The styles the program uses.
+enum PromptStyle : unsigned { kStyleOk = 0, kStyleYesNo = 4 };
+
+class Prompts {
+public:
+    Prompts() = default;
+    Prompts(const Prompts&) = delete;
+    Prompts& operator=(const Prompts&) = delete;
+    virtual ~Prompts() = default;
+
+    // The application's message box: caption is the program's name, owner the active window.
+    virtual int ShowMessage(const std::wstring& text, unsigned style) = 0;
+};
+
+} // namespace platform

@@ -1,0 +1,50 @@
+#include "platform/win32/Win32Environment.h"
+
+#include <windows.h>
+
+#include <vector>
+
+namespace platform::win32 {
+
+bool Win32Environment::GetVariable(const std::wstring& name, std::wstring& value) {
+    std::vector<wchar_t> buffer(256);
+    for (;;) {
+        SetLastError(0);
+        DWORD length = GetEnvironmentVariableW(name.c_str(), buffer.data(), static_cast<DWORD>(buffer.size()));
+        if (length == 0) {
+            value.clear();
+            return GetLastError() != ERROR_ENVVAR_NOT_FOUND;
+        }
+        if (length < buffer.size()) {
+            value.assign(buffer.data(), length);
+            return true;
+        }
+        buffer.resize(length);
+    }
+}
+
+std::wstring Win32Environment::ModuleFileName() {
+    std::vector<wchar_t> buffer(MAX_PATH);
+    for (;;) {
+        DWORD length = GetModuleFileNameW(nullptr, buffer.data(), static_cast<DWORD>(buffer.size()));
+        if (length < buffer.size()) return std::wstring(buffer.data(), length);
+        buffer.resize(buffer.size() * 2);
+    }
+}
+
+std::wstring Win32Environment::SystemDirectory() {
+    wchar_t buffer[MAX_PATH];
+    UINT length = GetSystemDirectoryW(buffer, MAX_PATH);
+    if (length == 0 || length >= MAX_PATH) return std::wstring();
+    return std::wstring(buffer, length);
+}
+
+std::wstring ProgramName() {
+    std::wstring path = Win32Environment().ModuleFileName();
+    size_t slash = path.find_last_of(L'\\');
+    std::wstring name = slash == std::wstring::npos ? path : path.substr(slash + 1);
+    size_t dot = name.find_last_of(L'.');
+    return dot == std::wstring::npos ? name : name.substr(0, dot);
+}
+
+} // namespace platform::win32

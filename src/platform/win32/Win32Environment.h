@@ -1,0 +1,17 @@
+#pragma once
+
+#include "platform/Environment.h"
+
+namespace platform::win32 {
+
+class Win32Environment : public Environment {
+public:
+    bool GetVariable(const std::wstring& name, std::wstring& value) override;
+    std::wstring ModuleFileName() override;
+    std::wstring SystemDirectory() override;
+};
+
+// The running program's file name without directory and extension ("Option").
+std::wstring ProgramName();
+
+} // namespace platform::win32

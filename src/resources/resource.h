@@ -1,0 +1,4 @@
+// Resource identifiers of Option.exe.
+#pragma once
+
+#define IDR_MANIFEST 1

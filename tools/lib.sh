@@ -1,0 +1,107 @@
+# Shared by the tools: installing what is missing, building, and a private Wine.
+# Sourced, not run.
+
+ROOT=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
+BUILD="$ROOT/build"
+STAGE="$BUILD/stage"
+export WINEPREFIX="$BUILD/wineprefix"
+export WINEARCH=win64
+export WINEDEBUG=${WINEDEBUG:--all}
+# No Mono or Gecko installer prompts in the private prefix.
+export WINEDLLOVERRIDES="mscoree,mshtml=;winemenubuilder.exe=d"
+
+# Debian packages the build, the tests and the screenshots need: command or file that proves each.
+PACKAGES=(
+  "g++-mingw-w64-x86-64-posix:/usr/bin/x86_64-w64-mingw32-g++-posix"
+  "wine:/usr/bin/wine"
+  "wine64:/usr/lib/wine/wine64"
+  "xvfb:/usr/bin/Xvfb"
+  "cmake:/usr/bin/cmake"
+  "g++:/usr/bin/g++"
+  "googletest:/usr/src/googletest/CMakeLists.txt"
+  "ccache:/usr/bin/ccache"
+  "x11-apps:/usr/bin/xwd"
+  "x11-utils:/usr/bin/xdpyinfo"
+  "imagemagick:/usr/bin/convert"
+  "fonts-noto-cjk:/usr/share/fonts/opentype/noto/NotoSansCJK-Regular.ttc"
+)
+
+log() { printf '%s\n' "$*" >&2; }
+
+bootstrap() {
+  local missing=() entry
+  for entry in "${PACKAGES[@]}"; do
+    [ -e "${entry#*:}" ] || missing+=("${entry%%:*}")
+  done
+  [ ${#missing[@]} -eq 0 ] && return 0
+  log "installing: ${missing[*]}"
+  local sudo=""
+  [ "$(id -u)" -eq 0 ] || sudo="sudo"
+  $sudo apt-get update -qq
+  DEBIAN_FRONTEND=noninteractive $sudo apt-get install -y -qq --no-install-recommends "${missing[@]}" >/dev/null
+}
+
+build_preset() {
+  local preset=$1
+  if [ ! -f "$BUILD/$preset/CMakeCache.txt" ]; then
+    cmake --preset "$preset" -S "$ROOT" >/dev/null
+  fi
+  cmake --build --preset "$preset" -- --no-print-directory -s
+}
+
+# Lays out an installation tree from sample/: the program two folders below the application root.
+stage() {
+  mkdir -p "$STAGE"
+  cp -a "$ROOT/sample/." "$STAGE/"
+  mkdir -p "$STAGE/command/Option"
+  cp -a "$BUILD/win64/src/Option.exe" "$STAGE/command/Option/"
+  local dll
+  for dll in "$BUILD"/win64/sample/Lang/*.dll; do
+    [ -e "$dll" ] && cp -a "$dll" "$STAGE/Lang/"
+  done
+  return 0
+}
+
+XVFB_PID=""
+start_display() {
+  if [ -n "${DISPLAY:-}" ] && xdpyinfo >/dev/null 2>&1; then return 0; fi
+  local n
+  for n in $(seq 90 120); do
+    [ -e "/tmp/.X11-unix/X$n" ] || [ -e "/tmp/.X$n-lock" ] && continue
+    Xvfb ":$n" -screen 0 1280x1024x24 -nolisten tcp >/dev/null 2>&1 &
+    XVFB_PID=$!
+    export DISPLAY=":$n"
+    local i
+    for i in $(seq 50); do
+      xdpyinfo >/dev/null 2>&1 && return 0
+      sleep 0.1
+    done
+    kill "$XVFB_PID" 2>/dev/null || true
+  done
+  log "no X display could be started"
+  return 1
+}
+
+# A private prefix inside the build tree, kept warm by a persistent wineserver.
+start_wine() {
+  start_display
+  if [ ! -f "$WINEPREFIX/system.reg" ]; then
+    log "creating the Wine prefix in $WINEPREFIX"
+    wineboot -i >/dev/null 2>&1 || true
+    wineserver -w
+    # A crashing program must end, not wait for someone to close the crash dialog.
+    wine reg add 'HKCU\Software\Wine\WineDbg' /v ShowCrashDialog /t REG_DWORD /d 0 /f >/dev/null 2>&1
+    # Japanese dialog text needs a font that has it.
+    wine reg add 'HKLM\Software\Microsoft\Windows NT\CurrentVersion\FontSubstitutes' \
+      /v 'MS UI Gothic' /t REG_SZ /d 'Noto Sans CJK JP' /f >/dev/null 2>&1
+    wine reg add 'HKLM\Software\Microsoft\Windows NT\CurrentVersion\FontSubstitutes' \
+      /v 'MS Shell Dlg' /t REG_SZ /d 'Noto Sans CJK JP' /f >/dev/null 2>&1
+    wineserver -w
+  fi
+  wineserver -p
+}
+
+stop_wine() {
+  wineserver -k >/dev/null 2>&1 || true
+  if [ -n "$XVFB_PID" ]; then kill "$XVFB_PID" 2>/dev/null || true; fi
+}
