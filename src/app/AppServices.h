@@ -1,0 +1,24 @@
+// The process-wide objects of Option.exe, in one place: start-up builds them, tests build their own.
+#pragma once
+
+#include <memory>
+#include <string>
+
+#include "app/HostSwitches.h"
+#include "platform/System.h"
+#include "services/MessageCatalog.h"
+#include "settings/SettingsStore.h"
+
+struct AppServices {
+    explicit AppServices(int screenLogPixelsY) : store(screenLogPixelsY) {}
+
+    SettingsStore store;
+    MessageCatalog messages;
+    HostSwitches host;
+    // The raw UserDir value as read at start.
+    std::wstring userDir;
+    // Where the tool's own values live beneath HKEY_CURRENT_USER.
+    std::wstring commandOptionRoot;
+    // The language library; null when it could not be loaded.
+    std::unique_ptr<platform::SystemObject> resourceModule;
+};

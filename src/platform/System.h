@@ -1,0 +1,31 @@
+// Process-wide objects of the system: named mutexes and modules loaded as data.
+#pragma once
+
+#include <memory>
+#include <string>
+
+namespace platform {
+
+// Something the system holds for us until destroyed.
+class SystemObject {
+public:
+    SystemObject() = default;
+    SystemObject(const SystemObject&) = delete;
+    SystemObject& operator=(const SystemObject&) = delete;
+    virtual ~SystemObject() = default;
+};
+
+class System {
+public:
+    System() = default;
+    System(const System&) = delete;
+    System& operator=(const System&) = delete;
+    virtual ~System() = default;
+
+    // Creates the named mutex when no process holds one of that name; null when one exists already.
+    virtual std::unique_ptr<SystemObject> CreatePresenceMutex(const std::wstring& name) = 0;
+    // Loads a resource library as data, without running any of its code; null on failure.
+    virtual std::unique_ptr<SystemObject> LoadDataLibrary(const std::wstring& path) = 0;
+};
+
+} // namespace platform

@@ -1,0 +1,10 @@
+// Existence and attributes of files, through the long-path form.
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+// True when a file or directory of that name exists (the path less its trailing separator is searched for).
+bool FileExists(const std::wstring& path);
+// GetFileAttributesW on the long-path form; platform::kInvalidAttributes when absent.
+uint32_t FileAttributes(const std::wstring& path);

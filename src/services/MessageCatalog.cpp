@@ -1,0 +1,62 @@
+#include "services/MessageCatalog.h"
+
+#include <vector>
+
+#include "platform/Platform.h"
+#include "services/BitMask.h"
+#include "services/CRuntime.h"
+#include "services/PathHelpers.h"
+#include "services/Tokenizer.h"
+#include "services/WideStream.h"
+
+namespace {
+
+constexpr size_t kLineBuffer = 32768;
+constexpr uint16_t kConfirmClosing = 63300;
+
+void ReplaceAll(std::wstring& text, std::wstring_view piece, std::wstring_view with) {
+    for (size_t at = 0; (at = text.find(piece, at)) != std::wstring::npos; at += with.size()) {
+        text.replace(at, piece.size(), with);
+    }
+}
+
+} // namespace
+
+std::wstring MessageFilePath(const std::wstring& programDirectory, const std::wstring& languageTag) {
+    return FullPath(programDirectory + L"..\\..\\Lang\\Msg" + languageTag + L".txt");
+}
+
+int MessageCatalog::Load() {
+    texts_.clear();
+    WideStream stream;
+    if (!stream.Open(path_, true)) {
+        platform::Current().prompts.ShowMessage(L"Cannot open message file.\n" + path_, platform::kStyleOk);
+        return 0;
+    }
+    std::wstring line;
+    while (stream.ReadLine(line, kLineBuffer)) {
+        ReplaceAll(line, L"\uFEFF", L"");
+        ReplaceAll(line, L"\r\n", L"");
+        // The escape goes before the trim, so a line break at either end of a text is lost.
+        ReplaceAll(line, L"\\n", L"\n");
+        line = crt::Trim(line);
+        if (line.starts_with(L"//")) continue;
+        if (line == L"EOF") break;
+        std::vector<std::wstring> fields;
+        if (Tokenize(fields, line, L'\t', false, true) != 2) continue;
+        texts_.emplace(static_cast<uint16_t>(crt::Wtoi(fields[0])), fields[1]);
+    }
+    return texts_.empty() ? 0 : 1;
+}
+
+std::wstring MessageCatalog::Get(uint16_t id) {
+    if (texts_.empty()) Load();
+    auto found = texts_.find(id);
+    return found == texts_.end() ? kMissingText : found->second;
+}
+
+int MessageCatalog::Confirm(int32_t messageSetting, uint16_t id) {
+    if ((static_cast<uint32_t>(messageSetting) & BitMask((id - 63300) / 2)) == 0) return -1;
+    std::wstring body = Get(static_cast<uint16_t>(id + 1)) + L"\n\n" + Get(kConfirmClosing);
+    return platform::Current().prompts.Ask(body, Get(id), platform::kStyleYesNo);
+}

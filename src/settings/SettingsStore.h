@@ -1,0 +1,61 @@
+// The host's settings in the registry: one cached open section with typed reads and writes, and every
+// loaded setting as a plain member. The Load and Save groups of the pages are built on these calls.
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "platform/Registry.h"
+#include "settings/LogFont.h"
+
+class SettingsStore {
+public:
+    // Where the sections live beneath HKEY_CURRENT_USER.
+    static constexpr const wchar_t* kSectionRoot = L"Software\\Tarnwick\\QOR\\Main001\\";
+
+    // The screen's vertical resolution gives the display factor; everything else starts at zero.
+    explicit SettingsStore(int screenLogPixelsY = 96);
+    SettingsStore(const SettingsStore&) = delete;
+    SettingsStore& operator=(const SettingsStore&) = delete;
+
+    // Selecting the section already selected (same letter case) keeps the open key.
+    void SelectSection(const std::wstring& section);
+    // Opens (creating it if need be) the selected section's key; true when it is available.
+    bool OpenKey();
+    // The value's text, or the default when it is absent or over 32,768 bytes. The type is not looked at.
+    std::wstring ReadString(const std::wstring& name, const std::wstring& defaultText);
+    // The value's first four bytes over the default, or the default when it is absent or larger.
+    int32_t ReadInt(const std::wstring& name, int32_t defaultValue);
+    // Stores the text without its terminator, as the host's own writer does.
+    bool WriteString(const std::wstring& name, const std::wstring& text);
+    bool WriteInt(const std::wstring& name, int32_t value);
+    // The twelve font values of the selected section over the given default; underline and strike-out
+    // are never stored and come back as 0.
+    void ReadFont(LogFont& font, const LogFont& defaultFont);
+    bool WriteFont(const LogFont& font);
+
+    const std::wstring& current_path() const { return currentPath_; }
+
+    // Settings read at start.
+    int32_t Alfa = 0;
+    int32_t DoubleBuffer = 0;
+    int32_t Message = 0;
+    int32_t BkAlpha = 128;
+    double DisplayFactor = 1.0;
+
+private:
+    std::wstring currentPath_;
+    std::unique_ptr<platform::RegistryKey> key_;
+    std::vector<uint8_t> readBuffer_;
+};
+
+// Values outside the selected section, each access on its own key opened and closed at once.
+std::wstring DirectReadString(const std::wstring& path, const std::wstring& name, const std::wstring& defaultText);
+int32_t DirectReadInt(const std::wstring& path, const std::wstring& name, int32_t defaultValue);
+bool DirectWriteString(const std::wstring& path, const std::wstring& name, const std::wstring& text);
+bool DirectWriteInt(const std::wstring& path, const std::wstring& name, int32_t value);
+
+// The key of NLS, UserDir, UserDirMode and LangOut, spelt as the host spells it there.
+constexpr const wchar_t* kDirectSettingsPath = L"Software\\Tarnwick\\Qor\\Main001\\Settings";

@@ -1,0 +1,106 @@
+// Path routines that ask the system.
+#include <gtest/gtest.h>
+
+#include "platform/fake/FakePlatform.h"
+#include "services/FileTests.h"
+#include "services/LongPath.h"
+#include "services/PathHelpers.h"
+
+namespace {
+
+using platform::fake::FakePlatform;
+
+TEST(PathSystem, FullPathOnlyWhenTheResultFitsTheArgument) {
+    FakePlatform fake;
+    fake.files().AddDirectory(L"C:\\Qor\\command\\Option");
+    fake.files().SetCurrentDirectory(L"C:\\Qor");
+    struct Case {
+        const wchar_t* path;
+        const wchar_t* expected;
+    };
+    const Case cases[] = {
+        {L"C:\\Qor\\command\\Option\\..\\..\\Lang\\Msg.ja-JP.txt", L"C:\\Qor\\Lang\\Msg.ja-JP.txt"},
+        {L"C:\\Qor\\command\\Option\\..\\..\\", L"C:\\Qor\\"},
+        {L"C:/Qor/./x", L"C:\\Qor\\x"},
+        {L"relative.txt", L"relative.txt"},
+        {L"", L""},
+    };
+    for (const auto& c : cases) EXPECT_EQ(c.expected, FullPath(c.path)) << testing::PrintToString(std::wstring(c.path));
+}
+
+TEST(PathSystem, MakeDirectoryCreatesParentsAndKeepsRoots) {
+    FakePlatform fake;
+    EXPECT_EQ(0, MakeDirectory(L"C:\\a\\b\\c\\"));
+    EXPECT_NE(platform::kInvalidAttributes, fake.files().GetAttributes(L"C:\\a\\b\\c"));
+    EXPECT_NE(0, MakeDirectory(L"C:\\a\\b\\c"));
+    EXPECT_NE(0, MakeDirectory(L"C:\\"));
+}
+
+TEST(PathSystem, ExpandEnvironmentReplacesDefinedNamesOnly) {
+    FakePlatform fake;
+    fake.environment().SetVariable(L"Home", L"C:\\Users\\me");
+    fake.environment().SetVariable(L"EMPTY", L"");
+    struct Case {
+        const wchar_t* text;
+        const wchar_t* expected;
+    };
+    const Case cases[] = {
+        {L"%HOME%\\x", L"C:\\Users\\me\\x"},
+        {L"%home%%HOME%", L"C:\\Users\\meC:\\Users\\me"},
+        {L"%UNKNOWN%\\x", L"%UNKNOWN%\\x"},
+        {L"%UNKNOWN%HOME%", L"%UNKNOWN%HOME%"},
+        {L"100%", L"100%"},
+        {L"%%", L"%%"},
+        {L"a%EMPTY%b", L"ab"},
+        {L"%HOME", L"%HOME"},
+        {L"", L""},
+    };
+    for (const auto& c : cases) {
+        EXPECT_EQ(c.expected, ExpandEnvironment(c.text)) << testing::PrintToString(std::wstring(c.text));
+    }
+    fake.environment().SetVariable(L"BIG", std::wstring(20000, L'x'));
+    EXPECT_EQ(16383u, ExpandEnvironment(L"%BIG%").size());
+}
+
+TEST(PathSystem, FileExistsSearchesWithoutTheTrailingSeparator) {
+    FakePlatform fake;
+    fake.files().AddDirectory(L"C:\\dir");
+    fake.files().AddFile(L"C:\\dir\\f.txt", std::string_view("x"));
+    EXPECT_TRUE(FileExists(L"C:\\dir\\"));
+    EXPECT_TRUE(FileExists(L"C:\\dir\\f.txt"));
+    EXPECT_FALSE(FileExists(L"C:\\dir\\g.txt"));
+    EXPECT_EQ(platform::FindStyle::BasicLargeFetch, fake.files().lastFindStyle());
+    for (int oldShell : {501, 600}) {
+        fake.files().SetShellVersion(oldShell);
+        EXPECT_TRUE(FileExists(L"C:\\dir\\f.txt"));
+        EXPECT_EQ(platform::FindStyle::Plain, fake.files().lastFindStyle()) << oldShell;
+    }
+    EXPECT_EQ(platform::kAttributeDirectory, FileAttributes(L"C:\\dir") & platform::kAttributeDirectory);
+    EXPECT_EQ(platform::kInvalidAttributes, FileAttributes(L"C:\\nothing"));
+}
+
+TEST(PathSystem, NormaliseLongNameDropsPrefixesAndLengthensShortNames) {
+    FakePlatform fake;
+    fake.files().AddDirectory(L"C:\\Program Files\\Long Folder Name");
+    fake.files().SetShortName(L"C:\\Program Files", L"PROGRA~1");
+    fake.files().SetShortName(L"C:\\Program Files\\Long Folder Name", L"LONGFO~1");
+    struct Case {
+        const wchar_t* path;
+        const wchar_t* expected;
+    };
+    const Case cases[] = {
+        {L"\\\\?\\C:\\x", L"C:\\x"},
+        {L"\\\\?\\UNC\\srv\\share", L"srv\\share"},
+        {L"\\??\\UNC\\srv\\share", L"srv\\share"},
+        {L"C:\\PROGRA~1\\LONGFO~1", L"C:\\Program Files\\Long Folder Name"},
+        {L"\\\\?\\C:\\PROGRA~1", L"C:\\Program Files"},
+        {L"C:\\PROGRA~1\\missing", L"C:\\PROGRA~1\\missing"},
+        {L"C:\\abcdefgh~1", L"C:\\abcdefgh~1"},
+        {L"C:\\a~b", L"C:\\a~b"},
+    };
+    for (const auto& c : cases) {
+        EXPECT_EQ(c.expected, NormaliseLongName(c.path)) << testing::PrintToString(std::wstring(c.path));
+    }
+}
+
+} // namespace
