@@ -1,10 +1,13 @@
 // Files and directories, with the Windows rules the program leans on.
+// Paths take "\" or "/" between names and are resolved as the real API does: relative to the
+// current directory, "." and ".." folded, trailing dots (and, in the last name, blanks) dropped.
 #pragma once
 
 #include <cstddef>
 #include <cstdint>
 #include <memory>
 #include <string>
+#include <vector>
 
 namespace platform {
 
@@ -43,6 +46,8 @@ public:
     virtual size_t Read(void* data, size_t size) = 0;
     // Bytes written.
     virtual size_t Write(const void* data, size_t size) = 0;
+    // Length of the whole file in bytes.
+    virtual uint64_t Size() = 0;
 };
 
 class FileSystem {
@@ -54,18 +59,26 @@ public:
 
     // As GetFileAttributesW: kInvalidAttributes when the path does not exist.
     virtual uint32_t GetAttributes(const std::wstring& path) = 0;
-    // The first entry matching a path or wildcard pattern; false when there is none.
+    // The first entry matching a path or a pattern with "*" and "?" in its last name; false when
+    // there is none. A pattern ending in a separator, and a drive root, match nothing.
     virtual bool FindFirst(const std::wstring& pattern, FindStyle style, FindData& found) = 0;
+    // Every entry FindFirstFileW and FindNextFileW give, "." and ".." included where the directory
+    // has them; the order is the file system's own.
+    virtual std::vector<FindData> FindAll(const std::wstring& pattern, FindStyle style) = 0;
     // As GetFullPathNameW into a buffer of bufferChars characters (terminator included):
     // false when the path cannot be resolved or the result does not fit.
     virtual bool GetFullPathName(const std::wstring& path, size_t bufferChars, std::wstring& full) = 0;
-    // As GetLongPathNameW: false when the path does not exist.
+    // As GetLongPathNameW: short (8.3) names on the path become long ones, the rest of the text
+    // stays as given; false when the path does not exist.
     virtual bool GetLongPathName(const std::wstring& path, std::wstring& longPath) = 0;
-    // As SHCreateDirectory: creates the directory and every missing parent; returns its Win32 code.
+    // As SHCreateDirectory: creates the directory and every missing parent; returns its Win32 code:
+    // 0 created, 183 already there (a file too), 161 a relative path, 3 a parent is a file.
     virtual int CreateDirectoryTree(const std::wstring& path) = 0;
     // Version of "shell32.dll" as major * 100 + minor.
     virtual int ShellVersion() = 0;
-    // Opens a file in binary mode; denyWrite refuses other writers while it stays open.
+    // Opens a file in binary mode as _wsopen_s does: Read needs the file, Write creates or
+    // empties it, Append creates it or writes at its end. denyWrite refuses other writers while
+    // it stays open (and cannot be had while another writer holds the file).
     // Null when the file cannot be opened.
     virtual std::unique_ptr<File> Open(const std::wstring& path, FileAccess access, bool denyWrite) = 0;
 };

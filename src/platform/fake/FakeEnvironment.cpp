@@ -1,0 +1,24 @@
+#include "platform/fake/FakeEnvironment.h"
+
+#include "platform/fake/CaseFold.h"
+
+namespace platform::fake {
+
+bool FakeEnvironment::GetVariable(const std::wstring& name, std::wstring& value) {
+    auto it = variables_.find(UpperCase(name));
+    if (it == variables_.end()) {
+        value.clear();
+        return false;
+    }
+    value = it->second.value;
+    return true;
+}
+
+void FakeEnvironment::SetVariable(const std::wstring& name, const std::wstring& value) {
+    auto [it, added] = variables_.try_emplace(UpperCase(name), Variable{name, value});
+    if (!added) it->second.value = value;
+}
+
+void FakeEnvironment::RemoveVariable(const std::wstring& name) { variables_.erase(UpperCase(name)); }
+
+} // namespace platform::fake

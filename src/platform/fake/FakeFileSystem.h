@@ -1,0 +1,65 @@
+// The file system in memory, for tests: drives with trees of directories and files, names compared
+// without case, paths resolved by the real API's rules, and the sharing rules of the C runtime.
+#pragma once
+
+#include <cstdint>
+#include <map>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "platform/FileSystem.h"
+
+namespace platform::fake {
+
+class FakeFileSystem : public FileSystem {
+public:
+    // Starts with an empty drive C: as the current directory "C:\".
+    FakeFileSystem();
+    ~FakeFileSystem() override;
+
+    uint32_t GetAttributes(const std::wstring& path) override;
+    bool FindFirst(const std::wstring& pattern, FindStyle style, FindData& found) override;
+    std::vector<FindData> FindAll(const std::wstring& pattern, FindStyle style) override;
+    bool GetFullPathName(const std::wstring& path, size_t bufferChars, std::wstring& full) override;
+    bool GetLongPathName(const std::wstring& path, std::wstring& longPath) override;
+    int CreateDirectoryTree(const std::wstring& path) override;
+    int ShellVersion() override { return shellVersion_; }
+    std::unique_ptr<File> Open(const std::wstring& path, FileAccess access, bool denyWrite) override;
+
+    // Setting the scene. Paths follow the same rules as above; missing parents are created.
+    void AddDrive(wchar_t letter);
+    bool AddDirectory(const std::wstring& path);
+    bool AddFile(const std::wstring& path, std::string_view bytes);
+    bool AddFile(const std::wstring& path, const std::vector<uint8_t>& bytes);
+    // Gives an entry an 8.3 name by which paths may reach it ("PROGRA~1").
+    bool SetShortName(const std::wstring& path, const std::wstring& shortName);
+    bool SetAttributes(const std::wstring& path, uint32_t attributes);
+    void SetCurrentDirectory(const std::wstring& path);
+    const std::wstring& currentDirectory() const { return currentDirectory_; }
+    void SetShellVersion(int version) { shellVersion_ = version; }
+
+    // What tests look at.
+    bool ReadFile(const std::wstring& path, std::vector<uint8_t>& bytes);
+    std::string FileText(const std::wstring& path);  // the bytes as they are; empty when absent
+    FindStyle lastFindStyle() const { return lastFindStyle_; }
+    int findCount() const { return findCount_; }
+
+    struct Node;
+
+private:
+    class OpenFile;
+    std::shared_ptr<Node> Lookup(const std::wstring& path);
+    std::shared_ptr<Node> Add(const std::wstring& path, bool directory);
+    int CreateOneDirectory(const std::wstring& path);
+    std::vector<FindData> Find(const std::wstring& pattern, FindStyle style, bool firstOnly);
+
+    std::map<wchar_t, std::shared_ptr<Node>> drives_;  // by upper-case letter
+    std::wstring currentDirectory_ = L"C:\\";
+    int shellVersion_ = 1000;
+    FindStyle lastFindStyle_ = FindStyle::Plain;
+    int findCount_ = 0;
+};
+
+} // namespace platform::fake

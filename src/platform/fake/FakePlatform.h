@@ -1,0 +1,34 @@
+// Every fake at once, put in force for the lifetime of the object: the fixture of portable tests.
+#pragma once
+
+#include "platform/Platform.h"
+#include "platform/fake/FakeEnvironment.h"
+#include "platform/fake/FakeFileSystem.h"
+#include "platform/fake/FakePrompts.h"
+#include "platform/fake/FakeRegistry.h"
+
+namespace platform::fake {
+
+class FakePlatform {
+public:
+    FakePlatform();
+    ~FakePlatform();
+    FakePlatform(const FakePlatform&) = delete;
+    FakePlatform& operator=(const FakePlatform&) = delete;
+
+    FakeRegistry& registry() { return registry_; }
+    FakeFileSystem& files() { return files_; }
+    FakeEnvironment& environment() { return environment_; }
+    FakePrompts& prompts() { return prompts_; }
+    Platform& platform() { return platform_; }
+
+private:
+    FakeRegistry registry_;
+    FakeFileSystem files_;
+    FakeEnvironment environment_;
+    FakePrompts prompts_;
+    Platform platform_{registry_, files_, environment_, prompts_};
+    Installed installed_{platform_};
+};
+
+} // namespace platform::fake
