@@ -4,8 +4,10 @@
 
 #include "platform/Environment.h"
 #include "platform/FileSystem.h"
+#include "platform/HostWindows.h"
 #include "platform/Prompts.h"
 #include "platform/Registry.h"
+#include "platform/System.h"
 
 namespace platform {
 
@@ -14,6 +16,8 @@ struct Platform {
     FileSystem& files;
     Environment& environment;
     Prompts& prompts;
+    System& system;
+    HostWindows& windows;
 };
 
 // The platform in force. Using it before one is installed is a programming error.

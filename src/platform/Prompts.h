@@ -19,6 +19,8 @@ public:
 
     // The application's message box: caption is the program's name, owner the active window.
     virtual int ShowMessage(const std::wstring& text, unsigned style) = 0;
+    // A message box with a caption of its own, owned by the active window.
+    virtual int Ask(const std::wstring& text, const std::wstring& caption, unsigned style) = 0;
 };
 
 } // namespace platform

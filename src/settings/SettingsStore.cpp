@@ -52,9 +52,11 @@ bool QueryString(platform::RegistryKey& key, const std::wstring& name, std::vect
     return true;
 }
 
+// The count leaves the terminator out, as the host's writer does; the terminator still sits behind the
+// text in memory, where the system may look for it.
 bool SetString(platform::RegistryKey& key, const std::wstring& name, const std::wstring& text) {
-    std::vector<uint8_t> bytes = BytesOfText(text);
-    return key.SetValue(name, platform::kRegSz, bytes.data(), static_cast<uint32_t>(bytes.size())) ==
+    std::vector<uint8_t> bytes = BytesOfText(text + L'\0');
+    return key.SetValue(name, platform::kRegSz, bytes.data(), static_cast<uint32_t>(bytes.size() - 2)) ==
            platform::kRegistryOk;
 }
 

@@ -4,8 +4,10 @@
 #include "platform/Platform.h"
 #include "platform/fake/FakeEnvironment.h"
 #include "platform/fake/FakeFileSystem.h"
+#include "platform/fake/FakeHostWindows.h"
 #include "platform/fake/FakePrompts.h"
 #include "platform/fake/FakeRegistry.h"
+#include "platform/fake/FakeSystem.h"
 
 namespace platform::fake {
 
@@ -20,6 +22,8 @@ public:
     FakeFileSystem& files() { return files_; }
     FakeEnvironment& environment() { return environment_; }
     FakePrompts& prompts() { return prompts_; }
+    FakeSystem& system() { return system_; }
+    FakeHostWindows& windows() { return windows_; }
     Platform& platform() { return platform_; }
 
 private:
@@ -27,7 +31,9 @@ private:
     FakeFileSystem files_;
     FakeEnvironment environment_;
     FakePrompts prompts_;
-    Platform platform_{registry_, files_, environment_, prompts_};
+    FakeSystem system_;
+    FakeHostWindows windows_;
+    Platform platform_{registry_, files_, environment_, prompts_, system_, windows_};
     Installed installed_{platform_};
 };
 

@@ -12,12 +12,14 @@ namespace platform::fake {
 struct ShownMessage {
     std::wstring text;
     unsigned style;
+    std::wstring caption;  // empty for the application's own message box
     bool operator==(const ShownMessage&) const = default;
 };
 
 class FakePrompts : public Prompts {
 public:
     int ShowMessage(const std::wstring& text, unsigned style) override;
+    int Ask(const std::wstring& text, const std::wstring& caption, unsigned style) override;
 
     // Answers given in turn; when none is left a question gets No and a message OK.
     void Answer(int answer) { answers_.push_back(answer); }

@@ -7,6 +7,7 @@ namespace platform::win32 {
 class Win32Prompts : public Prompts {
 public:
     int ShowMessage(const std::wstring& text, unsigned style) override;
+    int Ask(const std::wstring& text, const std::wstring& caption, unsigned style) override;
 };
 
 } // namespace platform::win32

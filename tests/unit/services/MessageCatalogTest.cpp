@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "Utf16.h"
+#include "unit/Utf16.h"
 #include "platform/fake/FakePlatform.h"
 #include "services/MessageCatalog.h"
 

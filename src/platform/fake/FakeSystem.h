@@ -1,0 +1,33 @@
+// Named mutexes and libraries for tests: which names exist, which libraries load.
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <set>
+#include <string>
+#include <vector>
+
+#include "platform/System.h"
+
+namespace platform::fake {
+
+class FakeSystem : public System {
+public:
+    std::unique_ptr<SystemObject> CreatePresenceMutex(const std::wstring& name) override;
+    std::unique_ptr<SystemObject> LoadDataLibrary(const std::wstring& path) override;
+
+    // A library at this path loads; any other does not.
+    void AddLibrary(const std::wstring& path) { libraries_.insert(path); }
+    bool HoldsMutex(const std::wstring& name) const { return mutexes_->count(name) > 0; }
+    const std::vector<std::wstring>& loadAttempts() const { return loadAttempts_; }
+    // Libraries loaded and not yet freed.
+    int loadedLibraries() const { return *loaded_; }
+
+private:
+    std::shared_ptr<std::set<std::wstring>> mutexes_ = std::make_shared<std::set<std::wstring>>();
+    std::set<std::wstring> libraries_;
+    std::vector<std::wstring> loadAttempts_;
+    std::shared_ptr<int> loaded_ = std::make_shared<int>(0);
+};
+
+} // namespace platform::fake

@@ -1,0 +1,208 @@
+#include <gtest/gtest.h>
+
+#include "app/SniffDefinitionFile.h"
+#include "app/Startup.h"
+#include "platform/fake/FakePlatform.h"
+#include "unit/Utf16.h"
+
+namespace {
+
+using platform::fake::FakePlatform;
+using platform::fake::ShownMessage;
+
+constexpr const wchar_t* kProgram = L"C:\\Qor\\command\\Option\\Option.exe";
+constexpr const wchar_t* kLibrary = L"C:\\Qor\\Lang\\Qor.ja-JP.dll";
+constexpr const wchar_t* kMessages = L"C:\\Qor\\Lang\\Msg.ja-JP.txt";
+
+// Records which target start-up handed over to.
+class RecordingTargets : public StartupTargets {
+public:
+    void OpenOptionDialog() override { calls.push_back(L"option dialog"); }
+    void OpenEditor(int switchNumber, const std::wstring& file) override {
+        calls.push_back(L"editor " + std::to_wstring(switchNumber) + L" " + file);
+    }
+    void WriteKeyLists() override { calls.push_back(L"key lists"); }
+    void RunEditorScript(const std::wstring& file) override { calls.push_back(L"script " + file); }
+    std::vector<std::wstring> calls;
+};
+
+class StartupTest : public testing::Test {
+protected:
+    StartupTest() {
+        fake.environment().SetModuleFileName(kProgram);
+        fake.files().AddDirectory(L"C:\\Qor\\command\\Option");
+        fake.files().AddDirectory(L"C:\\Qor\\Lang");
+        fake.files().AddFile(kMessages, Utf16Bytes(L"62538\tno language library\r\n", true));
+        fake.system().AddLibrary(kLibrary);
+    }
+
+    std::vector<std::wstring> Run(const std::vector<std::wstring>& arguments) {
+        RecordingTargets targets;
+        RunStartup(app, targets, arguments);
+        return targets.calls;
+    }
+
+    FakePlatform fake;
+    AppServices app{96};
+};
+
+TEST_F(StartupTest, DispatchesOnTheEffectiveSwitch) {
+    fake.files().AddFile(L"C:\\f.txt", Utf16Bytes(L"x"));
+    struct Case {
+        std::vector<std::wstring> arguments;
+        std::vector<std::wstring> calls;
+    };
+    const Case cases[] = {
+        {{}, {L"option dialog"}},
+        {{L"/T", L"C:\\f.txt"}, {}},
+        {{L"/T"}, {L"option dialog"}},
+        {{L"/G", L"anything"}, {L"option dialog"}},
+        {{L"plain"}, {L"option dialog"}},
+        {{L"/e", L"file"}, {L"editor 1 file"}},
+        {{L"/E", L"a", L"/R", L"b"}, {L"editor 2 b"}},
+        {{L"/D", L"c.txt"}, {L"editor 3 c.txt"}},
+        {{L"/M", L"m.txt"}, {L"editor 6 m.txt"}},
+        {{L"/KEYLIST"}, {L"key lists"}},
+        {{L"/KEYLIST", L"x"}, {L"key lists"}},
+        {{L"/A", L"C:\\f.txt"}, {L"script C:\\f.txt"}},
+    };
+    for (const auto& c : cases) EXPECT_EQ(c.calls, Run(c.arguments)) << testing::PrintToString(c.arguments);
+    EXPECT_TRUE(fake.prompts().shown().empty());
+}
+
+TEST_F(StartupTest, AutomaticSwitchFollowsTheFileKind) {
+    struct Case {
+        const wchar_t* content;
+        int kind;
+        std::vector<std::wstring> calls;
+    };
+    const Case cases[] = {
+        {L"run=notepad.exe", 2, {L"editor 2 C:\\d.txt"}},
+        {L"\uFEFF// comment\r\n\tRUN = x\r\n", 2, {L"editor 2 C:\\d.txt"}},
+        {L"exrun=a\r\n", 1, {L"editor 1 C:\\d.txt"}},
+        {L"exrun=a\r\nrun=b\r\n", 0, {L"script C:\\d.txt"}},
+        {L"run=a\r\nrun=b\r\n", 0, {L"script C:\\d.txt"}},
+        {L"run=a\r\nexec=b\r\n", 0, {L"script C:\\d.txt"}},
+        {L"run=\r\nrun=b\r\n", 2, {L"editor 2 C:\\d.txt"}},
+        {L"exrun=   \r\n", 0, {L"script C:\\d.txt"}},
+        {L"run=a\r\nEOF\r\nrun=b\r\n", 2, {L"editor 2 C:\\d.txt"}},
+        {L"run=a\r\neof\r\nrun=b\r\n", 0, {L"script C:\\d.txt"}},
+        {L"//run=a\r\nrunx=b\r\nrun a\r\n", 0, {L"script C:\\d.txt"}},
+        {L"call=x\r\nrun=a\r\n", 0, {L"script C:\\d.txt"}},
+    };
+    for (const auto& c : cases) {
+        fake.files().AddFile(L"C:\\d.txt", Utf16Bytes(c.content));
+        EXPECT_EQ(c.kind, SniffDefinitionFile(L"C:\\d.txt")) << testing::PrintToString(std::wstring(c.content));
+        EXPECT_EQ(c.calls, Run({L"/A", L"C:\\d.txt"})) << testing::PrintToString(std::wstring(c.content));
+    }
+}
+
+TEST_F(StartupTest, UnreadableAutomaticFileIsToldThenOpenedAsAScript) {
+    EXPECT_EQ((std::vector<std::wstring>{L"script C:\\none.txt"}), Run({L"/A", L"C:\\none.txt"}));
+    EXPECT_EQ((std::vector<ShownMessage>{{L"Cannot open C:\\none.txt", 0}}), fake.prompts().shown());
+    // The script runs without the language library.
+    EXPECT_TRUE(fake.system().loadAttempts().empty());
+}
+
+TEST_F(StartupTest, MissingLanguageLibraryIsToldAndTheProgramGoesOn) {
+    DirectWriteString(kDirectSettingsPath, L"NLS", L".en-US");
+    EXPECT_EQ((std::vector<std::wstring>{L"option dialog"}), Run({}));
+    EXPECT_EQ((std::vector<std::wstring>{L"C:\\Qor\\Lang\\Qor.en-US.dll"}), fake.system().loadAttempts());
+    EXPECT_EQ((std::vector<ShownMessage>{{L"Cannot open message file.\nC:\\Qor\\Lang\\Msg.en-US.txt", 0},
+                                         {MessageCatalog::kMissingText, 0}}),
+              fake.prompts().shown());
+}
+
+TEST_F(StartupTest, LanguageLibraryIsHeldForTheTargetAndFreedAtTheEnd) {
+    class Checking : public RecordingTargets {
+    public:
+        explicit Checking(FakePlatform& fake) : fake_(fake) {}
+        void OpenOptionDialog() override { loadedDuringDialog = fake_.system().loadedLibraries(); }
+        int loadedDuringDialog = -1;
+
+    private:
+        FakePlatform& fake_;
+    } targets(fake);
+    RunStartup(app, targets, {});
+    EXPECT_EQ(1, targets.loadedDuringDialog);
+    EXPECT_EQ(0, fake.system().loadedLibraries());
+    EXPECT_EQ(L"C:\\Qor\\Lang\\Msg.ja-JP.txt", app.messages.path());
+    EXPECT_EQ(L"Software\\Tarnwick\\QOR\\Command\\Option", app.commandOptionRoot);
+}
+
+TEST_F(StartupTest, SettingsReadAtStart) {
+    DirectWriteString(kDirectSettingsPath, L"UserDir", L"D:\\Mine\\");
+    SettingsStore store;
+    store.SelectSection(L"AppInfo");
+    store.WriteInt(L"Alfa", 200);
+    store.WriteInt(L"DoubleBuffer", 1);
+    store.WriteInt(L"Message", 0x38FB);
+    Run({});
+    EXPECT_EQ(L"D:\\Mine\\", app.userDir);
+    EXPECT_EQ(200, app.store.Alfa);
+    EXPECT_EQ(1, app.store.DoubleBuffer);
+    EXPECT_EQ(0, app.store.Message) << "only the editors read it at start";
+    Run({L"/R", L"x"});
+    EXPECT_EQ(0x38FB, app.store.Message);
+    // Reading "Settings" creates the key even when nothing is in it.
+    std::unique_ptr<platform::RegistryKey> key;
+    EXPECT_EQ(0, fake.registry().OpenKey(L"Software\\Tarnwick\\QOR\\Main001\\Settings", key));
+}
+
+TEST_F(StartupTest, EditorsReadMessageWithItsDefault) {
+    Run({L"/D", L"x"});
+    EXPECT_EQ(-1, app.store.Message);
+}
+
+TEST_F(StartupTest, HostSwitchStringAndTheHandBack) {
+    fake.windows().AddHostWindow(0x1111);
+    fake.windows().AddHostWindow(0x2222);
+    struct Case {
+        const wchar_t* switches;  // null: the variable is absent
+        int32_t mode;
+        std::vector<platform::WindowRef> broughtForward;
+    };
+    const Case cases[] = {
+        {nullptr, 0, {}},
+        {L"", 0, {}},
+        {L"3:1:1:2:100:0:0:0:Share:x", 3, {0x1111}},
+        {L"3:1:1:2:100:0:0:0:share:x", 3, {0x1111}},
+        {L"2:2:1:2:100:0:0:0:Share:x", 2, {}},
+        {L"3:1:1:2:100:0:0:0:Share", 0, {}},
+        {L"3:1:1:2:100:0:0:0:Share:x:y", 0, {}},
+    };
+    for (const auto& c : cases) {
+        std::vector<platform::WindowRef> before = fake.windows().foreground();
+        if (c.switches) fake.environment().SetVariable(L"QOR_ExCommand", c.switches);
+        else fake.environment().RemoveVariable(L"QOR_ExCommand");
+        AppServices fresh{96};
+        RecordingTargets targets;
+        RunStartup(fresh, targets, {L"/T", L"x"});
+        std::string label = c.switches ? testing::PrintToString(std::wstring(c.switches)) : "absent";
+        EXPECT_EQ(c.mode, fresh.host.windowMode) << label;
+        std::vector<platform::WindowRef> now(fake.windows().foreground().begin() + before.size(),
+                                             fake.windows().foreground().end());
+        EXPECT_EQ(c.broughtForward, now) << label;
+    }
+}
+
+TEST_F(StartupTest, PresenceMutexLivesAsLongAsTheRun) {
+    class Checking : public RecordingTargets {
+    public:
+        explicit Checking(FakePlatform& fake) : fake_(fake) {}
+        void OpenOptionDialog() override { held = fake_.system().HoldsMutex(L"ExCommand.Option.exe"); }
+        bool held = false;
+
+    private:
+        FakePlatform& fake_;
+    } targets(fake);
+    RunStartup(app, targets, {});
+    EXPECT_TRUE(targets.held);
+    EXPECT_FALSE(fake.system().HoldsMutex(L"ExCommand.Option.exe"));
+    // A second copy finds the mutex taken and still runs.
+    auto first = fake.system().CreatePresenceMutex(L"ExCommand.Option.exe");
+    EXPECT_EQ((std::vector<std::wstring>{L"option dialog"}), Run({}));
+    EXPECT_TRUE(fake.system().HoldsMutex(L"ExCommand.Option.exe"));
+}
+
+} // namespace
