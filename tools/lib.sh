@@ -105,3 +105,21 @@ stop_wine() {
   wineserver -k >/dev/null 2>&1 || true
   if [ -n "$XVFB_PID" ]; then kill "$XVFB_PID" 2>/dev/null || true; fi
 }
+
+# True when a wineserver already serves the private prefix (it works in a folder named after the prefix).
+wine_server_running() {
+  [ -d "$WINEPREFIX" ] || return 1
+  local id p
+  id=$(printf 'server-%x-%x' "0x$(stat -c %D "$WINEPREFIX")" "$(stat -c %i "$WINEPREFIX")")
+  for p in /proc/[0-9]*; do
+    case "$(readlink "$p/cwd" 2>/dev/null)" in */"$id") return 0 ;; esac
+  done
+  return 1
+}
+
+# Saves the whole X screen of $DISPLAY as a PNG. /usr/bin/convert is ImageMagick's, whatever PATH says.
+screenshot() {
+  local png=$1
+  mkdir -p "$(dirname "$png")"
+  xwd -root -silent | /usr/bin/convert xwd:- "png:$png"
+}

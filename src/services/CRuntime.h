@@ -21,6 +21,9 @@ inline int64_t Wtoi64(const std::wstring& text) { return Wtoi64(text.c_str()); }
 // wcstol with a 32-bit long; base 0 takes "0x" as hexadecimal and a leading "0" as octal.
 // *end, when given, points behind the last character used (at the text when nothing was used).
 int32_t Wcstol(const wchar_t* text, const wchar_t** end, int base);
+// wcstod: decimal with "e" or "d" exponent, hexadecimal with "p" exponent, "inf", "infinity" and
+// "nan" in any case; correctly rounded, +-HUGE_VAL on overflow. *end as for Wcstol.
+double Wcstod(const wchar_t* text, const wchar_t** end);
 
 // CString::Trim, TrimLeft, TrimRight: white space as IsSpace.
 std::wstring Trim(std::wstring_view text);

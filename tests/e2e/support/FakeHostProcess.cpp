@@ -1,0 +1,138 @@
+#include "FakeHostProcess.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <atomic>
+
+namespace e2e {
+namespace {
+
+constexpr DWORD kStartTimeoutMs = 15000;
+constexpr char kReady[] = "ready";
+
+std::wstring NewLogPath() {
+    static std::atomic<unsigned> counter{0};
+    wchar_t temp[MAX_PATH + 1];
+    DWORD length = GetTempPathW(MAX_PATH + 1, temp);
+    return std::wstring(temp, length) + L"FakeHost-" + std::to_wstring(GetCurrentProcessId()) + L"-" +
+           std::to_wstring(++counter) + L".log";
+}
+
+struct WindowSearch {
+    DWORD processId;
+    std::wstring className;
+    HWND found;
+};
+
+BOOL CALLBACK MatchWindow(HWND hwnd, LPARAM lp) {
+    auto& search = *reinterpret_cast<WindowSearch*>(lp);
+    DWORD owner = 0;
+    GetWindowThreadProcessId(hwnd, &owner);
+    wchar_t name[256];
+    if (owner == search.processId && GetClassNameW(hwnd, name, 256) && search.className == name) {
+        search.found = hwnd;
+        return FALSE;
+    }
+    return TRUE;
+}
+
+// The lines after the first "ready"; all of them when there is none.
+std::vector<std::string> AfterReady(std::vector<std::string> lines) {
+    auto ready = std::find(lines.begin(), lines.end(), kReady);
+    if (ready != lines.end()) lines.erase(lines.begin(), ready + 1);
+    return lines;
+}
+
+}  // namespace
+
+std::vector<std::string> ReadLogLines(const std::wstring& path) {
+    HANDLE opened = CreateFileW(path.c_str(), GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE,
+                                nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
+    if (opened == INVALID_HANDLE_VALUE) return {};
+    UniqueHandle file(opened);
+    std::string content;
+    char buffer[4096];
+    DWORD read = 0;
+    while (ReadFile(file.get(), buffer, sizeof buffer, &read, nullptr) && read > 0) content.append(buffer, read);
+
+    std::vector<std::string> lines;
+    size_t start = 0;
+    // A line without its line end is still being written and is left for the next read.
+    for (size_t end; (end = content.find('\n', start)) != std::string::npos; start = end + 1) {
+        std::string line = content.substr(start, end - start);
+        if (!line.empty() && line.back() == '\r') line.pop_back();
+        lines.push_back(std::move(line));
+    }
+    return lines;
+}
+
+FakeHost::FakeHost(FakeHostOptions options, std::source_location where) : logPath_(NewLogPath()) {
+    std::vector<std::wstring> args = {L"--log", logPath_, L"--title", options.title, L"--class", options.className};
+    if (options.hidden) args.push_back(L"--hidden");
+    for (const std::wstring& name : options.printEnv) args.insert(args.end(), {L"--print-env", name});
+    process_ = Process::Start(TestDirectory() + L"\\FakeHost.exe", args, options.env, where);
+    if (!process_) return;
+
+    ULONGLONG deadline = GetTickCount64() + kStartTimeoutMs;
+    while (!window_ && GetTickCount64() < deadline && process_.Running()) {
+        std::vector<std::string> lines = AllLines();
+        if (std::find(lines.begin(), lines.end(), kReady) != lines.end()) {
+            WindowSearch search{process_.Id(), options.className, nullptr};
+            EnumWindows(MatchWindow, reinterpret_cast<LPARAM>(&search));
+            window_ = search.found;
+        }
+        if (!window_) Sleep(20);
+    }
+    if (!window_) ADD_FAILURE_AT(where.file_name(), where.line()) << "FakeHost.exe did not come up";
+}
+
+FakeHost::~FakeHost() {
+    if (process_.Running()) {
+        PostMessageW(window_, WM_CLOSE, 0, 0);
+        process_.Wait(5000);
+    }
+    process_.Kill();
+    DeleteFileW(logPath_.c_str());
+}
+
+std::vector<std::string> FakeHost::AllLines() const {
+    return ReadLogLines(logPath_);
+}
+
+std::vector<std::string> FakeHost::Lines() const {
+    return AfterReady(AllLines());
+}
+
+std::vector<std::string> FakeHost::TakeLines() {
+    std::vector<std::string> lines = Lines();
+    std::vector<std::string> fresh(lines.begin() + std::min(taken_, lines.size()), lines.end());
+    taken_ = lines.size();
+    return fresh;
+}
+
+std::vector<unsigned> FakeHost::Commands() const {
+    std::vector<unsigned> commands;
+    for (const std::string& line : Lines()) {
+        if (line.rfind("command ", 0) == 0) commands.push_back(static_cast<unsigned>(std::stoul(line.substr(8))));
+    }
+    return commands;
+}
+
+bool FakeHost::WaitForLine(const std::string& line, DWORD timeoutMs) const {
+    ULONGLONG deadline = GetTickCount64() + timeoutMs;
+    for (;;) {
+        std::vector<std::string> lines = Lines();
+        if (std::find(lines.begin(), lines.end(), line) != lines.end()) return true;
+        if (GetTickCount64() >= deadline) return false;
+        Sleep(20);
+    }
+}
+
+DWORD FakeHost::Stop(std::source_location where) {
+    static const UINT quit = RegisterWindowMessageW(L"FakeHost.Quit");
+    if (process_.Running()) PostMessageW(window_, quit, 0, 0);
+    return process_.WaitOrKill(5000, where);
+}
+
+}  // namespace e2e

@@ -1,0 +1,138 @@
+#include "Registry.h"
+
+#include <cstring>
+
+#include "Handles.h"
+
+namespace e2e::registry {
+namespace {
+
+UniqueKey Open(const std::wstring& path, REGSAM access) {
+    UniqueKey key;
+    if (RegOpenKeyExW(HKEY_CURRENT_USER, path.c_str(), 0, access, key.put()) != ERROR_SUCCESS) key.release();
+    return key;
+}
+
+UniqueKey Create(const std::wstring& path) {
+    UniqueKey key;
+    if (RegCreateKeyExW(HKEY_CURRENT_USER, path.c_str(), 0, nullptr, 0, KEY_ALL_ACCESS, nullptr, key.put(), nullptr) !=
+        ERROR_SUCCESS)
+        key.release();
+    return key;
+}
+
+ScopedKey::Snapshot Save(HKEY key) {
+    ScopedKey::Snapshot snapshot;
+    DWORD valueCount = 0, maxName = 0, maxData = 0, subkeyCount = 0, maxSubkey = 0;
+    RegQueryInfoKeyW(key, nullptr, nullptr, nullptr, &subkeyCount, &maxSubkey, nullptr, &valueCount, &maxName, &maxData,
+                     nullptr, nullptr);
+    for (DWORD i = 0; i < valueCount; ++i) {
+        std::wstring name(maxName + 1, L'\0');
+        DWORD nameLength = maxName + 1, type = 0, size = maxData;
+        Value value;
+        value.data.resize(maxData);
+        if (RegEnumValueW(key, i, name.data(), &nameLength, nullptr, &type, value.data.data(), &size) != ERROR_SUCCESS)
+            continue;
+        name.resize(nameLength);
+        value.type = type;
+        value.data.resize(size);
+        snapshot.values.emplace_back(std::move(name), std::move(value));
+    }
+    for (DWORD i = 0; i < subkeyCount; ++i) {
+        std::wstring name(maxSubkey + 1, L'\0');
+        DWORD nameLength = maxSubkey + 1;
+        if (RegEnumKeyExW(key, i, name.data(), &nameLength, nullptr, nullptr, nullptr, nullptr) != ERROR_SUCCESS)
+            continue;
+        name.resize(nameLength);
+        UniqueKey child;
+        if (RegOpenKeyExW(key, name.c_str(), 0, KEY_READ, child.put()) == ERROR_SUCCESS)
+            snapshot.subkeys.emplace_back(name, Save(child.get()));
+    }
+    return snapshot;
+}
+
+void Restore(HKEY key, const ScopedKey::Snapshot& snapshot) {
+    for (const auto& [name, value] : snapshot.values)
+        RegSetValueExW(key, name.c_str(), 0, value.type, value.data.data(), static_cast<DWORD>(value.data.size()));
+    for (const auto& [name, child] : snapshot.subkeys) {
+        UniqueKey created;
+        if (RegCreateKeyExW(key, name.c_str(), 0, nullptr, 0, KEY_ALL_ACCESS, nullptr, created.put(), nullptr) ==
+            ERROR_SUCCESS)
+            Restore(created.get(), child);
+    }
+}
+
+}  // namespace
+
+bool KeyExists(const std::wstring& path) {
+    return static_cast<bool>(Open(path, KEY_READ));
+}
+
+void DeleteKey(const std::wstring& path) {
+    RegDeleteTreeW(HKEY_CURRENT_USER, path.c_str());
+    RegDeleteKeyW(HKEY_CURRENT_USER, path.c_str());
+}
+
+void DeleteValue(const std::wstring& path, const std::wstring& name) {
+    if (UniqueKey key = Open(path, KEY_SET_VALUE)) RegDeleteValueW(key.get(), name.c_str());
+}
+
+std::optional<Value> Read(const std::wstring& path, const std::wstring& name) {
+    UniqueKey key = Open(path, KEY_QUERY_VALUE);
+    if (!key) return std::nullopt;
+    Value value;
+    DWORD size = 0;
+    if (RegQueryValueExW(key.get(), name.c_str(), nullptr, &value.type, nullptr, &size) != ERROR_SUCCESS)
+        return std::nullopt;
+    value.data.resize(size);
+    if (RegQueryValueExW(key.get(), name.c_str(), nullptr, &value.type, value.data.data(), &size) != ERROR_SUCCESS)
+        return std::nullopt;
+    value.data.resize(size);
+    return value;
+}
+
+std::optional<DWORD> ReadDword(const std::wstring& path, const std::wstring& name) {
+    std::optional<Value> value = Read(path, name);
+    if (!value || value->type != REG_DWORD || value->data.size() != sizeof(DWORD)) return std::nullopt;
+    DWORD number = 0;
+    memcpy(&number, value->data.data(), sizeof number);
+    return number;
+}
+
+std::optional<std::wstring> ReadString(const std::wstring& path, const std::wstring& name) {
+    std::optional<Value> value = Read(path, name);
+    if (!value || (value->type != REG_SZ && value->type != REG_EXPAND_SZ)) return std::nullopt;
+    std::wstring text(value->data.size() / sizeof(wchar_t), L'\0');
+    memcpy(text.data(), value->data.data(), text.size() * sizeof(wchar_t));
+    while (!text.empty() && text.back() == L'\0') text.pop_back();
+    return text;
+}
+
+void Write(const std::wstring& path, const std::wstring& name, const Value& value) {
+    if (UniqueKey key = Create(path))
+        RegSetValueExW(key.get(), name.c_str(), 0, value.type, value.data.data(),
+                       static_cast<DWORD>(value.data.size()));
+}
+
+void WriteDword(const std::wstring& path, const std::wstring& name, DWORD number) {
+    Value value{REG_DWORD, std::vector<BYTE>(sizeof number)};
+    memcpy(value.data.data(), &number, sizeof number);
+    Write(path, name, value);
+}
+
+void WriteString(const std::wstring& path, const std::wstring& name, const std::wstring& text) {
+    const auto* bytes = reinterpret_cast<const BYTE*>(text.c_str());
+    Write(path, name, Value{REG_SZ, std::vector<BYTE>(bytes, bytes + (text.size() + 1) * sizeof(wchar_t))});
+}
+
+ScopedKey::ScopedKey(std::wstring path) : path_(std::move(path)) {
+    if (UniqueKey key = Open(path_, KEY_READ)) saved_ = Save(key.get());
+}
+
+ScopedKey::~ScopedKey() {
+    DeleteKey(path_);
+    if (!saved_) return;
+    if (UniqueKey key = Create(path_)) Restore(key.get(), *saved_);
+}
+
+}  // namespace e2e::registry

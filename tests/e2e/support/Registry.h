@@ -1,0 +1,54 @@
+// The registry of the current user as the end-to-end tests see and prepare it. Paths are below HKEY_CURRENT_USER.
+#pragma once
+
+#include <windows.h>
+
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace e2e::registry {
+
+struct Value {
+    DWORD type = REG_NONE;
+    std::vector<BYTE> data;
+};
+
+bool KeyExists(const std::wstring& path);
+// Removes the key with everything below it; a missing key is no error.
+void DeleteKey(const std::wstring& path);
+void DeleteValue(const std::wstring& path, const std::wstring& name);
+
+std::optional<Value> Read(const std::wstring& path, const std::wstring& name);
+// A REG_DWORD; nullopt when absent or of another type.
+std::optional<DWORD> ReadDword(const std::wstring& path, const std::wstring& name);
+// A REG_SZ or REG_EXPAND_SZ with any terminating zeros dropped (written with or without them).
+std::optional<std::wstring> ReadString(const std::wstring& path, const std::wstring& name);
+
+// Each creates the key when it is missing.
+void Write(const std::wstring& path, const std::wstring& name, const Value& value);
+void WriteDword(const std::wstring& path, const std::wstring& name, DWORD value);
+void WriteString(const std::wstring& path, const std::wstring& name, const std::wstring& value);
+
+// Saves a key with everything below it and puts it back as it was when the scope ends
+// (removing it when it did not exist), so a test may change it freely.
+class ScopedKey {
+public:
+    explicit ScopedKey(std::wstring path);
+    ScopedKey(const ScopedKey&) = delete;
+    ScopedKey& operator=(const ScopedKey&) = delete;
+    ~ScopedKey();
+
+    const std::wstring& Path() const { return path_; }
+
+    struct Snapshot {
+        std::vector<std::pair<std::wstring, Value>> values;
+        std::vector<std::pair<std::wstring, Snapshot>> subkeys;
+    };
+
+private:
+    std::wstring path_;
+    std::optional<Snapshot> saved_;
+};
+
+}  // namespace e2e::registry
