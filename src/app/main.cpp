@@ -1,6 +1,9 @@
 // Entry point of Option.exe: the whole life of the process is the application's start-up routine.
 #include <windows.h>
 
+#include "app/COptionApp.h"
+
 int WINAPI wWinMain(HINSTANCE, HINSTANCE, PWSTR, int) {
-    return 0;
+    COptionApp app;
+    return app.InitInstance();
 }

@@ -1,0 +1,66 @@
+#include "app/COptionApp.h"
+
+#include <windows.h>
+#include <commctrl.h>
+#include <objbase.h>
+
+#include <vector>
+
+#include "app/Startup.h"
+#include "platform/win32/Win32Platform.h"
+
+namespace {
+
+// Libraries are looked for in the system directory only, where the system allows saying so.
+void RestrictDllSearch() {
+    wchar_t directory[MAX_PATH];
+    UINT length = GetSystemDirectoryW(directory, MAX_PATH);
+    if (length == 0 || length >= MAX_PATH - 1) return;
+    std::wstring kernel = std::wstring(directory, length) + L"\\Kernel32.dll";
+    HMODULE module = LoadLibraryW(kernel.c_str());
+    if (!module) return;
+    using SetDirectories = BOOL(WINAPI*)(DWORD);
+    auto set = reinterpret_cast<SetDirectories>(
+        reinterpret_cast<void*>(GetProcAddress(module, "SetDefaultDllDirectories")));
+    if (set) set(LOAD_LIBRARY_SEARCH_SYSTEM32);
+    FreeLibrary(module);
+}
+
+int ScreenLogPixelsY() {
+    HDC screen = GetDC(nullptr);
+    int dpi = screen ? GetDeviceCaps(screen, LOGPIXELSY) : 96;
+    if (screen) ReleaseDC(nullptr, screen);
+    return dpi;
+}
+
+std::vector<std::wstring> Arguments() {
+    std::vector<std::wstring> arguments;
+    for (int i = 1; i < __argc; ++i) arguments.emplace_back(__wargv[i]);
+    return arguments;
+}
+
+} // namespace
+
+int COptionApp::InitInstance() {
+    RestrictDllSearch();
+    INITCOMMONCONTROLSEX controls = {8, 255};
+    InitCommonControlsEx(&controls);
+    platform::win32::Win32Platform system;
+    HRESULT com = CoInitialize(nullptr);
+    {
+        AppServices app(ScreenLogPixelsY());
+        RunStartup(app, *this, Arguments());
+    }
+    if (SUCCEEDED(com)) CoUninitialize();
+    return 0;
+}
+
+// The dialogs, editors and writers take their place here as they are built; until then a target
+// that is not there yet ends the run quietly.
+void COptionApp::OpenOptionDialog() {}
+
+void COptionApp::OpenEditor(int, const std::wstring&) {}
+
+void COptionApp::WriteKeyLists() {}
+
+void COptionApp::RunEditorScript(const std::wstring&) {}
