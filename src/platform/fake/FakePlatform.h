@@ -31,4 +31,4 @@ private:
     Installed installed_{platform_};
 };
 
-} // namespace platform::fake
+}  // namespace platform::fake
