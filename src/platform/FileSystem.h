@@ -67,10 +67,10 @@ public:
     virtual std::vector<FindData> FindAll(const std::wstring& pattern, FindStyle style) = 0;
     // As GetFullPathNameW into a buffer of bufferChars characters (terminator included):
     // false when the path cannot be resolved or the result does not fit.
-    virtual bool GetFullPathName(const std::wstring& path, size_t bufferChars, std::wstring& full) = 0;
+    virtual bool FullPathName(const std::wstring& path, size_t bufferChars, std::wstring& full) = 0;
     // As GetLongPathNameW: short (8.3) names on the path become long ones, the rest of the text
     // stays as given; false when the path does not exist.
-    virtual bool GetLongPathName(const std::wstring& path, std::wstring& longPath) = 0;
+    virtual bool LongPathName(const std::wstring& path, std::wstring& longPath) = 0;
     // As SHCreateDirectory: creates the directory and every missing parent; returns its Win32 code:
     // 0 created, 183 already there (a file too), 161 a relative path, 3 a parent is a file.
     virtual int CreateDirectoryTree(const std::wstring& path) = 0;
@@ -83,4 +83,4 @@ public:
     virtual std::unique_ptr<File> Open(const std::wstring& path, FileAccess access, bool denyWrite) = 0;
 };
 
-} // namespace platform
+}  // namespace platform

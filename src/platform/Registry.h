@@ -10,13 +10,13 @@ namespace platform {
 
 enum RegistryError : long {
     kRegistryOk = 0,
-    kRegistryNotFound = 2,            // ERROR_FILE_NOT_FOUND
-    kRegistryAccessDenied = 5,        // ERROR_ACCESS_DENIED
-    kRegistryInvalidParameter = 87,   // ERROR_INVALID_PARAMETER
-    kRegistryBadPathname = 161,       // ERROR_BAD_PATHNAME
-    kRegistryMoreData = 234,          // ERROR_MORE_DATA
-    kRegistryNoMoreItems = 259,       // ERROR_NO_MORE_ITEMS
-    kRegistryKeyDeleted = 1018,       // ERROR_KEY_DELETED
+    kRegistryNotFound = 2,           // ERROR_FILE_NOT_FOUND
+    kRegistryAccessDenied = 5,       // ERROR_ACCESS_DENIED
+    kRegistryInvalidParameter = 87,  // ERROR_INVALID_PARAMETER
+    kRegistryBadPathname = 161,      // ERROR_BAD_PATHNAME
+    kRegistryMoreData = 234,         // ERROR_MORE_DATA
+    kRegistryNoMoreItems = 259,      // ERROR_NO_MORE_ITEMS
+    kRegistryKeyDeleted = 1018,      // ERROR_KEY_DELETED
 };
 
 enum RegistryType : uint32_t {
@@ -83,4 +83,4 @@ public:
     virtual long DeleteKey(const std::wstring& path) = 0;
 };
 
-} // namespace platform
+}  // namespace platform

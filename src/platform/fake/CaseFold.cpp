@@ -15,7 +15,7 @@ wchar_t UpperLatinExtendedA(wchar_t unit) {
     return (unit % 2 == 1) ? unit - 1 : unit;
 }
 
-} // namespace
+}  // namespace
 
 wchar_t UpperCase(wchar_t unit) {
     if (unit >= L'a' && unit <= L'z') return unit - 0x20;
@@ -52,4 +52,4 @@ bool EqualNoCase(std::wstring_view a, std::wstring_view b) {
     return a.size() == b.size() && CompareNoCase(a, b) == 0;
 }
 
-} // namespace platform::fake
+}  // namespace platform::fake

@@ -14,4 +14,4 @@ bool EqualNoCase(std::wstring_view a, std::wstring_view b);
 // Negative, zero or positive as a sorts before, with or after b by upper-cased units.
 int CompareNoCase(std::wstring_view a, std::wstring_view b);
 
-} // namespace platform::fake
+}  // namespace platform::fake

@@ -19,6 +19,8 @@ void FakeEnvironment::SetVariable(const std::wstring& name, const std::wstring& 
     if (!added) it->second.value = value;
 }
 
-void FakeEnvironment::RemoveVariable(const std::wstring& name) { variables_.erase(UpperCase(name)); }
+void FakeEnvironment::RemoveVariable(const std::wstring& name) {
+    variables_.erase(UpperCase(name));
+}
 
-} // namespace platform::fake
+}  // namespace platform::fake

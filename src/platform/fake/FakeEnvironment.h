@@ -30,4 +30,4 @@ private:
     std::wstring systemDirectory_ = L"C:\\Windows\\system32";
 };
 
-} // namespace platform::fake
+}  // namespace platform::fake

@@ -17,16 +17,22 @@ constexpr int kErrorAlreadyExists = 183;
 constexpr int kErrorFilenameTooLong = 206;
 constexpr size_t kMaxPath = 260;
 
-bool IsSeparator(wchar_t c) { return c == L'\\' || c == L'/'; }
+bool IsSeparator(wchar_t c) {
+    return c == L'\\' || c == L'/';
+}
 
 bool HasDrive(std::wstring_view path) {
     return path.size() >= 2 && path[1] == L':' &&
            ((path[0] >= L'A' && path[0] <= L'Z') || (path[0] >= L'a' && path[0] <= L'z'));
 }
 
-bool IsVerbatim(std::wstring_view path) { return path.substr(0, 4) == L"\\\\?\\"; }
+bool IsVerbatim(std::wstring_view path) {
+    return path.substr(0, 4) == L"\\\\?\\";
+}
 
-bool HasInvalidCharacter(std::wstring_view name) { return name.find_first_of(L"<>:\"|?*") != std::wstring_view::npos; }
+bool HasInvalidCharacter(std::wstring_view name) {
+    return name.find_first_of(L"<>:\"|?*") != std::wstring_view::npos;
+}
 
 // A full path taken apart: "C:" or "\\server\share", then the names below it.
 struct PathParts {
@@ -126,7 +132,7 @@ bool MatchesWildcard(std::wstring_view pattern, std::wstring_view name) {
     return MatchesWildcard(pattern.substr(1), name.substr(1));
 }
 
-} // namespace
+}  // namespace
 
 struct FakeFileSystem::Node {
     std::wstring name;
@@ -142,7 +148,8 @@ struct FakeFileSystem::Node {
 
     std::shared_ptr<Node> Child(std::wstring_view wanted) const {
         for (const auto& child : children)
-            if (EqualNoCase(child->name, wanted) || (!child->shortName.empty() && EqualNoCase(child->shortName, wanted)))
+            if (EqualNoCase(child->name, wanted) ||
+                (!child->shortName.empty() && EqualNoCase(child->shortName, wanted)))
                 return child;
         return nullptr;
     }
@@ -201,7 +208,9 @@ private:
     size_t position_ = 0;
 };
 
-FakeFileSystem::FakeFileSystem() { AddDrive(L'C'); }
+FakeFileSystem::FakeFileSystem() {
+    AddDrive(L'C');
+}
 
 FakeFileSystem::~FakeFileSystem() = default;
 
@@ -241,7 +250,9 @@ std::shared_ptr<FakeFileSystem::Node> FakeFileSystem::Add(const std::wstring& pa
     return node;
 }
 
-bool FakeFileSystem::AddDirectory(const std::wstring& path) { return Add(path, true) != nullptr; }
+bool FakeFileSystem::AddDirectory(const std::wstring& path) {
+    return Add(path, true) != nullptr;
+}
 
 bool FakeFileSystem::AddFile(const std::wstring& path, std::string_view bytes) {
     return AddFile(path, std::vector<uint8_t>(bytes.begin(), bytes.end()));
@@ -268,7 +279,7 @@ bool FakeFileSystem::SetAttributes(const std::wstring& path, uint32_t attributes
     return true;
 }
 
-void FakeFileSystem::SetCurrentDirectory(const std::wstring& path) {
+void FakeFileSystem::ChangeDirectory(const std::wstring& path) {
     PathParts parts;
     if (Resolve(path, currentDirectory_, parts)) {
         parts.trailingSeparator = false;
@@ -333,7 +344,7 @@ std::vector<FindData> FakeFileSystem::FindAll(const std::wstring& pattern, FindS
     return Find(pattern, style, false);
 }
 
-bool FakeFileSystem::GetFullPathName(const std::wstring& path, size_t bufferChars, std::wstring& full) {
+bool FakeFileSystem::FullPathName(const std::wstring& path, size_t bufferChars, std::wstring& full) {
     PathParts parts;
     if (!Resolve(path, currentDirectory_, parts)) return false;
     std::wstring text = Join(parts);
@@ -343,7 +354,7 @@ bool FakeFileSystem::GetFullPathName(const std::wstring& path, size_t bufferChar
 }
 
 // Walks the text name by name so that everything but short names stays as the caller wrote it.
-bool FakeFileSystem::GetLongPathName(const std::wstring& path, std::wstring& longPath) {
+bool FakeFileSystem::LongPathName(const std::wstring& path, std::wstring& longPath) {
     std::wstring_view text = path;
     std::wstring result;
     if (IsVerbatim(text)) {
@@ -439,4 +450,4 @@ std::unique_ptr<File> FakeFileSystem::Open(const std::wstring& path, FileAccess 
     return std::make_unique<OpenFile>(node, access, denyWrite);
 }
 
-} // namespace platform::fake
+}  // namespace platform::fake

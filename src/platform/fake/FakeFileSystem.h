@@ -22,8 +22,8 @@ public:
     uint32_t GetAttributes(const std::wstring& path) override;
     bool FindFirst(const std::wstring& pattern, FindStyle style, FindData& found) override;
     std::vector<FindData> FindAll(const std::wstring& pattern, FindStyle style) override;
-    bool GetFullPathName(const std::wstring& path, size_t bufferChars, std::wstring& full) override;
-    bool GetLongPathName(const std::wstring& path, std::wstring& longPath) override;
+    bool FullPathName(const std::wstring& path, size_t bufferChars, std::wstring& full) override;
+    bool LongPathName(const std::wstring& path, std::wstring& longPath) override;
     int CreateDirectoryTree(const std::wstring& path) override;
     int ShellVersion() override { return shellVersion_; }
     std::unique_ptr<File> Open(const std::wstring& path, FileAccess access, bool denyWrite) override;
@@ -36,7 +36,7 @@ public:
     // Gives an entry an 8.3 name by which paths may reach it ("PROGRA~1").
     bool SetShortName(const std::wstring& path, const std::wstring& shortName);
     bool SetAttributes(const std::wstring& path, uint32_t attributes);
-    void SetCurrentDirectory(const std::wstring& path);
+    void ChangeDirectory(const std::wstring& path);
     const std::wstring& currentDirectory() const { return currentDirectory_; }
     void SetShellVersion(int version) { shellVersion_ = version; }
 
@@ -62,4 +62,4 @@ private:
     int findCount_ = 0;
 };
 
-} // namespace platform::fake
+}  // namespace platform::fake

@@ -8,4 +8,4 @@ FakePlatform::FakePlatform() = default;
 
 FakePlatform::~FakePlatform() = default;
 
-} // namespace platform::fake
+}  // namespace platform::fake

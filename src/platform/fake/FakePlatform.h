@@ -37,4 +37,4 @@ private:
     Installed installed_{platform_};
 };
 
-} // namespace platform::fake
+}  // namespace platform::fake

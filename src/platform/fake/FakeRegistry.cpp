@@ -17,7 +17,9 @@ struct Value {
     std::vector<uint8_t> bytes;
 };
 
-bool IsStringType(uint32_t type) { return type == kRegSz || type == kRegExpandSz || type == kRegMultiSz; }
+bool IsStringType(uint32_t type) {
+    return type == kRegSz || type == kRegExpandSz || type == kRegMultiSz;
+}
 
 uint16_t UnitAt(const uint8_t* bytes, size_t index) {
     uint16_t unit;
@@ -66,7 +68,7 @@ long CopyOut(const std::vector<uint8_t>& bytes, void* data, uint32_t* size) {
     return kRegistryOk;
 }
 
-} // namespace
+}  // namespace
 
 struct FakeRegistry::Node {
     std::wstring name;
@@ -216,4 +218,4 @@ bool FakeRegistry::KeyExists(const std::wstring& path) const {
     return const_cast<FakeRegistry*>(this)->Find(path, false, node) == kRegistryOk;
 }
 
-} // namespace platform::fake
+}  // namespace platform::fake

@@ -43,4 +43,4 @@ private:
     int liveHandles_ = 0;
 };
 
-} // namespace platform::fake
+}  // namespace platform::fake

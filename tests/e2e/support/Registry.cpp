@@ -7,6 +7,14 @@
 namespace e2e::registry {
 namespace {
 
+// Stores exactly the given bytes. The system counts in a terminator the caller left out whenever one
+// happens to follow the data in memory, so a string is stored from a copy that has none behind it.
+void SetExact(HKEY key, const std::wstring& name, const Value& value) {
+    std::vector<BYTE> bytes = value.data;
+    bytes.insert(bytes.end(), {0xFF, 0xFF});
+    RegSetValueExW(key, name.c_str(), 0, value.type, bytes.data(), static_cast<DWORD>(value.data.size()));
+}
+
 UniqueKey Open(const std::wstring& path, REGSAM access) {
     UniqueKey key;
     if (RegOpenKeyExW(HKEY_CURRENT_USER, path.c_str(), 0, access, key.put()) != ERROR_SUCCESS) key.release();
@@ -23,18 +31,18 @@ UniqueKey Create(const std::wstring& path) {
 
 ScopedKey::Snapshot Save(HKEY key) {
     ScopedKey::Snapshot snapshot;
-    DWORD valueCount = 0, maxName = 0, maxData = 0, subkeyCount = 0, maxSubkey = 0;
-    RegQueryInfoKeyW(key, nullptr, nullptr, nullptr, &subkeyCount, &maxSubkey, nullptr, &valueCount, &maxName, &maxData,
+    DWORD valueCount = 0, maxName = 0, subkeyCount = 0, maxSubkey = 0;
+    RegQueryInfoKeyW(key, nullptr, nullptr, nullptr, &subkeyCount, &maxSubkey, nullptr, &valueCount, &maxName, nullptr,
                      nullptr, nullptr);
     for (DWORD i = 0; i < valueCount; ++i) {
         std::wstring name(maxName + 1, L'\0');
-        DWORD nameLength = maxName + 1, type = 0, size = maxData;
-        Value value;
-        value.data.resize(maxData);
-        if (RegEnumValueW(key, i, name.data(), &nameLength, nullptr, &type, value.data.data(), &size) != ERROR_SUCCESS)
-            continue;
+        DWORD nameLength = maxName + 1, type = 0, size = 0;
+        if (RegEnumValueW(key, i, name.data(), &nameLength, nullptr, &type, nullptr, &size) != ERROR_SUCCESS) continue;
         name.resize(nameLength);
-        value.type = type;
+        // A buffer of exactly the stored size: with room to spare, Wine adds a terminator the value never had.
+        Value value{type, std::vector<BYTE>(size)};
+        if (RegQueryValueExW(key, name.c_str(), nullptr, &value.type, value.data.data(), &size) != ERROR_SUCCESS)
+            continue;
         value.data.resize(size);
         snapshot.values.emplace_back(std::move(name), std::move(value));
     }
@@ -52,8 +60,7 @@ ScopedKey::Snapshot Save(HKEY key) {
 }
 
 void Restore(HKEY key, const ScopedKey::Snapshot& snapshot) {
-    for (const auto& [name, value] : snapshot.values)
-        RegSetValueExW(key, name.c_str(), 0, value.type, value.data.data(), static_cast<DWORD>(value.data.size()));
+    for (const auto& [name, value] : snapshot.values) SetExact(key, name, value);
     for (const auto& [name, child] : snapshot.subkeys) {
         UniqueKey created;
         if (RegCreateKeyExW(key, name.c_str(), 0, nullptr, 0, KEY_ALL_ACCESS, nullptr, created.put(), nullptr) ==
@@ -109,9 +116,7 @@ std::optional<std::wstring> ReadString(const std::wstring& path, const std::wstr
 }
 
 void Write(const std::wstring& path, const std::wstring& name, const Value& value) {
-    if (UniqueKey key = Create(path))
-        RegSetValueExW(key.get(), name.c_str(), 0, value.type, value.data.data(),
-                       static_cast<DWORD>(value.data.size()));
+    if (UniqueKey key = Create(path)) SetExact(key.get(), name, value);
 }
 
 void WriteDword(const std::wstring& path, const std::wstring& name, DWORD number) {

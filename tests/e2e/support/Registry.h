@@ -25,7 +25,7 @@ std::optional<DWORD> ReadDword(const std::wstring& path, const std::wstring& nam
 // A REG_SZ or REG_EXPAND_SZ with any terminating zeros dropped (written with or without them).
 std::optional<std::wstring> ReadString(const std::wstring& path, const std::wstring& name);
 
-// Each creates the key when it is missing.
+// Each creates the key when it is missing and stores exactly the bytes given.
 void Write(const std::wstring& path, const std::wstring& name, const Value& value);
 void WriteDword(const std::wstring& path, const std::wstring& name, DWORD value);
 void WriteString(const std::wstring& path, const std::wstring& name, const std::wstring& value);

@@ -1,0 +1,146 @@
+#include "platform/win32/Win32FileSystem.h"
+
+#include <fcntl.h>
+#include <io.h>
+#include <share.h>
+#include <shlobj.h>
+#include <sys/stat.h>
+
+#include <algorithm>
+#include <vector>
+
+namespace platform::win32 {
+
+namespace {
+
+// A descriptor of the C runtime, closed with the object.
+class CrtFile : public File {
+public:
+    explicit CrtFile(int descriptor) : descriptor_(descriptor) {}
+    ~CrtFile() override { _close(descriptor_); }
+
+    size_t Read(void* data, size_t size) override { return Transfer(data, size, false); }
+    size_t Write(const void* data, size_t size) override { return Transfer(const_cast<void*>(data), size, true); }
+    uint64_t Size() override {
+        long long length = _filelengthi64(descriptor_);
+        return length < 0 ? 0 : static_cast<uint64_t>(length);
+    }
+
+private:
+    // _read and _write take an unsigned int count; larger transfers go in pieces.
+    size_t Transfer(void* data, size_t size, bool write) {
+        auto* bytes = static_cast<char*>(data);
+        size_t done = 0;
+        while (done < size) {
+            unsigned piece = static_cast<unsigned>(std::min<size_t>(size - done, 1u << 30));
+            int moved = write ? _write(descriptor_, bytes + done, piece) : _read(descriptor_, bytes + done, piece);
+            if (moved <= 0) break;
+            done += static_cast<size_t>(moved);
+        }
+        return done;
+    }
+
+    int descriptor_;
+};
+
+FindData ToFindData(const WIN32_FIND_DATAW& data) {
+    FindData found;
+    found.attributes = data.dwFileAttributes;
+    found.size = (static_cast<uint64_t>(data.nFileSizeHigh) << 32) | data.nFileSizeLow;
+    found.name = data.cFileName;
+    return found;
+}
+
+UniqueFindHandle StartFind(const std::wstring& pattern, FindStyle style, WIN32_FIND_DATAW& data) {
+    if (style == FindStyle::Plain) return UniqueFindHandle(FindFirstFileW(pattern.c_str(), &data));
+    return UniqueFindHandle(FindFirstFileExW(pattern.c_str(), FindExInfoBasic, &data, FindExSearchNameMatch, nullptr,
+                                             FIND_FIRST_EX_LARGE_FETCH));
+}
+
+int ReadShellVersion() {
+    DWORD ignored = 0;
+    DWORD size = GetFileVersionInfoSizeW(L"shell32.dll", &ignored);
+    if (size == 0) return 0;
+    std::vector<BYTE> block(size);
+    if (!GetFileVersionInfoW(L"shell32.dll", 0, size, block.data())) return 0;
+    VS_FIXEDFILEINFO* info = nullptr;
+    UINT length = 0;
+    if (!VerQueryValueW(block.data(), L"\\", reinterpret_cast<void**>(&info), &length) || !info) return 0;
+    return HIWORD(info->dwFileVersionMS) * 100 + LOWORD(info->dwFileVersionMS);
+}
+
+}  // namespace
+
+uint32_t Win32FileSystem::GetAttributes(const std::wstring& path) {
+    return GetFileAttributesW(path.c_str());
+}
+
+bool Win32FileSystem::FindFirst(const std::wstring& pattern, FindStyle style, FindData& found) {
+    WIN32_FIND_DATAW data;
+    UniqueFindHandle handle = StartFind(pattern, style, data);
+    if (!handle.valid()) return false;
+    found = ToFindData(data);
+    return true;
+}
+
+std::vector<FindData> Win32FileSystem::FindAll(const std::wstring& pattern, FindStyle style) {
+    std::vector<FindData> found;
+    WIN32_FIND_DATAW data;
+    UniqueFindHandle handle = StartFind(pattern, style, data);
+    if (!handle.valid()) return found;
+    do {
+        found.push_back(ToFindData(data));
+    } while (FindNextFileW(handle.get(), &data));
+    return found;
+}
+
+bool Win32FileSystem::FullPathName(const std::wstring& path, size_t bufferChars, std::wstring& full) {
+    std::vector<wchar_t> buffer(bufferChars ? bufferChars : 1);
+    DWORD length = GetFullPathNameW(path.c_str(), static_cast<DWORD>(bufferChars), buffer.data(), nullptr);
+    if (length == 0 || length >= bufferChars) return false;
+    full.assign(buffer.data(), length);
+    return true;
+}
+
+bool Win32FileSystem::LongPathName(const std::wstring& path, std::wstring& longPath) {
+    std::vector<wchar_t> buffer(MAX_PATH);
+    for (;;) {
+        DWORD length = GetLongPathNameW(path.c_str(), buffer.data(), static_cast<DWORD>(buffer.size()));
+        if (length == 0) return false;
+        if (length < buffer.size()) {
+            longPath.assign(buffer.data(), length);
+            return true;
+        }
+        buffer.resize(length);
+    }
+}
+
+int Win32FileSystem::CreateDirectoryTree(const std::wstring& path) {
+    return SHCreateDirectory(nullptr, path.c_str());
+}
+
+int Win32FileSystem::ShellVersion() {
+    static const int version = ReadShellVersion();
+    return version;
+}
+
+std::unique_ptr<File> Win32FileSystem::Open(const std::wstring& path, FileAccess access, bool denyWrite) {
+    int flags = _O_BINARY;
+    switch (access) {
+        case FileAccess::Read:
+            flags |= _O_RDONLY | _O_SEQUENTIAL;
+            break;
+        case FileAccess::Write:
+            flags |= _O_WRONLY | _O_CREAT | _O_TRUNC;
+            break;
+        case FileAccess::Append:
+            flags |= _O_WRONLY | _O_CREAT | _O_APPEND;
+            break;
+    }
+    int descriptor = -1;
+    if (_wsopen_s(&descriptor, path.c_str(), flags, denyWrite ? _SH_DENYWR : _SH_DENYNO, _S_IREAD | _S_IWRITE) != 0)
+        return nullptr;
+    return std::make_unique<CrtFile>(descriptor);
+}
+
+}  // namespace platform::win32

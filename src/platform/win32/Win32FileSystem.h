@@ -1,0 +1,43 @@
+// Files and directories through the Win32 API and the C runtime.
+#pragma once
+
+#include <windows.h>
+
+#include "platform/FileSystem.h"
+
+namespace platform::win32 {
+
+// Owns a search handle of FindFirstFileW and closes it.
+class UniqueFindHandle {
+public:
+    explicit UniqueFindHandle(HANDLE handle) : handle_(handle) {}
+    UniqueFindHandle(UniqueFindHandle&& other) noexcept : handle_(other.handle_) {
+        other.handle_ = INVALID_HANDLE_VALUE;
+    }
+    UniqueFindHandle& operator=(UniqueFindHandle&&) = delete;
+    UniqueFindHandle(const UniqueFindHandle&) = delete;
+    UniqueFindHandle& operator=(const UniqueFindHandle&) = delete;
+    ~UniqueFindHandle() {
+        if (valid()) FindClose(handle_);
+    }
+
+    HANDLE get() const { return handle_; }
+    bool valid() const { return handle_ != INVALID_HANDLE_VALUE; }
+
+private:
+    HANDLE handle_;
+};
+
+class Win32FileSystem : public FileSystem {
+public:
+    uint32_t GetAttributes(const std::wstring& path) override;
+    bool FindFirst(const std::wstring& pattern, FindStyle style, FindData& found) override;
+    std::vector<FindData> FindAll(const std::wstring& pattern, FindStyle style) override;
+    bool FullPathName(const std::wstring& path, size_t bufferChars, std::wstring& full) override;
+    bool LongPathName(const std::wstring& path, std::wstring& longPath) override;
+    int CreateDirectoryTree(const std::wstring& path) override;
+    int ShellVersion() override;
+    std::unique_ptr<File> Open(const std::wstring& path, FileAccess access, bool denyWrite) override;
+};
+
+}  // namespace platform::win32

@@ -1,0 +1,31 @@
+// The real platform, put in force for the lifetime of the object: the program holds one from
+// start to end.
+#pragma once
+
+#include "platform/Platform.h"
+#include "platform/win32/Win32Environment.h"
+#include "platform/win32/Win32FileSystem.h"
+#include "platform/win32/Win32Prompts.h"
+#include "platform/win32/Win32Registry.h"
+
+namespace platform::win32 {
+
+class Win32Platform {
+public:
+    Win32Platform();
+    ~Win32Platform();
+    Win32Platform(const Win32Platform&) = delete;
+    Win32Platform& operator=(const Win32Platform&) = delete;
+
+    Platform& platform() { return platform_; }
+
+private:
+    Win32Registry registry_;
+    Win32FileSystem files_;
+    Win32Environment environment_;
+    Win32Prompts prompts_;
+    Platform platform_{registry_, files_, environment_, prompts_};
+    Installed installed_{platform_};
+};
+
+}  // namespace platform::win32

@@ -1,0 +1,368 @@
+// One set of expectations for the fake file system and, in the Windows build, the real one.
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <set>
+#include <string>
+#include <vector>
+
+#include "platform/fake/FakeFileSystem.h"
+
+#include "unit/platform/ContractSuite.h"
+
+#ifdef _WIN32
+#include <windows.h>
+
+#include "platform/win32/Win32FileSystem.h"
+#endif
+
+namespace {
+
+using platform::FileAccess;
+using platform::FileSystem;
+using platform::FindData;
+using platform::FindStyle;
+
+// A file system, an empty scratch directory that is also the current directory, and what the
+// interface itself cannot do: learn an entry's 8.3 name.
+class FileSystemHarness {
+public:
+    virtual ~FileSystemHarness() = default;
+    virtual FileSystem& files() = 0;
+    // Absolute, in long form, without a trailing separator.
+    virtual std::wstring scratch() const = 0;
+    // The path with its last name in 8.3 form; empty when the file system has none.
+    virtual std::wstring ShortForm(const std::wstring& path) = 0;
+};
+
+class FakeHarness : public FileSystemHarness {
+public:
+    FakeHarness() {
+        files_.AddDirectory(scratch());
+        files_.ChangeDirectory(scratch());
+    }
+    FileSystem& files() override { return files_; }
+    std::wstring scratch() const override { return L"C:\\Users\\Tester\\AppData\\Local\\Temp\\OptionTests"; }
+    std::wstring ShortForm(const std::wstring& path) override {
+        files_.SetShortName(path, L"LONGDI~1");
+        return path.substr(0, path.find_last_of(L'\\') + 1) + L"LONGDI~1";
+    }
+
+private:
+    platform::fake::FakeFileSystem files_;
+};
+
+#ifdef _WIN32
+void RemoveTree(const std::wstring& directory) {
+    WIN32_FIND_DATAW data;
+    HANDLE find = FindFirstFileW((directory + L"\\*").c_str(), &data);
+    if (find != INVALID_HANDLE_VALUE) {
+        do {
+            std::wstring name = data.cFileName;
+            if (name == L"." || name == L"..") continue;
+            std::wstring path = directory + L"\\" + name;
+            if (data.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) {
+                RemoveTree(path);
+            } else {
+                SetFileAttributesW(path.c_str(), FILE_ATTRIBUTE_NORMAL);
+                DeleteFileW(path.c_str());
+            }
+        } while (FindNextFileW(find, &data));
+        FindClose(find);
+    }
+    RemoveDirectoryW(directory.c_str());
+}
+
+class RealHarness : public FileSystemHarness {
+public:
+    RealHarness() {
+        static int counter = 0;
+        wchar_t temp[MAX_PATH];
+        GetTempPathW(MAX_PATH, temp);
+        wchar_t longTemp[MAX_PATH];
+        GetLongPathNameW(temp, longTemp, MAX_PATH);
+        scratch_ = std::wstring(longTemp) + L"OptionTests-" + std::to_wstring(GetCurrentProcessId()) + L"-" +
+                   std::to_wstring(++counter);
+        CreateDirectoryW(scratch_.c_str(), nullptr);
+        GetCurrentDirectoryW(MAX_PATH, previous_);
+        SetCurrentDirectoryW(scratch_.c_str());
+    }
+    ~RealHarness() override {
+        SetCurrentDirectoryW(previous_);
+        RemoveTree(scratch_);
+    }
+    FileSystem& files() override { return files_; }
+    std::wstring scratch() const override { return scratch_; }
+    std::wstring ShortForm(const std::wstring& path) override {
+        wchar_t shortPath[MAX_PATH];
+        DWORD length = GetShortPathNameW(path.c_str(), shortPath, MAX_PATH);
+        if (length == 0 || length >= MAX_PATH) return std::wstring();
+        std::wstring shortName(shortPath, length);
+        return path.substr(0, path.find_last_of(L'\\') + 1) + shortName.substr(shortName.find_last_of(L'\\') + 1);
+    }
+
+private:
+    platform::win32::Win32FileSystem files_;
+    std::wstring scratch_;
+    wchar_t previous_[MAX_PATH] = {};
+};
+#else
+using RealHarness = void;  // the native build has only the fake
+#endif
+
+using Implementation = contract::Implementation<FileSystemHarness>;
+
+class FileSystemContract : public testing::TestWithParam<Implementation> {
+protected:
+    void SetUp() override {
+        harness_ = GetParam().make();
+        root_ = harness_->scratch();
+    }
+
+    FileSystem& files() { return harness_->files(); }
+    std::wstring At(const std::wstring& below) const { return root_ + L"\\" + below; }
+
+    bool WriteFile(const std::wstring& path, const std::string& bytes, FileAccess access = FileAccess::Write) {
+        auto file = files().Open(path, access, false);
+        return file && file->Write(bytes.data(), bytes.size()) == bytes.size();
+    }
+
+    std::string ReadFile(const std::wstring& path) {
+        auto file = files().Open(path, FileAccess::Read, false);
+        if (!file) return "<cannot open>";
+        std::string bytes(static_cast<size_t>(file->Size()), '\0');
+        bytes.resize(file->Read(bytes.data(), bytes.size()));
+        return bytes;
+    }
+
+    std::set<std::wstring> FoundNames(const std::wstring& pattern, FindStyle style) {
+        std::set<std::wstring> names;
+        for (const FindData& found : files().FindAll(pattern, style)) names.insert(found.name);
+        return names;
+    }
+
+    std::unique_ptr<FileSystemHarness> harness_;
+    std::wstring root_;
+};
+
+TEST_P(FileSystemContract, FullPathsFollowTheRealRules) {
+    std::wstring parent = root_.substr(0, root_.find_last_of(L'\\'));
+    std::wstring drive = root_.substr(0, 2);
+    struct Case {
+        std::wstring path;
+        std::wstring full;
+    };
+    const Case cases[] = {
+        {L"a\\..\\b\\.\\c", At(L"b\\c")},
+        {L"x/y", At(L"x\\y")},
+        {At(L"dir\\name. . "), At(L"dir\\name")},  // trailing dots and blanks of the last name
+        {At(L"na.me.\\x"), At(L"na.me\\x")},       // trailing dots of any name
+        {At(L"a\\\\b"), At(L"a\\b")},
+        {At(L"a\\b\\"), At(L"a\\b\\")},
+        {At(L"a\\b\\."), At(L"a\\b")},
+        {L".", root_},
+        {L"..", parent},
+        {drive + L"\\a\\..\\..\\..", drive + L"\\"},
+        {L"\\top", drive + L"\\top"},
+    };
+    for (const Case& c : cases) {
+        std::wstring full = L"poison";
+        EXPECT_TRUE(files().FullPathName(c.path, 1024, full)) << testing::PrintToString(c.path);
+        EXPECT_EQ(c.full, full) << testing::PrintToString(c.path);
+    }
+    std::wstring full;
+    EXPECT_FALSE(files().FullPathName(L"", 1024, full));
+}
+
+TEST_P(FileSystemContract, FullPathNeedsRoomForTheTerminator) {
+    std::wstring path = At(L"abc");
+    std::wstring full = L"poison";
+    EXPECT_FALSE(files().FullPathName(path, path.size(), full));
+    EXPECT_TRUE(files().FullPathName(path, path.size() + 1, full));
+    EXPECT_EQ(path, full);
+}
+
+TEST_P(FileSystemContract, CreatingDirectoriesGivesTheShellCodes) {
+    ASSERT_TRUE(WriteFile(At(L"file"), "x"));
+    struct Case {
+        std::wstring path;
+        int result;
+    };
+    const Case cases[] = {
+        {At(L"a\\b\\c"), 0},    // with every missing parent
+        {At(L"A\\B\\C"), 183},  // already there
+        {At(L"t\\"), 0},        // a trailing separator
+        {At(L"file"), 183},     // a file of that name
+        {At(L"file\\sub"), 3},  // below a file
+        {L"rel\\x", 161},       // relative
+        {L"", 161},
+    };
+    for (const Case& c : cases)
+        EXPECT_EQ(c.result, files().CreateDirectoryTree(c.path)) << testing::PrintToString(c.path);
+    for (const wchar_t* made : {L"a", L"a\\b\\c", L"t"})
+        EXPECT_EQ(platform::kAttributeDirectory, files().GetAttributes(At(made)) & platform::kAttributeDirectory)
+            << testing::PrintToString(made);
+    EXPECT_EQ(platform::kInvalidAttributes, files().GetAttributes(At(L"file\\sub")));
+}
+
+TEST_P(FileSystemContract, AttributesTellDirectoriesFilesAndNothing) {
+    ASSERT_EQ(0, files().CreateDirectoryTree(At(L"dir")));
+    ASSERT_TRUE(WriteFile(At(L"file.txt"), "x"));
+    struct Case {
+        std::wstring path;
+        bool exists;
+        bool directory;
+    };
+    const Case cases[] = {
+        {At(L"dir"), true, true},       {At(L"DIR\\"), true, true},     {At(L"file.txt"), true, false},
+        {At(L"FILE.TXT"), true, false}, {At(L"missing"), false, false}, {L"dir", true, true},
+    };
+    for (const Case& c : cases) {
+        uint32_t attributes = files().GetAttributes(c.path);
+        EXPECT_EQ(c.exists, attributes != platform::kInvalidAttributes) << testing::PrintToString(c.path);
+        if (c.exists) {
+            EXPECT_EQ(c.directory, (attributes & platform::kAttributeDirectory) != 0) << testing::PrintToString(c.path);
+        }
+    }
+}
+
+TEST_P(FileSystemContract, FindMatchesWildcardsInTheLastName) {
+    for (const wchar_t* name : {L"alpha.txt", L"beta.txt", L"Gamma.log"}) ASSERT_TRUE(WriteFile(At(name), "12345"));
+    ASSERT_EQ(0, files().CreateDirectoryTree(At(L"sub")));
+    using Names = std::set<std::wstring>;
+    struct Case {
+        std::wstring pattern;
+        Names names;
+    };
+    const Case cases[] = {
+        {At(L"*.txt"), {L"alpha.txt", L"beta.txt"}},
+        {At(L"?eta.*"), {L"beta.txt"}},
+        {At(L"GAMMA.LOG"), {L"Gamma.log"}},  // the name as stored
+        {At(L"*"), {L".", L"..", L"alpha.txt", L"beta.txt", L"Gamma.log", L"sub"}},
+        {At(L"sub\\*"), {L".", L".."}},
+        {At(L"nothing*"), {}},
+        {At(L"sub\\"), {}},  // a trailing separator finds nothing
+        {At(L"missing\\*"), {}},
+    };
+    for (FindStyle style : {FindStyle::Plain, FindStyle::BasicLargeFetch}) {
+        for (const Case& c : cases) {
+            EXPECT_EQ(c.names, FoundNames(c.pattern, style)) << testing::PrintToString(c.pattern);
+            FindData first;
+            EXPECT_EQ(!c.names.empty(), files().FindFirst(c.pattern, style, first))
+                << testing::PrintToString(c.pattern);
+            if (!c.names.empty()) {
+                EXPECT_EQ(1u, c.names.count(first.name)) << testing::PrintToString(first.name);
+            }
+        }
+    }
+    FindData found;
+    ASSERT_TRUE(files().FindFirst(At(L"beta.txt"), FindStyle::Plain, found));
+    EXPECT_EQ(5u, found.size);
+    EXPECT_EQ(0u, found.attributes & platform::kAttributeDirectory);
+    ASSERT_TRUE(files().FindFirst(At(L"sub"), FindStyle::BasicLargeFetch, found));
+    EXPECT_NE(0u, found.attributes & platform::kAttributeDirectory);
+}
+
+TEST_P(FileSystemContract, OpenModesReadWriteAndAppend) {
+    std::wstring path = At(L"data.bin");
+    EXPECT_EQ(nullptr, files().Open(path, FileAccess::Read, false)) << "reading needs the file";
+    ASSERT_TRUE(WriteFile(path, std::string("ab\0c", 4)));
+    EXPECT_EQ(std::string("ab\0c", 4), ReadFile(path));
+    ASSERT_TRUE(WriteFile(path, "de", FileAccess::Append));
+    EXPECT_EQ(std::string("ab\0cde", 6), ReadFile(path));
+    ASSERT_TRUE(WriteFile(path, "f"));
+    EXPECT_EQ("f", ReadFile(path)) << "writing starts the file afresh";
+    ASSERT_TRUE(WriteFile(At(L"new.bin"), "g", FileAccess::Append));
+    EXPECT_EQ("g", ReadFile(At(L"new.bin")));
+    EXPECT_EQ("f", ReadFile(L"\\\\?\\" + path)) << "the long-path form";
+
+    ASSERT_EQ(0, files().CreateDirectoryTree(At(L"dir")));
+    EXPECT_EQ(nullptr, files().Open(At(L"dir"), FileAccess::Read, false));
+    EXPECT_EQ(nullptr, files().Open(At(L"dir"), FileAccess::Write, false));
+    EXPECT_EQ(nullptr, files().Open(At(L"missing\\x.bin"), FileAccess::Write, false));
+}
+
+TEST_P(FileSystemContract, DenyWriteKeepsWritersOut) {
+    std::wstring path = At(L"locked.txt");
+    ASSERT_TRUE(WriteFile(path, "kept"));
+    struct Case {
+        FileAccess access;
+        bool denyWrite;
+        bool opens;
+    };
+    const Case whileReaderDeniesWrite[] = {
+        {FileAccess::Write, false, false},
+        {FileAccess::Append, false, false},
+        {FileAccess::Read, false, true},
+        {FileAccess::Read, true, true},
+    };
+    {
+        auto holder = files().Open(path, FileAccess::Read, true);
+        ASSERT_TRUE(holder);
+        for (const Case& c : whileReaderDeniesWrite) {
+            auto other = files().Open(path, c.access, c.denyWrite);
+            EXPECT_EQ(c.opens, other != nullptr) << "access " << static_cast<int>(c.access) << " deny " << c.denyWrite;
+        }
+    }
+    EXPECT_EQ("kept", ReadFile(path));
+    auto writer = files().Open(path, FileAccess::Append, false);
+    ASSERT_TRUE(writer) << "the file is free once the holder closes it";
+    EXPECT_EQ(nullptr, files().Open(path, FileAccess::Read, true))
+        << "write denial cannot be had while a writer holds it";
+    EXPECT_NE(nullptr, files().Open(path, FileAccess::Read, false));
+}
+
+TEST_P(FileSystemContract, LongPathNamesExpandShortNames) {
+    std::wstring longDirectory = At(L"Long Directory Name");
+    ASSERT_EQ(0, files().CreateDirectoryTree(longDirectory));
+    ASSERT_TRUE(WriteFile(longDirectory + L"\\inner.txt", "x"));
+    std::wstring longPath;
+    EXPECT_TRUE(files().LongPathName(longDirectory + L"\\inner.txt", longPath));
+    EXPECT_EQ(longDirectory + L"\\inner.txt", longPath) << "a long path stays as it is";
+    EXPECT_FALSE(files().LongPathName(At(L"missing"), longPath));
+
+    std::wstring shortDirectory = harness_->ShortForm(longDirectory);
+    if (shortDirectory.empty()) GTEST_SKIP() << "no 8.3 names on this volume";
+    ASSERT_NE(longDirectory, shortDirectory);
+    EXPECT_TRUE(files().LongPathName(shortDirectory + L"\\inner.txt", longPath));
+    EXPECT_EQ(longDirectory + L"\\inner.txt", longPath);
+    EXPECT_EQ("x", ReadFile(shortDirectory + L"\\inner.txt")) << "the short name reaches the file";
+}
+
+TEST_P(FileSystemContract, ShellVersionIsAVersionNumber) {
+    int version = files().ShellVersion();
+    EXPECT_GE(version, 500);
+    EXPECT_LT(version, 10000);
+    EXPECT_EQ(version, files().ShellVersion());
+}
+
+INSTANTIATE_TEST_SUITE_P(FileSystem, FileSystemContract,
+                         testing::ValuesIn(contract::Implementations<FileSystemHarness, FakeHarness, RealHarness>()),
+                         contract::NameOf());
+
+TEST(FakeFileSystem, ShortNamesDrivesAndScene) {
+    platform::fake::FakeFileSystem files;
+    ASSERT_TRUE(files.AddFile(L"C:\\Program Files\\Qor\\Qor.exe", "MZ"));
+    ASSERT_TRUE(files.SetShortName(L"C:\\Program Files", L"PROGRA~1"));
+    std::wstring longPath;
+    EXPECT_TRUE(files.LongPathName(L"c:\\progra~1\\QOR\\qor.exe", longPath));
+    EXPECT_EQ(L"c:\\Program Files\\QOR\\qor.exe", longPath) << "only the short name changes";
+    EXPECT_EQ("MZ", files.FileText(L"C:\\PROGRA~1\\Qor\\Qor.exe"));
+
+    EXPECT_EQ(platform::kInvalidAttributes, files.GetAttributes(L"D:\\"));
+    files.AddDrive(L'd');
+    EXPECT_EQ(platform::kAttributeDirectory, files.GetAttributes(L"D:\\"));
+    files.ChangeDirectory(L"D:\\work\\");
+    std::wstring full;
+    EXPECT_TRUE(files.FullPathName(L"x", 260, full));
+    EXPECT_EQ(L"D:\\work\\x", full);
+
+    FindData found;
+    files.FindFirst(L"C:\\*", platform::FindStyle::BasicLargeFetch, found);
+    EXPECT_EQ(L"Program Files", found.name) << "a drive root has no dot entries";
+    EXPECT_EQ(platform::FindStyle::BasicLargeFetch, files.lastFindStyle());
+    files.SetShellVersion(601);
+    EXPECT_EQ(601, files.ShellVersion());
+}
+
+}  // namespace

@@ -1,0 +1,391 @@
+// One set of expectations for the fake registry and, in the Windows build, the real one.
+#include <gtest/gtest.h>
+
+#include <cstring>
+#include <functional>
+#include <memory>
+#include <set>
+#include <string>
+#include <vector>
+
+#include "platform/fake/FakeRegistry.h"
+
+#include "unit/platform/ContractSuite.h"
+
+#ifdef _WIN32
+#include <windows.h>
+
+#include "platform/win32/Win32Registry.h"
+#endif
+
+namespace {
+
+using platform::Registry;
+using platform::RegistryKey;
+
+// A registry and an empty scratch key in it, gone again with the harness.
+class RegistryHarness {
+public:
+    virtual ~RegistryHarness() = default;
+    virtual Registry& registry() = 0;
+    virtual std::wstring scratch() const = 0;
+    // Wine keeps values sorted by name; Windows and the fake keep the order of creation.
+    virtual bool valuesInCreationOrder() const = 0;
+};
+
+class FakeHarness : public RegistryHarness {
+public:
+    FakeHarness() {
+        std::unique_ptr<RegistryKey> key;
+        registry_.CreateKey(scratch(), key);
+    }
+    Registry& registry() override { return registry_; }
+    std::wstring scratch() const override { return L"Software\\Tarnwick\\OptionTests\\fake"; }
+    bool valuesInCreationOrder() const override { return true; }
+
+private:
+    platform::fake::FakeRegistry registry_;
+};
+
+#ifdef _WIN32
+bool UnderWine() {
+    return GetProcAddress(GetModuleHandleW(L"ntdll.dll"), "wine_get_version") != nullptr;
+}
+
+class RealHarness : public RegistryHarness {
+public:
+    RealHarness() {
+        static int counter = 0;
+        scratch_ = L"Software\\Tarnwick\\OptionTests\\" + std::to_wstring(GetCurrentProcessId()) + L"-" +
+                   std::to_wstring(++counter);
+        std::unique_ptr<RegistryKey> key;
+        registry_.CreateKey(scratch_, key);
+    }
+    ~RealHarness() override {
+        RegDeleteTreeW(HKEY_CURRENT_USER, scratch_.c_str());
+        RegDeleteKeyW(HKEY_CURRENT_USER, L"Software\\Tarnwick\\OptionTests");  // when no other run is left
+    }
+    Registry& registry() override { return registry_; }
+    std::wstring scratch() const override { return scratch_; }
+    bool valuesInCreationOrder() const override { return !UnderWine(); }
+
+private:
+    platform::win32::Win32Registry registry_;
+    std::wstring scratch_;
+};
+#else
+using RealHarness = void;  // the native build has only the fake
+#endif
+
+using Implementation = contract::Implementation<RegistryHarness>;
+
+std::vector<uint8_t> Bytes(const void* data, size_t size) {
+    auto* bytes = static_cast<const uint8_t*>(data);
+    return std::vector<uint8_t>(bytes, bytes + size);
+}
+
+class RegistryContract : public testing::TestWithParam<Implementation> {
+protected:
+    void SetUp() override { harness_ = GetParam().make(); }
+
+    Registry& registry() { return harness_->registry(); }
+    std::wstring Path(const std::wstring& below) { return harness_->scratch() + L"\\" + below; }
+
+    std::unique_ptr<RegistryKey> Create(const std::wstring& below) {
+        std::unique_ptr<RegistryKey> key;
+        EXPECT_EQ(0, registry().CreateKey(Path(below), key)) << "creating " << testing::PrintToString(below);
+        return key;
+    }
+
+    // The value's bytes, or an empty vector with the failure reported.
+    std::vector<uint8_t> Read(RegistryKey& key, const std::wstring& name, uint32_t* type = nullptr) {
+        uint32_t size = 0;
+        if (key.QueryValue(name, type, nullptr, &size) != 0) return {};
+        std::vector<uint8_t> data(size + 1, 0xEE);
+        EXPECT_EQ(0, key.QueryValue(name, type, data.data(), &size));
+        data.resize(size);
+        return data;
+    }
+
+    // Names by index until the end, which must be reported as no more items.
+    static std::vector<std::wstring> Enumerate(const std::function<long(uint32_t, std::wstring&)>& nameAt) {
+        std::vector<std::wstring> names;
+        std::wstring name;
+        uint32_t index = 0;
+        while (nameAt(index++, name) == 0) names.push_back(name);
+        EXPECT_EQ(259, nameAt(index - 1, name));
+        return names;
+    }
+    static std::vector<std::wstring> ValueNames(RegistryKey& key) {
+        return Enumerate([&](uint32_t index, std::wstring& name) { return key.EnumValueName(index, name); });
+    }
+    static std::vector<std::wstring> SubkeyNames(RegistryKey& key) {
+        return Enumerate([&](uint32_t index, std::wstring& name) { return key.EnumKeyName(index, name); });
+    }
+
+    std::unique_ptr<RegistryHarness> harness_;
+};
+
+TEST_P(RegistryContract, StringWithoutTerminatorReadsBackByteExact) {
+    auto key = Create(L"k");
+    const char16_t text[] = u"abcX";  // only "abc" is counted; the X behind it is no terminator
+    ASSERT_EQ(0, key->SetValue(L"s", platform::kRegSz, text, 6));
+
+    uint32_t type = 0;
+    uint32_t size = 0;
+    EXPECT_EQ(0, key->QueryValue(L"s", &type, nullptr, &size));
+    EXPECT_EQ(platform::kRegSz, type);
+    EXPECT_EQ(6u, size);
+    EXPECT_EQ(Bytes(text, 6), Read(*key, L"s"));
+}
+
+TEST_P(RegistryContract, StringTypesCountATerminatorThatFollowsTheData) {
+    struct Case {
+        uint32_t type;
+        uint32_t size;
+        uint32_t stored;
+    };
+    const Case cases[] = {
+        {platform::kRegSz, 6, 8},                                  // "abc" counted, its terminator behind it
+        {platform::kRegExpandSz, 6, 8}, {platform::kRegSz, 8, 8},  // terminator counted by the caller
+        {platform::kRegSz, 5, 5},      // odd count: the last counted unit is no whole character
+        {platform::kRegBinary, 6, 6},  // other types are stored as counted
+    };
+    auto key = Create(L"k");
+    const char16_t text[] = u"abc";
+    for (const Case& c : cases) {
+        ASSERT_EQ(0, key->SetValue(L"v", c.type, text, c.size));
+        std::vector<uint8_t> stored = Read(*key, L"v");
+        EXPECT_EQ(c.stored, stored.size()) << "type " << c.type << ", " << c.size << " bytes";
+        EXPECT_EQ(Bytes(text, c.stored), stored);
+    }
+}
+
+TEST_P(RegistryContract, ReadsFollowTheSizeRules) {
+    auto key = Create(L"k");
+    std::vector<char16_t> units(16400, u'z');  // no NUL behind the counted part
+    std::u16string terminated(16384, u'z');    // 32,768 bytes with the terminator behind them
+    uint32_t dword = 7;
+    ASSERT_EQ(0, key->SetValue(L"exact", platform::kRegSz, units.data(), 32768));
+    ASSERT_EQ(0, key->SetValue(L"over", platform::kRegSz, units.data(), 32770));
+    ASSERT_EQ(0, key->SetValue(L"terminated", platform::kRegSz, terminated.c_str(), 32768));
+    ASSERT_EQ(0, key->SetValue(L"short", platform::kRegSz, u"abcdef", 12));
+    ASSERT_EQ(0, key->SetValue(L"dword", platform::kRegDword, &dword, 4));
+
+    struct Case {
+        const wchar_t* name;
+        uint32_t buffer;
+        long result;
+        uint32_t size;
+    };
+    const Case cases[] = {
+        {L"exact", 32768, 0, 32768},  {L"over", 32768, 234, 32770}, {L"terminated", 32768, 234, 32770},
+        {L"short", 4, 234, 14},       {L"dword", 4, 0, 4},          {L"dword", 2, 234, 4},
+        {L"absent", 32768, 2, 32768},
+    };
+    std::vector<uint8_t> buffer(32768);
+    for (const Case& c : cases) {
+        uint32_t size = c.buffer;
+        EXPECT_EQ(c.result, key->QueryValue(c.name, nullptr, buffer.data(), &size)) << testing::PrintToString(c.name);
+        EXPECT_EQ(c.size, size) << testing::PrintToString(c.name) << " into " << c.buffer;
+    }
+    uint32_t size = 0;
+    EXPECT_EQ(0, key->QueryValue(L"over", nullptr, nullptr, &size));
+    EXPECT_EQ(32770u, size);
+    EXPECT_EQ(87, key->QueryValue(L"dword", nullptr, buffer.data(), nullptr));
+}
+
+TEST_P(RegistryContract, NamesIgnoreLetterCase) {
+    auto key = Create(L"Mixed\\Case\\Ärger");
+    uint32_t one = 1;
+    uint32_t two = 2;
+    ASSERT_EQ(0, key->SetValue(L"Alpha", platform::kRegDword, &one, 4));
+    ASSERT_EQ(0, key->SetValue(L"\u03A9mega", platform::kRegDword, &one, 4));  // Greek capital omega
+    ASSERT_EQ(0, key->SetValue(L"ALPHA", platform::kRegDword, &two, 4));       // the same value
+
+    EXPECT_EQ(Bytes(&two, 4), Read(*key, L"alpha"));
+    EXPECT_EQ(Bytes(&one, 4), Read(*key, L"\u03C9MEGA"));
+    EXPECT_EQ((std::vector<std::wstring>{L"Alpha", L"\u03A9mega"}), ValueNames(*key)) << "first spelling stays";
+
+    for (const wchar_t* path : {L"MIXED\\case\\ärger", L"mixed\\CASE\\ÄRGER"}) {
+        std::unique_ptr<RegistryKey> other;
+        ASSERT_EQ(0, registry().OpenKey(Path(path), other)) << testing::PrintToString(path);
+        EXPECT_EQ(Bytes(&two, 4), Read(*other, L"Alpha"));
+    }
+}
+
+TEST_P(RegistryContract, DefaultValueHasTheEmptyName) {
+    auto key = Create(L"k");
+    ASSERT_EQ(0, key->SetValue(L"", platform::kRegSz, u"d", 4));
+    uint32_t type = 0;
+    EXPECT_EQ(Bytes(u"d", 4), Read(*key, L"", &type));
+    EXPECT_EQ(platform::kRegSz, type);
+    EXPECT_EQ(std::vector<std::wstring>{L""}, ValueNames(*key));
+    EXPECT_EQ(0, key->DeleteValue(L""));
+    uint32_t size = 0;
+    EXPECT_EQ(2, key->QueryValue(L"", nullptr, nullptr, &size));
+}
+
+TEST_P(RegistryContract, ValuesEnumerateOnceEach) {
+    auto key = Create(L"k");
+    const std::vector<std::wstring> created = {L"zeta", L"Alpha", L"", L"beta", L"B2"};
+    uint32_t data = 1;
+    for (const auto& name : created) ASSERT_EQ(0, key->SetValue(name, platform::kRegDword, &data, 4));
+    ASSERT_EQ(0, key->DeleteValue(L"BETA"));
+
+    std::vector<std::wstring> names = ValueNames(*key);
+    EXPECT_EQ((std::multiset<std::wstring>{L"zeta", L"Alpha", L"", L"B2"}),
+              std::multiset<std::wstring>(names.begin(), names.end()));
+    if (harness_->valuesInCreationOrder()) {
+        EXPECT_EQ((std::vector<std::wstring>{L"zeta", L"Alpha", L"", L"B2"}), names);
+    }
+}
+
+TEST_P(RegistryContract, EnumeratingValuesRespectsTheCallersBuffers) {
+    auto key = Create(L"k");
+    std::vector<uint8_t> big(2000, 'q');
+    ASSERT_EQ(0, key->SetValue(L"LongValueName", platform::kRegBinary, big.data(), 2000));  // 13 characters
+
+    std::wstring name = L"poison";
+    EXPECT_EQ(234, key->EnumValue(0, 13, name, nullptr, nullptr, nullptr)) << "no room for the terminator";
+    EXPECT_EQ(L"poison", name);
+    EXPECT_EQ(0, key->EnumValue(0, 14, name, nullptr, nullptr, nullptr));
+    EXPECT_EQ(L"LongValueName", name);
+
+    std::vector<uint8_t> data(1024);
+    uint32_t type = 0;
+    uint32_t size = 1024;
+    name = L"poison";
+    EXPECT_EQ(234, key->EnumValue(0, 520, name, &type, data.data(), &size));
+    EXPECT_EQ(L"LongValueName", name) << "the name comes even when the data does not fit";
+    EXPECT_EQ(2000u, size);
+    EXPECT_EQ(platform::kRegBinary, type);
+
+    uint32_t dword = 49033;
+    ASSERT_EQ(0, key->SetValue(L"LongValueName", platform::kRegDword, &dword, 4));
+    uint32_t read = 0;
+    size = 4;
+    EXPECT_EQ(0, key->EnumValue(0, 520, name, &type, &read, &size));
+    EXPECT_EQ(49033u, read);
+    EXPECT_EQ(259, key->EnumValue(1, 520, name, &type, &read, &size));
+}
+
+TEST_P(RegistryContract, SubkeysEnumerateInAlphabeticalOrder) {
+    auto key = Create(L"k");
+    for (const wchar_t* name : {L"zeta", L"Alpha", L"beta", L"a1", L"B2"}) Create(std::wstring(L"k\\") + name);
+    EXPECT_EQ((std::vector<std::wstring>{L"a1", L"Alpha", L"B2", L"beta", L"zeta"}), SubkeyNames(*key));
+}
+
+TEST_P(RegistryContract, DeletingFollowsTheRules) {
+    Create(L"parent\\child");
+    Create(L"leaf");
+    struct Case {
+        const wchar_t* path;
+        long result;
+    };
+    const Case cases[] = {
+        {L"parent", 5},           // a key with subkeys stays
+        {L"absent", 2},           //
+        {L"no\\such", 2},         // a missing key on the way
+        {L"LEAF", 0},             // any letter case
+        {L"leaf", 2},             // gone now
+        {L"parent\\child\\", 0},  // a trailing separator is ignored
+        {L"parent", 0},           // no subkeys any more
+    };
+    for (const Case& c : cases)
+        EXPECT_EQ(c.result, registry().DeleteKey(Path(c.path))) << testing::PrintToString(c.path);
+    auto key = Create(L"k");
+    EXPECT_EQ(2, key->DeleteValue(L"absent"));
+}
+
+TEST_P(RegistryContract, HandlesToADeletedKeyFail) {
+    auto held = Create(L"gone");
+    ASSERT_EQ(0, registry().DeleteKey(Path(L"gone")));
+    auto again = Create(L"gone");  // a new key of the same path does not revive the old handle
+
+    uint32_t data = 1;
+    uint32_t size = 4;
+    std::wstring name;
+    EXPECT_EQ(1018, held->SetValue(L"v", platform::kRegDword, &data, 4));
+    EXPECT_EQ(1018, held->QueryValue(L"v", nullptr, &data, &size));
+    EXPECT_EQ(1018, held->DeleteValue(L"v"));
+    EXPECT_EQ(1018, held->EnumValueName(0, name));
+    EXPECT_EQ(1018, held->EnumKeyName(0, name));
+    EXPECT_EQ(0, again->SetValue(L"v", platform::kRegDword, &data, 4));
+}
+
+TEST_P(RegistryContract, CreateMakesEveryMissingKeyOnThePath) {
+    auto deep = Create(L"a\\b\\c\\d");
+    ASSERT_TRUE(deep);
+    for (const wchar_t* path : {L"a", L"a\\b", L"A\\B\\C", L"a\\b\\c\\D"}) {
+        std::unique_ptr<RegistryKey> key;
+        EXPECT_EQ(0, registry().OpenKey(Path(path), key)) << testing::PrintToString(path);
+    }
+    std::unique_ptr<RegistryKey> key;
+    EXPECT_EQ(2, registry().OpenKey(Path(L"a\\b\\x"), key));
+}
+
+TEST_P(RegistryContract, PathSpellingsAsTheRealRegistryTreatsThem) {
+    uint32_t data = 5;
+    Create(L"t")->SetValue(L"v", platform::kRegDword, &data, 4);
+    struct Case {
+        std::wstring path;
+        long result;
+    };
+    const Case cases[] = {
+        {Path(L"t\\"), 0},         {harness_->scratch() + L"\\\\t", 0}, {Path(L"t\\\\"), 0},
+        {L"\\" + Path(L"t"), 161}, {Path(std::wstring(299, L'k')), 87},
+    };
+    for (const Case& c : cases) {
+        std::unique_ptr<RegistryKey> opened;
+        EXPECT_EQ(c.result, registry().OpenKey(c.path, opened)) << "open " << testing::PrintToString(c.path);
+        if (opened) {
+            EXPECT_EQ(Bytes(&data, 4), Read(*opened, L"v"));
+        }
+        std::unique_ptr<RegistryKey> created;
+        EXPECT_EQ(c.result, registry().CreateKey(c.path, created)) << "create " << testing::PrintToString(c.path);
+    }
+    std::vector<std::wstring> expected = {L"t"};
+    EXPECT_EQ(expected, SubkeyNames(*Create(L""))) << "no empty-named key was made";
+}
+
+INSTANTIATE_TEST_SUITE_P(Registry, RegistryContract,
+                         testing::ValuesIn(contract::Implementations<RegistryHarness, FakeHarness, RealHarness>()),
+                         contract::NameOf());
+
+TEST(FakeRegistry, RefusesWritesWhenAsked) {
+    platform::fake::FakeRegistry registry;
+    std::unique_ptr<RegistryKey> key;
+    ASSERT_EQ(0, registry.CreateKey(L"Software\\Existing\\Child", key));
+    uint32_t data = 1;
+    ASSERT_EQ(0, key->SetValue(L"v", platform::kRegDword, &data, 4));
+    registry.RefuseWrites(true);
+
+    std::unique_ptr<RegistryKey> opened;
+    EXPECT_EQ(0, registry.CreateKey(L"software\\existing", opened)) << "an existing key still opens";
+    EXPECT_EQ(5, registry.CreateKey(L"Software\\Existing\\New", opened));
+    EXPECT_FALSE(registry.KeyExists(L"Software\\Existing\\New"));
+    EXPECT_EQ(5, key->SetValue(L"v", platform::kRegDword, &data, 4));
+    EXPECT_EQ(5, key->SetValue(L"w", platform::kRegDword, &data, 4));
+    EXPECT_EQ(5, key->DeleteValue(L"v"));
+    EXPECT_EQ(5, registry.DeleteKey(L"Software\\Existing\\Child"));
+    uint32_t size = 4;
+    EXPECT_EQ(0, key->QueryValue(L"v", nullptr, &data, &size)) << "reads go on";
+
+    registry.RefuseWrites(false);
+    EXPECT_EQ(0, registry.DeleteKey(L"Software\\Existing\\Child"));
+}
+
+TEST(FakeRegistry, CountsOpensAndLiveHandles) {
+    platform::fake::FakeRegistry registry;
+    std::unique_ptr<RegistryKey> first;
+    std::unique_ptr<RegistryKey> second;
+    registry.CreateKey(L"Software\\A", first);
+    registry.OpenKey(L"software\\a", second);
+    EXPECT_EQ(2, registry.openCount());
+    EXPECT_EQ(2, registry.liveHandles());
+    first.reset();
+    EXPECT_EQ(1, registry.liveHandles());
+}
+
+}  // namespace
