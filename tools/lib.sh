@@ -51,9 +51,8 @@ build_preset() {
 
 # Lays out an installation tree from sample/: the program two folders below the application root.
 stage() {
-  mkdir -p "$STAGE"
-  cp -a "$ROOT/sample/." "$STAGE/"
-  mkdir -p "$STAGE/command/Option"
+  mkdir -p "$STAGE/command/Option" "$STAGE/Lang"
+  if [ -d "$ROOT/sample" ]; then cp -a "$ROOT/sample/." "$STAGE/"; fi
   cp -a "$BUILD/win64/src/Option.exe" "$STAGE/command/Option/"
   local dll
   for dll in "$BUILD"/win64/sample/Lang/*.dll; do

@@ -48,6 +48,6 @@ std::wstring NormaliseLongName(const std::wstring& path) {
     }
     if (!HasShortNameComponent(text)) return text;
     std::wstring longPath;
-    if (platform::Current().files.GetLongPathName(text, longPath)) return longPath;
+    if (platform::Current().files.LongPathName(text, longPath)) return longPath;
     return text;
 }

@@ -41,7 +41,7 @@ std::wstring StripSeparatorRootSafe(const std::wstring& path) {
 
 std::wstring FullPath(const std::wstring& path) {
     std::wstring full;
-    if (platform::Current().files.GetFullPathName(path, path.size() + 1, full)) return full;
+    if (platform::Current().files.FullPathName(path, path.size() + 1, full)) return full;
     return path;
 }
 

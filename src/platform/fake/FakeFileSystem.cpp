@@ -105,7 +105,6 @@ bool Resolve(const std::wstring& path, const std::wstring& current, PathParts& p
         name.erase(keep == std::wstring::npos ? 0 : keep + 1);
         if (!name.empty()) parts.names.push_back(name);
     }
-    if (!raw.empty() && (raw.back() == L"." || raw.back() == L"..")) parts.trailingSeparator = false;
     return true;
 }
 

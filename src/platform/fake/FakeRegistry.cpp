@@ -52,7 +52,8 @@ long SplitPath(const std::wstring& path, std::vector<std::wstring>& names) {
     return kRegistryOk;
 }
 
-long CopyOut(const std::vector<uint8_t>& bytes, void* data, uint32_t* size) {
+// A string read with room to spare gets a terminator behind the data, as the system writes one.
+long CopyOut(uint32_t type, const std::vector<uint8_t>& bytes, void* data, uint32_t* size) {
     uint32_t stored = static_cast<uint32_t>(bytes.size());
     if (!data) {
         if (size) *size = stored;
@@ -64,6 +65,7 @@ long CopyOut(const std::vector<uint8_t>& bytes, void* data, uint32_t* size) {
         return kRegistryMoreData;
     }
     if (stored) std::memcpy(data, bytes.data(), stored);
+    if (IsStringType(type) && *size >= stored + 2) std::memset(static_cast<uint8_t*>(data) + stored, 0, 2);
     *size = stored;
     return kRegistryOk;
 }
@@ -109,7 +111,7 @@ public:
         if (!value) return kRegistryNotFound;
         if (data && !size) return kRegistryInvalidParameter;
         if (type) *type = value->type;
-        return CopyOut(value->bytes, data, size);
+        return CopyOut(value->type, value->bytes, data, size);
     }
 
     long SetValue(const std::wstring& name, uint32_t type, const void* data, uint32_t size) override {
@@ -148,7 +150,7 @@ public:
         if (data && !size) return kRegistryInvalidParameter;
         name = value.name;
         if (type) *type = value.type;
-        return CopyOut(value.bytes, data, size);
+        return CopyOut(value.type, value.bytes, data, size);
     }
 
     long EnumKeyName(uint32_t index, std::wstring& name) override {

@@ -5,8 +5,10 @@
 #include "platform/Platform.h"
 #include "platform/win32/Win32Environment.h"
 #include "platform/win32/Win32FileSystem.h"
+#include "platform/win32/Win32HostWindows.h"
 #include "platform/win32/Win32Prompts.h"
 #include "platform/win32/Win32Registry.h"
+#include "platform/win32/Win32System.h"
 
 namespace platform::win32 {
 
@@ -24,7 +26,9 @@ private:
     Win32FileSystem files_;
     Win32Environment environment_;
     Win32Prompts prompts_;
-    Platform platform_{registry_, files_, environment_, prompts_};
+    Win32System system_;
+    Win32HostWindows windows_;
+    Platform platform_{registry_, files_, environment_, prompts_, system_, windows_};
     Installed installed_{platform_};
 };
 

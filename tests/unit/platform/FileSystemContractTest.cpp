@@ -160,6 +160,8 @@ TEST_P(FileSystemContract, FullPathsFollowTheRealRules) {
         {At(L"a\\\\b"), At(L"a\\b")},
         {At(L"a\\b\\"), At(L"a\\b\\")},
         {At(L"a\\b\\."), At(L"a\\b")},
+        {At(L"a\\b\\..\\"), At(L"a\\")},  // a separator behind ".." stays
+        {At(L"a\\b\\.\\"), At(L"a\\b\\")},
         {L".", root_},
         {L"..", parent},
         {drive + L"\\a\\..\\..\\..", drive + L"\\"},

@@ -13,7 +13,7 @@ using platform::fake::FakePlatform;
 TEST(PathSystem, FullPathOnlyWhenTheResultFitsTheArgument) {
     FakePlatform fake;
     fake.files().AddDirectory(L"C:\\Qor\\command\\Option");
-    fake.files().SetCurrentDirectory(L"C:\\Qor");
+    fake.files().ChangeDirectory(L"C:\\Qor");
     struct Case {
         const wchar_t* path;
         const wchar_t* expected;

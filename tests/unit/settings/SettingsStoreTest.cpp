@@ -67,7 +67,7 @@ TEST(SettingsStore, IntegerReadsTakeFourBytesOverTheDefault) {
         {"dword", platform::kRegDword, {0x78, 0x56, 0x34, 0x12}, 0x12345678},
         {"negative", platform::kRegDword, {0xFF, 0xFF, 0xFF, 0xFF}, -1},
         {"long string", platform::kRegSz, Utf16Bytes(L"12345"), 0x0BADF00D},
-        {"short string", platform::kRegSz, Utf16Bytes(L"A"), 0x0BAD0041},
+        {"short string gets its terminator", platform::kRegSz, Utf16Bytes(L"A"), 0x41},
         {"two bytes", platform::kRegBinary, {0x01, 0x02}, 0x0BAD0201},
     };
     SettingsStore store;

@@ -64,7 +64,7 @@ TEST_F(SettingsStoreRegistryTest, IntegerReadsOfTextTakeFourBytesOrTheDefault) {
     SetRaw(L"Short", REG_SZ, Text(L"A"));
     SetRaw(L"Dword", REG_DWORD, {0x78, 0x56, 0x34, 0x12});
     EXPECT_EQ(0x0BADF00D, store.ReadInt(L"Long", 0x0BADF00D));
-    EXPECT_EQ(0x0BAD0041, store.ReadInt(L"Short", 0x0BADF00D));
+    EXPECT_EQ(0x41, store.ReadInt(L"Short", 0x0BADF00D)) << "the system writes a terminator behind";
     EXPECT_EQ(0x12345678, store.ReadInt(L"Dword", 0));
 }
 
