@@ -220,7 +220,8 @@ private:
         uint64_t bits = Next().Bits();
         bool narrow = spec.conversion == L'C' ? spec.size != Size::Long : spec.size == Size::Short;
         wchar_t c = static_cast<wchar_t>(narrow ? bits & 0xFF : bits & 0xFFFF);
-        Emit(spec, {}, std::wstring_view(&c, 1), true);
+        // A precision of 0 cuts the character like a one-character string.
+        Emit(spec, {}, std::wstring_view(&c, spec.precision == 0 ? 0 : 1), true);
     }
 
     void String(const Spec& spec) {
