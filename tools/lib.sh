@@ -7,8 +7,8 @@ STAGE="$BUILD/stage"
 export WINEPREFIX="$BUILD/wineprefix"
 export WINEARCH=win64
 export WINEDEBUG=${WINEDEBUG:--all}
-# No Mono or Gecko installer prompts in the private prefix.
-export WINEDLLOVERRIDES="mscoree,mshtml=;winemenubuilder.exe=d"
+# No Mono or Gecko installer prompts; a crashing program ends instead of waiting in the debugger.
+export WINEDLLOVERRIDES="mscoree,mshtml=;winemenubuilder.exe=d;winedbg.exe=d"
 
 # Debian packages the build, the tests and the screenshots need: command or file that proves each.
 PACKAGES=(
