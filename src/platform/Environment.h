@@ -3,6 +3,8 @@
 
 #include <string>
 
+#include "platform/LogFont.h"
+
 namespace platform {
 
 class Environment {
@@ -18,6 +20,8 @@ public:
     virtual std::wstring ModuleFileName() = 0;
     // GetSystemDirectoryW, without a trailing backslash.
     virtual std::wstring SystemDirectory() = 0;
+    // The font of icon titles (SPI_GETICONTITLELOGFONT): the default of every font setting.
+    virtual LogFont IconTitleFont() = 0;
 };
 
 } // namespace platform

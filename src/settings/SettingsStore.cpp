@@ -114,7 +114,8 @@ bool SettingsStore::WriteInt(const std::wstring& name, int32_t value) {
     return OpenKey() && SetInt(*key_, name, value);
 }
 
-void SettingsStore::ReadFont(LogFont& font, const LogFont& defaultFont) {
+void SettingsStore::ReadFont(LogFont& font) {
+    const LogFont defaultFont = platform::Current().environment.IconTitleFont();
     font = defaultFont;
     font.lfHeight = ReadInt(L"Point", defaultFont.lfHeight);
     font.lfWidth = ReadInt(L"Width", defaultFont.lfWidth);

@@ -8,7 +8,7 @@
 #include <vector>
 
 #include "platform/Registry.h"
-#include "settings/LogFont.h"
+#include "platform/LogFont.h"
 
 class SettingsStore {
 public:
@@ -31,9 +31,9 @@ public:
     // Stores the text without its terminator, as the host's own writer does.
     bool WriteString(const std::wstring& name, const std::wstring& text);
     bool WriteInt(const std::wstring& name, int32_t value);
-    // The twelve font values of the selected section over the given default; underline and strike-out
-    // are never stored and come back as 0.
-    void ReadFont(LogFont& font, const LogFont& defaultFont);
+    // The twelve font values of the selected section over the system's icon title font; underline and
+    // strike-out are never stored and come back as 0.
+    void ReadFont(LogFont& font);
     bool WriteFont(const LogFont& font);
 
     const std::wstring& current_path() const { return currentPath_; }

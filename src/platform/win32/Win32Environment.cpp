@@ -2,6 +2,8 @@
 
 #include <windows.h>
 
+#include <algorithm>
+#include <iterator>
 #include <vector>
 
 namespace platform::win32 {
@@ -37,6 +39,27 @@ std::wstring Win32Environment::SystemDirectory() {
     UINT length = GetSystemDirectoryW(buffer, MAX_PATH);
     if (length == 0 || length >= MAX_PATH) return std::wstring();
     return std::wstring(buffer, length);
+}
+
+LogFont Win32Environment::IconTitleFont() {
+    LOGFONTW system = {};
+    SystemParametersInfoW(SPI_GETICONTITLELOGFONT, sizeof system, &system, 0);
+    LogFont font;
+    font.lfHeight = system.lfHeight;
+    font.lfWidth = system.lfWidth;
+    font.lfEscapement = system.lfEscapement;
+    font.lfOrientation = system.lfOrientation;
+    font.lfWeight = system.lfWeight;
+    font.lfItalic = system.lfItalic;
+    font.lfUnderline = system.lfUnderline;
+    font.lfStrikeOut = system.lfStrikeOut;
+    font.lfCharSet = system.lfCharSet;
+    font.lfOutPrecision = system.lfOutPrecision;
+    font.lfClipPrecision = system.lfClipPrecision;
+    font.lfQuality = system.lfQuality;
+    font.lfPitchAndFamily = system.lfPitchAndFamily;
+    std::copy(std::begin(system.lfFaceName), std::end(system.lfFaceName), font.lfFaceName);
+    return font;
 }
 
 std::wstring ProgramName() {

@@ -9,6 +9,7 @@ public:
     bool GetVariable(const std::wstring& name, std::wstring& value) override;
     std::wstring ModuleFileName() override;
     std::wstring SystemDirectory() override;
+    LogFont IconTitleFont() override;
 };
 
 // The running program's file name without directory and extension ("Option").

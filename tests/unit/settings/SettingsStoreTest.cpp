@@ -145,8 +145,9 @@ TEST(SettingsStore, FontRoundTripLosesUnderlineAndStrikeOut) {
     LogFont system;
     system.lfHeight = -12;
     system.lfUnderline = 1;
+    fake.environment().SetIconTitleFont(system);
     LogFont read;
-    store.ReadFont(read, system);
+    store.ReadFont(read);
     EXPECT_EQ(-15, read.lfHeight);
     EXPECT_EQ(3, read.lfWidth);
     EXPECT_EQ(900, read.lfEscapement);
@@ -182,16 +183,17 @@ TEST(SettingsStore, FontDefaultsComeFromTheSystemFontAndLongNamesDoNotFit) {
     system.lfWeight = 400;
     std::wstring face = L"Tahoma";
     std::copy(face.begin(), face.end(), system.lfFaceName);
+    fake.environment().SetIconTitleFont(system);
     LogFont read;
-    store.ReadFont(read, system);
+    store.ReadFont(read);
     EXPECT_EQ(-12, read.lfHeight);
     EXPECT_EQ(400, read.lfWeight);
     EXPECT_EQ(face, std::wstring(read.lfFaceName));
     store.WriteString(L"FontName", std::wstring(31, L'f'));
-    store.ReadFont(read, system);
+    store.ReadFont(read);
     EXPECT_EQ(std::wstring(31, L'f'), std::wstring(read.lfFaceName));
     store.WriteString(L"FontName", std::wstring(32, L'f'));
-    store.ReadFont(read, system);
+    store.ReadFont(read);
     EXPECT_EQ(L"", std::wstring(read.lfFaceName));
 }
 

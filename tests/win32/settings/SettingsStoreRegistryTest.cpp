@@ -100,7 +100,7 @@ TEST_F(SettingsStoreRegistryTest, FontRoundTrip) {
     std::copy(face.begin(), face.end(), font.lfFaceName);
     store.WriteFont(font);
     LogFont read;
-    store.ReadFont(read, LogFont{});
+    store.ReadFont(read);
     EXPECT_EQ(-13, read.lfHeight);
     EXPECT_EQ(700, read.lfWeight);
     EXPECT_EQ(1, read.lfItalic);
@@ -108,6 +108,23 @@ TEST_F(SettingsStoreRegistryTest, FontRoundTrip) {
     EXPECT_EQ(0, read.lfStrikeOut);
     EXPECT_EQ(128, read.lfCharSet);
     EXPECT_EQ(face, std::wstring(read.lfFaceName));
+}
+
+}  // namespace
+
+namespace {
+
+TEST_F(SettingsStoreRegistryTest, AnEmptySectionGivesTheIconTitleFont) {
+    LOGFONTW system = {};
+    ASSERT_TRUE(SystemParametersInfoW(SPI_GETICONTITLELOGFONT, sizeof system, &system, 0));
+    SettingsStore store;
+    store.SelectSection(kSection);
+    LogFont read;
+    store.ReadFont(read);
+    EXPECT_EQ(system.lfHeight, read.lfHeight);
+    EXPECT_EQ(system.lfWeight, read.lfWeight);
+    EXPECT_EQ(system.lfCharSet, read.lfCharSet);
+    EXPECT_EQ(std::wstring(system.lfFaceName), std::wstring(read.lfFaceName));
 }
 
 }  // namespace
