@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <functional>
+
 #include "app/SniffDefinitionFile.h"
 #include "app/Startup.h"
 #include "platform/fake/FakePlatform.h"
@@ -24,6 +26,16 @@ public:
     void WriteKeyLists() override { calls.push_back(L"key lists"); }
     void RunEditorScript(const std::wstring& file) override { calls.push_back(L"script " + file); }
     std::vector<std::wstring> calls;
+};
+
+// Looks at the process while the option dialog would be open.
+class WhileOpen : public RecordingTargets {
+public:
+    explicit WhileOpen(std::function<void()> look) : look_(std::move(look)) {}
+    void OpenOptionDialog() override { look_(); }
+
+private:
+    std::function<void()> look_;
 };
 
 class StartupTest : public testing::Test {
@@ -114,17 +126,10 @@ TEST_F(StartupTest, MissingLanguageLibraryIsToldAndTheProgramGoesOn) {
 }
 
 TEST_F(StartupTest, LanguageLibraryIsHeldForTheTargetAndFreedAtTheEnd) {
-    class Checking : public RecordingTargets {
-    public:
-        explicit Checking(FakePlatform& fake) : fake_(fake) {}
-        void OpenOptionDialog() override { loadedDuringDialog = fake_.system().loadedLibraries(); }
-        int loadedDuringDialog = -1;
-
-    private:
-        FakePlatform& fake_;
-    } targets(fake);
+    int loadedDuringDialog = -1;
+    WhileOpen targets([&] { loadedDuringDialog = fake.system().loadedLibraries(); });
     RunStartup(app, targets, {});
-    EXPECT_EQ(1, targets.loadedDuringDialog);
+    EXPECT_EQ(1, loadedDuringDialog);
     EXPECT_EQ(0, fake.system().loadedLibraries());
     EXPECT_EQ(L"C:\\Qor\\Lang\\Msg.ja-JP.txt", app.messages.path());
     EXPECT_EQ(L"Software\\Tarnwick\\QOR\\Command\\Option", app.commandOptionRoot);
@@ -187,17 +192,10 @@ TEST_F(StartupTest, HostSwitchStringAndTheHandBack) {
 }
 
 TEST_F(StartupTest, PresenceMutexLivesAsLongAsTheRun) {
-    class Checking : public RecordingTargets {
-    public:
-        explicit Checking(FakePlatform& fake) : fake_(fake) {}
-        void OpenOptionDialog() override { held = fake_.system().HoldsMutex(L"ExCommand.Option.exe"); }
-        bool held = false;
-
-    private:
-        FakePlatform& fake_;
-    } targets(fake);
+    bool held = false;
+    WhileOpen targets([&] { held = fake.system().HoldsMutex(L"ExCommand.Option.exe"); });
     RunStartup(app, targets, {});
-    EXPECT_TRUE(targets.held);
+    EXPECT_TRUE(held);
     EXPECT_FALSE(fake.system().HoldsMutex(L"ExCommand.Option.exe"));
     // A second copy finds the mutex taken and still runs.
     auto first = fake.system().CreatePresenceMutex(L"ExCommand.Option.exe");
