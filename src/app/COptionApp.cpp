@@ -20,8 +20,8 @@ void RestrictDllSearch() {
     HMODULE module = LoadLibraryW(kernel.c_str());
     if (!module) return;
     using SetDirectories = BOOL(WINAPI*)(DWORD);
-    auto set = reinterpret_cast<SetDirectories>(
-        reinterpret_cast<void*>(GetProcAddress(module, "SetDefaultDllDirectories")));
+    auto set =
+        reinterpret_cast<SetDirectories>(reinterpret_cast<void*>(GetProcAddress(module, "SetDefaultDllDirectories")));
     if (set) set(LOAD_LIBRARY_SEARCH_SYSTEM32);
     FreeLibrary(module);
 }
@@ -39,7 +39,7 @@ std::vector<std::wstring> Arguments() {
     return arguments;
 }
 
-} // namespace
+}  // namespace
 
 int COptionApp::InitInstance() {
     RestrictDllSearch();

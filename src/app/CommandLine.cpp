@@ -15,7 +15,7 @@ int SwitchNumber(const std::wstring& argument) {
     return kSwitchNone;
 }
 
-} // namespace
+}  // namespace
 
 CommandLine ParseCommandLine(const std::vector<std::wstring>& arguments) {
     CommandLine line;
@@ -31,4 +31,6 @@ CommandLine ParseCommandLine(const std::vector<std::wstring>& arguments) {
     return line;
 }
 
-int EffectiveSwitch(const CommandLine& line) { return line.file.empty() ? kSwitchNone : line.switchNumber; }
+int EffectiveSwitch(const CommandLine& line) {
+    return line.file.empty() ? kSwitchNone : line.switchNumber;
+}

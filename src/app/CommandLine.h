@@ -6,14 +6,14 @@
 
 enum StartSwitch : int {
     kSwitchNone = 0,
-    kSwitchExRun = 1,     // "/E": extension-run definition editor
-    kSwitchRun = 2,       // "/R": run definition editor
-    kSwitchCommands = 3,  // "/D": command definition editor
-    kSwitchAuto = 4,      // "/A": tell the file's kind first
-    kSwitchG = 5,         // "/G": the option dialog
-    kSwitchMenu = 6,      // "/M": menu editor
-    kSwitchTerminate = 7, // "/T": nothing at all
-    kSwitchKeyList = 8,   // "/KEYLIST": write key lists
+    kSwitchExRun = 1,      // "/E": extension-run definition editor
+    kSwitchRun = 2,        // "/R": run definition editor
+    kSwitchCommands = 3,   // "/D": command definition editor
+    kSwitchAuto = 4,       // "/A": tell the file's kind first
+    kSwitchG = 5,          // "/G": the option dialog
+    kSwitchMenu = 6,       // "/M": menu editor
+    kSwitchTerminate = 7,  // "/T": nothing at all
+    kSwitchKeyList = 8,    // "/KEYLIST": write key lists
 };
 
 struct CommandLine {

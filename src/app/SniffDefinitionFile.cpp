@@ -15,7 +15,7 @@ void RemoveAll(std::wstring& text, std::wstring_view piece) {
     for (size_t at; (at = text.find(piece)) != std::wstring::npos;) text.erase(at, piece.size());
 }
 
-} // namespace
+}  // namespace
 
 int SniffDefinitionFile(const std::wstring& path) {
     WideStream stream;
@@ -36,8 +36,10 @@ int SniffDefinitionFile(const std::wstring& path) {
         std::wstring key = LeftOfSeparator(line, L'=', true);
         if (key == L"exrun" || key == L"run") {
             if (RightOfSeparator(line, L'=', true).empty()) continue;
-            if (key == L"exrun") exRun = true;
-            else ++runCount;
+            if (key == L"exrun")
+                exRun = true;
+            else
+                ++runCount;
         } else if (key == L"call" || key == L"exec" || key == L"shell") {
             // A line that starts a program directly: the file is a script.
             exRun = false;

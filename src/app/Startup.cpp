@@ -12,9 +12,13 @@ constexpr const wchar_t* kSwitchVariable = L"QOR_ExCommand";
 constexpr size_t kSwitchBufferChars = 2048;
 constexpr uint16_t kLanguageLibraryMissing = 62538;
 
-std::wstring ProgramDirectory() { return DirectoryPart(platform::Current().environment.ModuleFileName()); }
+std::wstring ProgramDirectory() {
+    return DirectoryPart(platform::Current().environment.ModuleFileName());
+}
 
-std::wstring LanguageTag() { return DirectReadString(kDirectSettingsPath, L"NLS", L".ja-JP"); }
+std::wstring LanguageTag() {
+    return DirectReadString(kDirectSettingsPath, L"NLS", L".ja-JP");
+}
 
 void ReadHostSwitches(AppServices& app) {
     std::wstring text;
@@ -75,9 +79,11 @@ void BringHostForward(const AppServices& app) {
     if (platform::WindowRef host = windows.FindHostWindow()) windows.SetForeground(host);
 }
 
-} // namespace
+}  // namespace
 
-std::wstring CommandOptionRootPath() { return std::wstring(L"Software\\Tarnwick\\QOR\\Command\\") + L"Option"; }
+std::wstring CommandOptionRootPath() {
+    return std::wstring(L"Software\\Tarnwick\\QOR\\Command\\") + L"Option";
+}
 
 void RunStartup(AppServices& app, StartupTargets& targets, const std::vector<std::wstring>& arguments) {
     platform::Platform& os = platform::Current();

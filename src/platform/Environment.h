@@ -24,4 +24,4 @@ public:
     virtual LogFont IconTitleFont() = 0;
 };
 
-} // namespace platform
+}  // namespace platform

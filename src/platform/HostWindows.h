@@ -20,4 +20,4 @@ public:
     virtual void SetForeground(WindowRef window) = 0;
 };
 
-} // namespace platform
+}  // namespace platform

@@ -13,8 +13,12 @@ Platform& Current() {
     return *current;
 }
 
-Installed::Installed(Platform& platform) : previous_(current) { current = &platform; }
+Installed::Installed(Platform& platform) : previous_(current) {
+    current = &platform;
+}
 
-Installed::~Installed() { current = previous_; }
+Installed::~Installed() {
+    current = previous_;
+}
 
-} // namespace platform
+}  // namespace platform

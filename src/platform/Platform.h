@@ -35,4 +35,4 @@ private:
     Platform* previous_;
 };
 
-} // namespace platform
+}  // namespace platform

@@ -23,4 +23,4 @@ public:
     virtual int Ask(const std::wstring& text, const std::wstring& caption, unsigned style) = 0;
 };
 
-} // namespace platform
+}  // namespace platform

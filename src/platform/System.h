@@ -28,4 +28,4 @@ public:
     virtual std::unique_ptr<SystemObject> LoadDataLibrary(const std::wstring& path) = 0;
 };
 
-} // namespace platform
+}  // namespace platform

@@ -12,7 +12,9 @@ namespace crt {
 namespace {
 
 // Units are 16-bit on every platform; a wider wchar_t never holds more.
-inline uint32_t Unit(wchar_t c) { return static_cast<uint32_t>(c) & 0xFFFF; }
+inline uint32_t Unit(wchar_t c) {
+    return static_cast<uint32_t>(c) & 0xFFFF;
+}
 
 // The decimal digits the runtime's wide number parsers accept: ASCII and the zero of each
 // script block below, each followed by nine more.
@@ -30,9 +32,13 @@ unsigned DigitValue(wchar_t c) {
     return 99;
 }
 
-bool IsAsciiDigit(wchar_t c) { return c >= L'0' && c <= L'9'; }
+bool IsAsciiDigit(wchar_t c) {
+    return c >= L'0' && c <= L'9';
+}
 
-wchar_t AsciiLower(wchar_t c) { return c >= L'A' && c <= L'Z' ? static_cast<wchar_t>(c + 32) : c; }
+wchar_t AsciiLower(wchar_t c) {
+    return c >= L'A' && c <= L'Z' ? static_cast<wchar_t>(c + 32) : c;
+}
 
 // The runtime's integer parser: white space, sign, "0x" for base 0 and 16, digits in any
 // supported script. Out of range gives the limit of the sign, and all digits are still used.
@@ -54,14 +60,16 @@ Signed ParseInteger(const wchar_t* text, const wchar_t** end, int base) {
         base = DigitValue(*p) == 0 ? 8 : 10;
     }
 
-    const Unsigned limit = negative ? Unsigned(std::numeric_limits<Signed>::max()) + 1
-                                    : Unsigned(std::numeric_limits<Signed>::max());
+    const Unsigned limit =
+        negative ? Unsigned(std::numeric_limits<Signed>::max()) + 1 : Unsigned(std::numeric_limits<Signed>::max());
     Unsigned value = 0;
     bool overflow = false, digits = false;
     for (unsigned digit; (digit = DigitValue(*p)) < static_cast<unsigned>(base); ++p) {
         digits = true;
-        if (value > (limit - digit) / base) overflow = true;
-        else value = value * base + digit;
+        if (value > (limit - digit) / base)
+            overflow = true;
+        else
+            value = value * base + digit;
     }
     if (!digits) return 0;
     if (end) *end = p;
@@ -97,8 +105,10 @@ bool ReadMantissa(const wchar_t*& p, int base, Mantissa& m, int64_t digitWeight)
         ++p;
         for (; isDigit(*p); ++p) {
             any = true;
-            if (m.digits.empty() && *p == L'0') --integerDigits;
-            else m.digits += static_cast<char>(*p);
+            if (m.digits.empty() && *p == L'0')
+                --integerDigits;
+            else
+                m.digits += static_cast<char>(*p);
         }
     }
     // value = 0.digits * base^integerDigits
@@ -125,8 +135,10 @@ double Compose(const Mantissa& m, int base, bool negative) {
         // Far outside the range of a double the digits no longer matter.
         int64_t magnitude = m.exponent + static_cast<int64_t>(m.digits.size()) * (base == 16 ? 4 : 1);
         int64_t high = base == 16 ? 1100 : 330, low = base == 16 ? -1200 : -360;
-        if (magnitude > high) value = HUGE_VAL;
-        else if (magnitude < low) value = 0;
+        if (magnitude > high)
+            value = HUGE_VAL;
+        else if (magnitude < low)
+            value = 0;
         else {
             std::string text = m.digits + (base == 16 ? "p" : "e") + std::to_string(m.exponent);
             auto result = std::from_chars(text.data(), text.data() + text.size(), value,
@@ -137,23 +149,41 @@ double Compose(const Mantissa& m, int base, bool negative) {
     return negative ? -value : value;
 }
 
-} // namespace
+}  // namespace
 
 bool IsSpace(wchar_t c) {
     switch (Unit(c)) {
-    case 0x09: case 0x0A: case 0x0B: case 0x0C: case 0x0D: case 0x20: case 0x85: case 0xA0:
-    case 0x1680: case 0x2028: case 0x2029: case 0x202F: case 0x205F: case 0x3000:
-        return true;
-    default:
-        return Unit(c) >= 0x2000 && Unit(c) <= 0x200A;
+        case 0x09:
+        case 0x0A:
+        case 0x0B:
+        case 0x0C:
+        case 0x0D:
+        case 0x20:
+        case 0x85:
+        case 0xA0:
+        case 0x1680:
+        case 0x2028:
+        case 0x2029:
+        case 0x202F:
+        case 0x205F:
+        case 0x3000:
+            return true;
+        default:
+            return Unit(c) >= 0x2000 && Unit(c) <= 0x200A;
     }
 }
 
-int32_t Wtoi(const wchar_t* text) { return ParseInteger<int32_t>(text, nullptr, 10); }
+int32_t Wtoi(const wchar_t* text) {
+    return ParseInteger<int32_t>(text, nullptr, 10);
+}
 
-int64_t Wtoi64(const wchar_t* text) { return ParseInteger<int64_t>(text, nullptr, 10); }
+int64_t Wtoi64(const wchar_t* text) {
+    return ParseInteger<int64_t>(text, nullptr, 10);
+}
 
-int32_t Wcstol(const wchar_t* text, const wchar_t** end, int base) { return ParseInteger<int32_t>(text, end, base); }
+int32_t Wcstol(const wchar_t* text, const wchar_t** end, int base) {
+    return ParseInteger<int32_t>(text, end, base);
+}
 
 double Wcstod(const wchar_t* text, const wchar_t** end) {
     if (end) *end = text;
@@ -206,7 +236,9 @@ std::wstring TrimRight(std::wstring_view text) {
     return std::wstring(text.substr(0, last));
 }
 
-std::wstring Trim(std::wstring_view text) { return TrimLeft(TrimRight(text)); }
+std::wstring Trim(std::wstring_view text) {
+    return TrimLeft(TrimRight(text));
+}
 
 std::wstring MakeLower(std::wstring_view text) {
     std::wstring result(text);
@@ -221,4 +253,4 @@ std::wstring MakeUpper(std::wstring_view text) {
     return result;
 }
 
-} // namespace crt
+}  // namespace crt

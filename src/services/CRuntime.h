@@ -14,10 +14,14 @@ bool IsSpace(wchar_t c);
 
 // _wtoi: leading white space, an optional sign, decimal digits; 0 when there is no number.
 int32_t Wtoi(const wchar_t* text);
-inline int32_t Wtoi(const std::wstring& text) { return Wtoi(text.c_str()); }
+inline int32_t Wtoi(const std::wstring& text) {
+    return Wtoi(text.c_str());
+}
 // _wtoi64.
 int64_t Wtoi64(const wchar_t* text);
-inline int64_t Wtoi64(const std::wstring& text) { return Wtoi64(text.c_str()); }
+inline int64_t Wtoi64(const std::wstring& text) {
+    return Wtoi64(text.c_str());
+}
 // wcstol with a 32-bit long; base 0 takes "0x" as hexadecimal and a leading "0" as octal.
 // *end, when given, points behind the last character used (at the text when nothing was used).
 int32_t Wcstol(const wchar_t* text, const wchar_t** end, int base);
@@ -34,4 +38,4 @@ std::wstring TrimRight(std::wstring_view text);
 std::wstring MakeLower(std::wstring_view text);
 std::wstring MakeUpper(std::wstring_view text);
 
-} // namespace crt
+}  // namespace crt

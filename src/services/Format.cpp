@@ -9,14 +9,19 @@ namespace crt {
 
 uint64_t FormatArg::Bits() const {
     switch (kind_) {
-    case Kind::Integer: return bits_;
-    case Kind::Double: return std::bit_cast<uint64_t>(double_);
-    case Kind::String: return text_ ? 1 : 0;
+        case Kind::Integer:
+            return bits_;
+        case Kind::Double:
+            return std::bit_cast<uint64_t>(double_);
+        case Kind::String:
+            return text_ ? 1 : 0;
     }
     return 0;
 }
 
-double FormatArg::AsDouble() const { return kind_ == Kind::Double ? double_ : std::bit_cast<double>(Bits()); }
+double FormatArg::AsDouble() const {
+    return kind_ == Kind::Double ? double_ : std::bit_cast<double>(Bits());
+}
 
 namespace {
 
@@ -33,7 +38,9 @@ struct Spec {
     wchar_t conversion = 0;
 };
 
-std::wstring Widen(std::string_view text) { return std::wstring(text.begin(), text.end()); }
+std::wstring Widen(std::string_view text) {
+    return std::wstring(text.begin(), text.end());
+}
 
 void Uppercase(std::wstring& text) {
     for (wchar_t& c : text)
@@ -70,12 +77,18 @@ private:
 
     const wchar_t* ParseSpec(const wchar_t* p, Spec& spec) {
         for (;; ++p) {
-            if (*p == L'-') spec.left = true;
-            else if (*p == L'+') spec.plus = true;
-            else if (*p == L' ') spec.space = true;
-            else if (*p == L'#') spec.alternate = true;
-            else if (*p == L'0') spec.zero = true;
-            else break;
+            if (*p == L'-')
+                spec.left = true;
+            else if (*p == L'+')
+                spec.plus = true;
+            else if (*p == L' ')
+                spec.space = true;
+            else if (*p == L'#')
+                spec.alternate = true;
+            else if (*p == L'0')
+                spec.zero = true;
+            else
+                break;
         }
         if (*p == L'*') {
             ++p;
@@ -107,72 +120,90 @@ private:
 
     static const wchar_t* ParseSize(const wchar_t* p, Spec& spec) {
         switch (*p) {
-        case L'h':
-            if (p[1] == L'h') {
-                spec.size = Size::Char;
-                return p + 2;
-            }
-            spec.size = Size::Short;
-            return p + 1;
-        case L'l':
-            if (p[1] == L'l') {
-                spec.size = Size::Wide64;
-                return p + 2;
-            }
-            spec.size = Size::Long;
-            return p + 1;
-        case L'I':
-            if (p[1] == L'6' && p[2] == L'4') {
-                spec.size = Size::Wide64;
-                return p + 3;
-            }
-            if (p[1] == L'3' && p[2] == L'2') {
+            case L'h':
+                if (p[1] == L'h') {
+                    spec.size = Size::Char;
+                    return p + 2;
+                }
+                spec.size = Size::Short;
+                return p + 1;
+            case L'l':
+                if (p[1] == L'l') {
+                    spec.size = Size::Wide64;
+                    return p + 2;
+                }
                 spec.size = Size::Long;
-                return p + 3;
-            }
-            spec.size = Size::Pointer;
-            return p + 1;
-        case L'j': case L'z': case L't':
-            spec.size = Size::Pointer;
-            return p + 1;
-        case L'w':
-            spec.size = Size::Long;
-            return p + 1;
-        case L'L':
-            return p + 1;
-        default:
-            return p;
+                return p + 1;
+            case L'I':
+                if (p[1] == L'6' && p[2] == L'4') {
+                    spec.size = Size::Wide64;
+                    return p + 3;
+                }
+                if (p[1] == L'3' && p[2] == L'2') {
+                    spec.size = Size::Long;
+                    return p + 3;
+                }
+                spec.size = Size::Pointer;
+                return p + 1;
+            case L'j':
+            case L'z':
+            case L't':
+                spec.size = Size::Pointer;
+                return p + 1;
+            case L'w':
+                spec.size = Size::Long;
+                return p + 1;
+            case L'L':
+                return p + 1;
+            default:
+                return p;
         }
     }
 
     void Convert(const Spec& spec) {
         switch (spec.conversion) {
-        case L'd': case L'i': case L'u': case L'o': case L'x': case L'X':
-            Integer(spec);
-            break;
-        case L'p': {
-            Spec pointer = spec;
-            pointer.precision = 16;
-            pointer.size = Size::Wide64;
-            pointer.conversion = L'X';
-            pointer.alternate = false;
-            Integer(pointer);
-            break;
-        }
-        case L'c': case L'C':
-            Character(spec);
-            break;
-        case L's': case L'S': case L'Z':
-            String(spec);
-            break;
-        case L'f': case L'F': case L'e': case L'E': case L'g': case L'G': case L'a': case L'A':
-            Floating(spec);
-            break;
-        case L'n': case L'%':
-            break;
-        default:
-            out_ += spec.conversion;
-            break;
+            case L'd':
+            case L'i':
+            case L'u':
+            case L'o':
+            case L'x':
+            case L'X':
+                Integer(spec);
+                break;
+            case L'p': {
+                Spec pointer = spec;
+                pointer.precision = 16;
+                pointer.size = Size::Wide64;
+                pointer.conversion = L'X';
+                pointer.alternate = false;
+                Integer(pointer);
+                break;
+            }
+            case L'c':
+            case L'C':
+                Character(spec);
+                break;
+            case L's':
+            case L'S':
+            case L'Z':
+                String(spec);
+                break;
+            case L'f':
+            case L'F':
+            case L'e':
+            case L'E':
+            case L'g':
+            case L'G':
+            case L'a':
+            case L'A':
+                Floating(spec);
+                break;
+            case L'n':
+            case L'%':
+                break;
+            default:
+                out_ += spec.conversion;
+                break;
         }
     }
 
@@ -190,8 +221,10 @@ private:
 
     void Integer(const Spec& spec) {
         uint64_t bits = Next().Bits();
-        int width = spec.size == Size::Char ? 8 : spec.size == Size::Short ? 16
-                  : spec.size == Size::Wide64 || spec.size == Size::Pointer ? 64 : 32;
+        int width = spec.size == Size::Char                                   ? 8
+                    : spec.size == Size::Short                                ? 16
+                    : spec.size == Size::Wide64 || spec.size == Size::Pointer ? 64
+                                                                              : 32;
         if (width < 64) bits &= (uint64_t(1) << width) - 1;
         bool isSigned = spec.conversion == L'd' || spec.conversion == L'i';
         bool negative = isSigned && (bits >> (width - 1)) & 1;
@@ -206,12 +239,17 @@ private:
 
         std::wstring prefix;
         if (isSigned) {
-            if (negative) prefix = L"-";
-            else if (spec.plus) prefix = L"+";
-            else if (spec.space) prefix = L" ";
+            if (negative)
+                prefix = L"-";
+            else if (spec.plus)
+                prefix = L"+";
+            else if (spec.space)
+                prefix = L" ";
         } else if (spec.alternate && magnitude != 0) {
-            if (base == 16) prefix = spec.conversion == L'X' ? L"0X" : L"0x";
-            else if (base == 8 && digits[0] != L'0') digits.insert(digits.begin(), L'0');
+            if (base == 16)
+                prefix = spec.conversion == L'X' ? L"0X" : L"0x";
+            else if (base == 8 && digits[0] != L'0')
+                digits.insert(digits.begin(), L'0');
         }
         Emit(spec, prefix, digits, true);
     }
@@ -246,13 +284,22 @@ private:
         }
         value = std::fabs(value);
         switch (conversion) {
-        case L'f': case L'F': body = Fixed(value, spec.precision < 0 ? 6 : spec.precision, spec.alternate); break;
-        case L'e': case L'E': body = Scientific(value, spec.precision < 0 ? 6 : spec.precision, spec.alternate); break;
-        case L'g': case L'G': body = General(value, spec.precision, spec.alternate); break;
-        default:
-            prefix += L"0x";
-            body = Hexadecimal(value, spec.precision, spec.alternate);
-            break;
+            case L'f':
+            case L'F':
+                body = Fixed(value, spec.precision < 0 ? 6 : spec.precision, spec.alternate);
+                break;
+            case L'e':
+            case L'E':
+                body = Scientific(value, spec.precision < 0 ? 6 : spec.precision, spec.alternate);
+                break;
+            case L'g':
+            case L'G':
+                body = General(value, spec.precision, spec.alternate);
+                break;
+            default:
+                prefix += L"0x";
+                body = Hexadecimal(value, spec.precision, spec.alternate);
+                break;
         }
         if (upper) {
             Uppercase(prefix);
@@ -293,9 +340,8 @@ private:
         int significant = precision < 0 ? 6 : precision == 0 ? 1 : precision;
         std::string probe = ToChars(value, std::chars_format::scientific, significant - 1);
         int exponent = std::stoi(probe.substr(probe.find('e') + 1));
-        std::wstring text = significant > exponent && exponent >= -4
-                                ? Fixed(value, significant - 1 - exponent, false)
-                                : Scientific(value, significant - 1, false);
+        std::wstring text = significant > exponent && exponent >= -4 ? Fixed(value, significant - 1 - exponent, false)
+                                                                     : Scientific(value, significant - 1, false);
         size_t e = text.find(L'e');
         std::wstring tail = e == std::wstring::npos ? L"" : text.substr(e);
         std::wstring head = text.substr(0, text.size() - tail.size());
@@ -345,8 +391,10 @@ private:
     std::wstring out_;
 };
 
-} // namespace
+}  // namespace
 
-std::wstring FormatV(const wchar_t* format, std::span<const FormatArg> args) { return Formatter(args).Run(format); }
+std::wstring FormatV(const wchar_t* format, std::span<const FormatArg> args) {
+    return Formatter(args).Run(format);
+}
 
-} // namespace crt
+}  // namespace crt

@@ -20,13 +20,12 @@ public:
     enum class Kind { Integer, Double, String };
 
     template <typename T>
-        requires std::is_integral_v<T>
-    FormatArg(T value) : kind_(Kind::Integer), bits_(static_cast<uint64_t>(static_cast<int64_t>(value))) {
+    requires std::is_integral_v<T> FormatArg(T value)
+        : kind_(Kind::Integer), bits_(static_cast<uint64_t>(static_cast<int64_t>(value))) {
         if constexpr (std::is_unsigned_v<T>) bits_ = static_cast<uint64_t>(value);
     }
     template <typename T>
-        requires std::is_enum_v<T>
-    FormatArg(T value) : FormatArg(static_cast<std::underlying_type_t<T>>(value)) {}
+    requires std::is_enum_v<T> FormatArg(T value) : FormatArg(static_cast<std::underlying_type_t<T>>(value)) {}
     FormatArg(double value) : kind_(Kind::Double), double_(value) {}
     FormatArg(float value) : FormatArg(static_cast<double>(value)) {}
     FormatArg(const wchar_t* text) : kind_(Kind::String), text_(text) {}
@@ -58,4 +57,4 @@ std::wstring Format(const wchar_t* format, const Args&... args) {
     return FormatV(format, list);
 }
 
-} // namespace crt
+}  // namespace crt

@@ -8,7 +8,9 @@ namespace {
 
 constexpr size_t kLongPathThreshold = 260;
 
-bool IsAsciiLetter(wchar_t c) { return (c >= L'A' && c <= L'Z') || (c >= L'a' && c <= L'z'); }
+bool IsAsciiLetter(wchar_t c) {
+    return (c >= L'A' && c <= L'Z') || (c >= L'a' && c <= L'z');
+}
 
 bool LooksLikeShortName(std::wstring_view component) {
     std::wstring_view head = component.substr(0, 8);
@@ -27,7 +29,7 @@ bool HasShortNameComponent(const std::wstring& path) {
     }
 }
 
-} // namespace
+}  // namespace
 
 std::wstring ToLongPathForm(const std::wstring& path) {
     if (path.size() < kLongPathThreshold) return path;

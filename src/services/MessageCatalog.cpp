@@ -20,7 +20,7 @@ void ReplaceAll(std::wstring& text, std::wstring_view piece, std::wstring_view w
     }
 }
 
-} // namespace
+}  // namespace
 
 std::wstring MessageFilePath(const std::wstring& programDirectory, const std::wstring& languageTag) {
     return FullPath(programDirectory + L"..\\..\\Lang\\Msg" + languageTag + L".txt");

@@ -7,9 +7,11 @@ namespace {
 constexpr wchar_t kOddSeparator = 0x008B;
 constexpr size_t kExpandLimit = 16384;
 
-bool IsSeparator(wchar_t c) { return c == L'\\' || c == L'/'; }
+bool IsSeparator(wchar_t c) {
+    return c == L'\\' || c == L'/';
+}
 
-} // namespace
+}  // namespace
 
 std::wstring DirectoryPart(const std::wstring& path) {
     size_t slash = path.rfind(L'\\');

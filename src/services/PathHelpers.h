@@ -13,7 +13,9 @@ std::wstring FilePart(const std::wstring& path);
 std::wstring AddSeparator(const std::wstring& path);
 // Removes one trailing "\" or "/". A null text gives an empty string.
 std::wstring StripSeparator(const wchar_t* path);
-inline std::wstring StripSeparator(const std::wstring& path) { return StripSeparator(path.c_str()); }
+inline std::wstring StripSeparator(const std::wstring& path) {
+    return StripSeparator(path.c_str());
+}
 // The same, but a drive root of three characters ("C:\") stays as it is.
 std::wstring StripSeparatorRootSafe(const std::wstring& path);
 

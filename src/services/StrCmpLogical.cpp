@@ -6,7 +6,9 @@ namespace crt {
 
 namespace {
 
-bool IsDigit(wchar_t c) { return c >= L'0' && c <= L'9'; }
+bool IsDigit(wchar_t c) {
+    return c >= L'0' && c <= L'9';
+}
 
 // The digits at p as the shell reads them: a 64-bit total that wraps, cut to a 32-bit int.
 int32_t DigitRunValue(const wchar_t*& p) {
@@ -26,7 +28,7 @@ std::array<uint16_t, 65536> ExpandRanks() {
     return ranks;
 }
 
-} // namespace
+}  // namespace
 
 uint16_t CollationRank(wchar_t c) {
     static const std::array<uint16_t, 65536> ranks = ExpandRanks();
@@ -51,4 +53,4 @@ int StrCmpLogical(const wchar_t* a, const wchar_t* b) {
     return *b ? -1 : 0;
 }
 
-} // namespace crt
+}  // namespace crt

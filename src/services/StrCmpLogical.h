@@ -24,6 +24,6 @@ struct CollationRun {
 };
 extern const CollationRun kCollationRuns[];
 extern const size_t kCollationRunCount;
-} // namespace detail
+}  // namespace detail
 
-} // namespace crt
+}  // namespace crt

@@ -7,7 +7,7 @@ namespace {
 
 constexpr size_t kPadding = 4;  // zero bytes behind the data, so a last odd byte still reads as a unit
 
-} // namespace
+}  // namespace
 
 bool TextFileReader::Open(const std::wstring& path) {
     Close();

@@ -9,7 +9,7 @@ void AddField(std::vector<std::wstring>& target, std::wstring_view field, bool t
     if (keepEmpty || !text.empty()) target.push_back(std::move(text));
 }
 
-} // namespace
+}  // namespace
 
 int Tokenize(std::vector<std::wstring>& target, const wchar_t* text, wchar_t separator, bool trim, bool keepEmpty) {
     if (!text || !*text) return 0;

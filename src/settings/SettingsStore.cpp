@@ -40,7 +40,8 @@ int32_t QueryInt(platform::RegistryKey& key, const std::wstring& name, int32_t d
     for (int i = 0; i < 4; ++i) bytes[i] = static_cast<uint8_t>(value >> (8 * i));
     uint32_t size = sizeof bytes;
     if (key.QueryValue(name, nullptr, bytes, &size) != platform::kRegistryOk) return defaultValue;
-    return static_cast<int32_t>(bytes[0] | (bytes[1] << 8) | (bytes[2] << 16) | (static_cast<uint32_t>(bytes[3]) << 24));
+    return static_cast<int32_t>(bytes[0] | (bytes[1] << 8) | (bytes[2] << 16) |
+                                (static_cast<uint32_t>(bytes[3]) << 24));
 }
 
 bool QueryString(platform::RegistryKey& key, const std::wstring& name, std::vector<uint8_t>& buffer,
@@ -78,7 +79,7 @@ std::unique_ptr<platform::RegistryKey> CreateKey(const std::wstring& path) {
     return key;
 }
 
-} // namespace
+}  // namespace
 
 SettingsStore::SettingsStore(int screenLogPixelsY) : DisplayFactor(screenLogPixelsY / 96.0) {}
 

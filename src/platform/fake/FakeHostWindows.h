@@ -21,4 +21,4 @@ private:
     std::vector<WindowRef> foreground_;
 };
 
-} // namespace platform::fake
+}  // namespace platform::fake

@@ -2,7 +2,9 @@
 
 namespace platform::fake {
 
-int FakePrompts::ShowMessage(const std::wstring& text, unsigned style) { return Ask(text, L"", style); }
+int FakePrompts::ShowMessage(const std::wstring& text, unsigned style) {
+    return Ask(text, L"", style);
+}
 
 int FakePrompts::Ask(const std::wstring& text, const std::wstring& caption, unsigned style) {
     shown_.push_back({text, style, caption});
@@ -14,4 +16,4 @@ int FakePrompts::Ask(const std::wstring& text, const std::wstring& caption, unsi
     return (style & 0xF) == kStyleYesNo ? kAnswerNo : kAnswerOk;
 }
 
-} // namespace platform::fake
+}  // namespace platform::fake

@@ -24,11 +24,14 @@ public:
     // Answers given in turn; when none is left a question gets No and a message OK.
     void Answer(int answer) { answers_.push_back(answer); }
     const std::vector<ShownMessage>& shown() const { return shown_; }
-    void Clear() { shown_.clear(); answers_.clear(); }
+    void Clear() {
+        shown_.clear();
+        answers_.clear();
+    }
 
 private:
     std::vector<ShownMessage> shown_;
     std::deque<int> answers_;
 };
 
-} // namespace platform::fake
+}  // namespace platform::fake

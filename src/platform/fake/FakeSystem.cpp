@@ -14,7 +14,7 @@ private:
     std::function<void()> release_;
 };
 
-} // namespace
+}  // namespace
 
 std::unique_ptr<SystemObject> FakeSystem::CreatePresenceMutex(const std::wstring& name) {
     if (!mutexes_->insert(name).second) return nullptr;
@@ -28,4 +28,4 @@ std::unique_ptr<SystemObject> FakeSystem::LoadDataLibrary(const std::wstring& pa
     return std::make_unique<Held>([loaded = loaded_] { --*loaded; });
 }
 
-} // namespace platform::fake
+}  // namespace platform::fake

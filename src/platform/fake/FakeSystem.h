@@ -30,4 +30,4 @@ private:
     std::shared_ptr<int> loaded_ = std::make_shared<int>(0);
 };
 
-} // namespace platform::fake
+}  // namespace platform::fake

@@ -70,4 +70,4 @@ std::wstring ProgramName() {
     return dot == std::wstring::npos ? name : name.substr(0, dot);
 }
 
-} // namespace platform::win32
+}  // namespace platform::win32

@@ -15,4 +15,4 @@ public:
 // The running program's file name without directory and extension ("Option").
 std::wstring ProgramName();
 
-} // namespace platform::win32
+}  // namespace platform::win32

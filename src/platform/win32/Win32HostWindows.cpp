@@ -8,6 +8,8 @@ WindowRef Win32HostWindows::FindHostWindow() {
     return reinterpret_cast<WindowRef>(FindWindowW(kHostClassName, nullptr));
 }
 
-void Win32HostWindows::SetForeground(WindowRef window) { SetForegroundWindow(reinterpret_cast<HWND>(window)); }
+void Win32HostWindows::SetForeground(WindowRef window) {
+    SetForegroundWindow(reinterpret_cast<HWND>(window));
+}
 
-} // namespace platform::win32
+}  // namespace platform::win32

@@ -13,4 +13,4 @@ public:
     void SetForeground(WindowRef window) override;
 };
 
-} // namespace platform::win32
+}  // namespace platform::win32

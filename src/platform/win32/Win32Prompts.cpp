@@ -15,4 +15,4 @@ int Win32Prompts::Ask(const std::wstring& text, const std::wstring& caption, uns
     return MessageBoxW(GetActiveWindow(), text.c_str(), caption.c_str(), style);
 }
 
-} // namespace platform::win32
+}  // namespace platform::win32

@@ -10,4 +10,4 @@ public:
     int Ask(const std::wstring& text, const std::wstring& caption, unsigned style) override;
 };
 
-} // namespace platform::win32
+}  // namespace platform::win32

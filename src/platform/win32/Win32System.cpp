@@ -24,7 +24,7 @@ private:
     HMODULE module_;
 };
 
-} // namespace
+}  // namespace
 
 std::unique_ptr<SystemObject> Win32System::CreatePresenceMutex(const std::wstring& name) {
     // Only the first copy creates the mutex; a later one just looks and lets go.
@@ -41,4 +41,4 @@ std::unique_ptr<SystemObject> Win32System::LoadDataLibrary(const std::wstring& p
     return module ? std::make_unique<OwnedModule>(module) : nullptr;
 }
 
-} // namespace platform::win32
+}  // namespace platform::win32

@@ -10,4 +10,4 @@ public:
     std::unique_ptr<SystemObject> LoadDataLibrary(const std::wstring& path) override;
 };
 
-} // namespace platform::win32
+}  // namespace platform::win32

@@ -73,4 +73,4 @@ TEST(HostSwitches, OnlyExactlyTenFieldsCount) {
     EXPECT_EQ(2048, block.blockSize);
 }
 
-} // namespace
+}  // namespace

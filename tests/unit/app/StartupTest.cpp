@@ -178,8 +178,10 @@ TEST_F(StartupTest, HostSwitchStringAndTheHandBack) {
     };
     for (const auto& c : cases) {
         std::vector<platform::WindowRef> before = fake.windows().foreground();
-        if (c.switches) fake.environment().SetVariable(L"QOR_ExCommand", c.switches);
-        else fake.environment().RemoveVariable(L"QOR_ExCommand");
+        if (c.switches)
+            fake.environment().SetVariable(L"QOR_ExCommand", c.switches);
+        else
+            fake.environment().RemoveVariable(L"QOR_ExCommand");
         AppServices fresh{96};
         RecordingTargets targets;
         RunStartup(fresh, targets, {L"/T", L"x"});
@@ -203,4 +205,4 @@ TEST_F(StartupTest, PresenceMutexLivesAsLongAsTheRun) {
     EXPECT_TRUE(fake.system().HoldsMutex(L"ExCommand.Option.exe"));
 }
 
-} // namespace
+}  // namespace

@@ -12,7 +12,7 @@ struct IntegerCase {
     const wchar_t* text;
     int base;
     int32_t value;
-    int used; // characters taken by wcstol
+    int used;  // characters taken by wcstol
 };
 
 TEST(CRuntime, WcstolReadsSignsPrefixesDigitsAndSaturates) {
@@ -24,28 +24,32 @@ TEST(CRuntime, WcstolReadsSignsPrefixesDigitsAndSaturates) {
         {L"+5", 10, 5, 2},
         {L"-", 10, 0, 0},
         {L"- 5", 10, 0, 0},
-        {L"\x3000\x00A0" L"12", 10, 12, 4},        // ideographic and no-break space are blanks
-        {L"\x200B" L"12", 10, 0, 0},               // a zero-width space is not
+        {L"\x3000\x00A0"
+         L"12",
+         10, 12, 4},  // ideographic and no-break space are blanks
+        {L"\x200B"
+         L"12",
+         10, 0, 0},  // a zero-width space is not
         {L"2147483647", 10, INT32_MAX, 10},
         {L"2147483648", 10, INT32_MAX, 10},
         {L"-2147483648", 10, INT32_MIN, 11},
-        {L"-99999999999999999999", 10, INT32_MIN, 21}, // every digit is used even past the limit
+        {L"-99999999999999999999", 10, INT32_MIN, 21},  // every digit is used even past the limit
         {L"0x1A", 0, 26, 4},
         {L"0X1a", 16, 26, 4},
-        {L"0x", 0, 0, 0},                          // no hexadecimal digit: nothing is used
+        {L"0x", 0, 0, 0},  // no hexadecimal digit: nothing is used
         {L"0xg", 16, 0, 0},
         {L"0x", 10, 0, 1},
-        {L"0xFFFFFFFF", 0, INT32_MAX, 10},         // no sign, so never negative
+        {L"0xFFFFFFFF", 0, INT32_MAX, 10},  // no sign, so never negative
         {L"-0x80000000", 0, INT32_MIN, 11},
         {L"017", 0, 15, 3},
         {L"019", 0, 1, 2},
         {L"08", 8, 0, 1},
         {L"zz", 36, 1295, 2},
-        {L"\x0661\x0662", 10, 12, 2},              // Arabic-Indic digits
-        {L"\xFF11\xFF10", 10, 10, 2},              // full-width digits
-        {L"\x0660x1f", 0, 31, 4},                  // any script's zero starts the hexadecimal prefix
-        {L"\xFF21", 16, 0, 0},                     // full-width letters are no hexadecimal digits
-        {L"12", 1, 0, 0},                          // an impossible base reads nothing
+        {L"\x0661\x0662", 10, 12, 2},  // Arabic-Indic digits
+        {L"\xFF11\xFF10", 10, 10, 2},  // full-width digits
+        {L"\x0660x1f", 0, 31, 4},      // any script's zero starts the hexadecimal prefix
+        {L"\xFF21", 16, 0, 0},         // full-width letters are no hexadecimal digits
+        {L"12", 1, 0, 0},              // an impossible base reads nothing
         {L"12", 37, 0, 0},
     };
     for (const auto& c : cases) {
@@ -70,7 +74,7 @@ TEST(CRuntime, WtoiAndWtoi64SaturateAndReadAnyScriptsDigits) {
         {L"9223372036854775808", INT32_MAX, INT64_MAX},
         {L"-9223372036854775808", INT32_MIN, INT64_MIN},
         {L"-99999999999999999999999", INT32_MIN, INT64_MIN},
-        {L"\x0966\x0967\x0968", 12, 12}, // Devanagari
+        {L"\x0966\x0967\x0968", 12, 12},  // Devanagari
         {L"1.9", 1, 1},
     };
     for (const auto& c : cases) {
@@ -94,10 +98,10 @@ TEST(CRuntime, WcstodReadsDecimalHexadecimalAndWords) {
         {L"1e", 1, 1},
         {L"1e+", 1, 1},
         {L"1E3", 1000, 3},
-        {L"1d5", 100000, 3},                  // the old Fortran exponent letter
+        {L"1d5", 100000, 3},  // the old Fortran exponent letter
         {L"0x1.8p1", 3, 7},
         {L"0x.8", 0.5, 4},
-        {L"0x", 0, 1},                        // "0" followed by text
+        {L"0x", 0, 1},  // "0" followed by text
         {L"0x1p", 1, 3},
         {L"1e400", HUGE_VAL, 5},
         {L"-1e400", -HUGE_VAL, 6},
@@ -106,10 +110,10 @@ TEST(CRuntime, WcstodReadsDecimalHexadecimalAndWords) {
         {L"-Infinity!", -HUGE_VAL, 9},
         {L"infinit", HUGE_VAL, 3},
         {L"in", 0, 0},
-        {L"\xFF11", 0, 0},                    // only ASCII digits here
+        {L"\xFF11", 0, 0},  // only ASCII digits here
         {L"0.1", 0.1, 3},
-        {L"2.4703282292062328e-324", 4.9406564584124654e-324, 23}, // just above half the smallest
-        {L"2.4703282292062327e-324", 0, 23},                       // just below it
+        {L"2.4703282292062328e-324", 4.9406564584124654e-324, 23},  // just above half the smallest
+        {L"2.4703282292062327e-324", 0, 23},                        // just below it
         {L"1000000000000000019884624838656", 1e30, 31},
     };
     for (const auto& c : cases) {
@@ -121,7 +125,7 @@ TEST(CRuntime, WcstodReadsDecimalHexadecimalAndWords) {
     const wchar_t* nan = L"NaN(1)";
     const wchar_t* end = nullptr;
     EXPECT_TRUE(std::isnan(crt::Wcstod(nan, &end)));
-    EXPECT_EQ(3, end - nan); // the part in parentheses is not read
+    EXPECT_EQ(3, end - nan);  // the part in parentheses is not read
     EXPECT_TRUE(std::signbit(crt::Wcstod(L"-0", nullptr)));
 }
 
@@ -134,9 +138,20 @@ TEST(CRuntime, TrimRemovesUnicodeBlanksAtTheEndsOnly) {
     } cases[] = {
         {L"", L"", L"", L""},
         {L" \t\r\n", L"", L"", L""},
-        {L"\x3000" L"a b\x00A0", L"a b", L"a b\x00A0", L"\x3000" L"a b"},
+        {L"\x3000"
+         L"a b\x00A0",
+         L"a b", L"a b\x00A0",
+         L"\x3000"
+         L"a b"},
         {L"\x2028x\x2029", L"x", L"x\x2029", L"\x2028x"},
-        {L"\x200B" L"a\xFEFF", L"\x200B" L"a\xFEFF", L"\x200B" L"a\xFEFF", L"\x200B" L"a\xFEFF"},
+        {L"\x200B"
+         L"a\xFEFF",
+         L"\x200B"
+         L"a\xFEFF",
+         L"\x200B"
+         L"a\xFEFF",
+         L"\x200B"
+         L"a\xFEFF"},
     };
     for (const auto& c : cases) {
         EXPECT_EQ(c.both, crt::Trim(c.text)) << (&c - cases);
@@ -151,4 +166,4 @@ TEST(CRuntime, CaseFoldingTouchesOnlyAsciiLetters) {
     EXPECT_EQ(L"ABZZ@[`{\x00C0\x00E9\x0391\x03B1\xFF21\xFF41", crt::MakeUpper(text));
 }
 
-} // namespace
+}  // namespace

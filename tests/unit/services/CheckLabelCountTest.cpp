@@ -18,4 +18,4 @@ TEST(CheckLabelCount, AWrongCountIsToldWithTheNumbersInTheirOldOrder) {
     EXPECT_EQ(0u, fake.prompts().shown()[0].style);
 }
 
-} // namespace
+}  // namespace

@@ -78,8 +78,9 @@ TEST(MessageCatalog, ConfirmationsFollowTheirBit) {
         int expected;
     };
     const Case cases[] = {
-        {-1, 63301, platform::kAnswerYes}, {0, 63301, -1},          {1, 63301, platform::kAnswerYes},
-        {2, 63301, -1},                    {0x4000, 63329, platform::kAnswerYes}, {0x3FFF, 63329, -1},
+        {-1, 63301, platform::kAnswerYes},     {0, 63301, -1},
+        {1, 63301, platform::kAnswerYes},      {2, 63301, -1},
+        {0x4000, 63329, platform::kAnswerYes}, {0x3FFF, 63329, -1},
         {0x38FB, 63303, platform::kAnswerYes}, {0x38FB, 63305, -1},
     };
     for (const auto& c : cases) {
@@ -102,4 +103,4 @@ TEST(MessageCatalog, PathIsGluedFromTheTagAsItStands) {
     EXPECT_EQ(L"C:\\Qor\\Lang\\MsgXX.txt", MessageFilePath(L"C:\\Qor\\command\\Option\\", L"XX"));
 }
 
-} // namespace
+}  // namespace

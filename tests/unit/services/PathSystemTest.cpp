@@ -103,4 +103,4 @@ TEST(PathSystem, NormaliseLongNameDropsPrefixesAndLengthensShortNames) {
     }
 }
 
-} // namespace
+}  // namespace

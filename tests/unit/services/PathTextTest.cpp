@@ -127,4 +127,4 @@ TEST(BitMask, OneBitModulo32) {
     for (const auto& c : cases) EXPECT_EQ(c.mask, BitMask(c.number)) << c.number;
 }
 
-} // namespace
+}  // namespace

@@ -39,9 +39,7 @@ TEST(TextFileReader, LinesOffsetsAndNumbers) {
         std::vector<Line> lines;
     };
     const Case cases[] = {
-        {"bom and crlf",
-         Utf16Bytes(L"ab\r\nc\r\n", true),
-         {{L"ab", 2, 10, 1}, {L"c", 10, 16, 2}, {L"", 16, 16, 3}}},
+        {"bom and crlf", Utf16Bytes(L"ab\r\nc\r\n", true), {{L"ab", 2, 10, 1}, {L"c", 10, 16, 2}, {L"", 16, 16, 3}}},
         {"lf and lone cr",
          Utf16Bytes(L"a\nb\rc"),
          {{L"a", 0, 4, 1}, {L"b", 4, 8, 2}, {L"c", 8, 10, 3}, {L"", 10, 10, 4}}},
@@ -136,10 +134,10 @@ TEST(WideStream, KeepsLineEndsAndMarksAsTheRuntimeDoes) {
     std::vector<std::wstring> lines;
     std::wstring line;
     while (stream.ReadLine(line, 8)) lines.push_back(line);
-    const std::vector<std::wstring> expected = {L"\uFEFFfirst\r", L"\n",     L"second\n", L"third",
+    const std::vector<std::wstring> expected = {L"\uFEFFfirst\r", L"\n",      L"second\n", L"third",
                                                 L"\r\n",          L"1234567", L"last"};
     EXPECT_EQ(expected, lines);
     EXPECT_FALSE(WideStream().Open(L"C:\\none.txt"));
 }
 
-} // namespace
+}  // namespace

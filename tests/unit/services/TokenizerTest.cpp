@@ -80,4 +80,4 @@ TEST(SeparatorFields, KeyAndValueOfALine) {
     }
 }
 
-} // namespace
+}  // namespace

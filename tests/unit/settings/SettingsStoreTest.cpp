@@ -168,8 +168,8 @@ TEST(SettingsStore, FontRoundTripLosesUnderlineAndStrikeOut) {
     ASSERT_EQ(0, fake.registry().OpenKey(L"Software\\Tarnwick\\QOR\\Main001\\ViewFont", key));
     std::vector<std::wstring> names;
     for (uint32_t i = 0; key->EnumValueName(i, name) == 0; ++i) names.push_back(name);
-    const std::vector<std::wstring> expected = {L"Point",   L"Width",        L"Escapement",    L"Orientation",
-                                                L"Weight",  L"Italic",       L"CharSet",       L"OutPrecision",
+    const std::vector<std::wstring> expected = {L"Point",         L"Width",   L"Escapement",     L"Orientation",
+                                                L"Weight",        L"Italic",  L"CharSet",        L"OutPrecision",
                                                 L"ClipPrecision", L"Quality", L"PitchAndFamily", L"FontName"};
     EXPECT_EQ(expected, names);
 }
@@ -229,4 +229,4 @@ TEST(SettingsStore, DisplayFactorAndStartingValues) {
     EXPECT_EQ(0, store.Alfa);
 }
 
-} // namespace
+}  // namespace

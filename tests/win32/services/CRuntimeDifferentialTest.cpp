@@ -27,7 +27,8 @@ constexpr wchar_t kUnicodeZeros[] = {0x0660, 0x06F0, 0x0966, 0x09E6, 0x0A66, 0x0
 constexpr const wchar_t* kBlanks[] = {L" ", L"\t", L"\n", L"\x3000", L"\xA0", L"\x2028", L"\x85", L"\x200B", L"\xFEFF"};
 constexpr const wchar_t* kSigns[] = {L"+", L"-", L"--", L"+-", L" -"};
 constexpr const wchar_t* kPrefixes[] = {L"0x", L"0X", L"0", L"00", L"x", L"\x0660x", L"0x0x"};
-constexpr const wchar_t* kJunk[] = {L"a", L"g", L"Z", L"z", L".", L",", L"e", L"E5", L"\xFF21", L"\x00E9", L"\x6F22", L"_"};
+constexpr const wchar_t* kJunk[] = {L"a", L"g",  L"Z",      L"z",      L".",      L",",
+                                    L"e", L"E5", L"\xFF21", L"\x00E9", L"\x6F22", L"_"};
 
 // Text that a number parser finds interesting: blanks, signs, prefixes, digits of several
 // scripts, hexadecimal letters, runs long enough to overflow, and junk in between.
@@ -36,22 +37,34 @@ std::wstring NumberText(Generator& g) {
     size_t pieces = 1 + g.Below(5);
     for (size_t i = 0; i < pieces; ++i) {
         switch (g.Below(9)) {
-        case 0: text += g.Pick(kBlanks); break;
-        case 1: text += g.Pick(kSigns); break;
-        case 2: text += g.Pick(kPrefixes); break;
-        case 3: case 4: {
-            size_t digits = g.Chance(30) ? 8 + g.Below(16) : 1 + g.Below(6);
-            for (size_t k = 0; k < digits; ++k) text += static_cast<wchar_t>(L'0' + g.Below(10));
-            break;
-        }
-        case 5:
-            for (size_t k = 1 + g.Below(4); k > 0; --k) text += static_cast<wchar_t>(g.Pick(kUnicodeZeros) + g.Below(10));
-            break;
-        case 6:
-            for (size_t k = 1 + g.Below(10); k > 0; --k) text += L"0123456789abcdefABCDEFxyz"[g.Below(25)];
-            break;
-        case 7: text += g.Pick(kJunk); break;
-        default: text += g.Chance(50) ? L"2147483647" : L"9223372036854775807"; break;
+            case 0:
+                text += g.Pick(kBlanks);
+                break;
+            case 1:
+                text += g.Pick(kSigns);
+                break;
+            case 2:
+                text += g.Pick(kPrefixes);
+                break;
+            case 3:
+            case 4: {
+                size_t digits = g.Chance(30) ? 8 + g.Below(16) : 1 + g.Below(6);
+                for (size_t k = 0; k < digits; ++k) text += static_cast<wchar_t>(L'0' + g.Below(10));
+                break;
+            }
+            case 5:
+                for (size_t k = 1 + g.Below(4); k > 0; --k)
+                    text += static_cast<wchar_t>(g.Pick(kUnicodeZeros) + g.Below(10));
+                break;
+            case 6:
+                for (size_t k = 1 + g.Below(10); k > 0; --k) text += L"0123456789abcdefABCDEFxyz"[g.Below(25)];
+                break;
+            case 7:
+                text += g.Pick(kJunk);
+                break;
+            default:
+                text += g.Chance(50) ? L"2147483647" : L"9223372036854775807";
+                break;
         }
     }
     return text;
@@ -80,7 +93,8 @@ TEST(CRuntimeDifferential, IsSpaceMatchesIswspaceForEveryUnit) {
     for (uint32_t c = 0; c < 0x10000; ++c) {
         bool expected = iswspaceRef(static_cast<wint_t>(c)) != 0;
         if (crt::IsSpace(static_cast<wchar_t>(c)) != expected)
-            mismatches.Add(Hex(std::wstring(1, static_cast<wchar_t>(c))) + " expected " + (expected ? "space" : "not space"));
+            mismatches.Add(Hex(std::wstring(1, static_cast<wchar_t>(c))) + " expected " +
+                           (expected ? "space" : "not space"));
     }
     EXPECT_EQ(0u, mismatches.count()) << mismatches.Report();
 }
@@ -114,7 +128,8 @@ TEST(CRuntimeDifferential, IntegerParsersMatchOnGeneratedTexts) {
         std::wstring text = NumberText(g);
         const wchar_t* s = text.c_str();
         if (int expected = wtoi(s), found = crt::Wtoi(s); expected != found)
-            mismatches.Add("_wtoi " + Hex(text) + " expected " + std::to_string(expected) + " got " + std::to_string(found));
+            mismatches.Add("_wtoi " + Hex(text) + " expected " + std::to_string(expected) + " got " +
+                           std::to_string(found));
         if (PlainInt64Text(text)) {
             ++compared;
             if (long long expected = wtoi64(s), found = crt::Wtoi64(s); expected != found)
@@ -145,52 +160,56 @@ TEST(CRuntimeDifferential, WcstolTakesTheSameSingleUnitsAsDigits) {
         const wchar_t* foundEnd = nullptr;
         long expected = wcstol(text, &expectedEnd, 36);
         int32_t found = crt::Wcstol(text, &foundEnd, 36);
-        if (expected != found || expectedEnd != foundEnd) mismatches.Add(Hex(text) + " expected " + std::to_string(expected));
+        if (expected != found || expectedEnd != foundEnd)
+            mismatches.Add(Hex(text) + " expected " + std::to_string(expected));
     }
     EXPECT_EQ(0u, mismatches.count()) << mismatches.Report();
 }
 
 std::wstring DoubleText(Generator& g) {
-    static const wchar_t* const words[] = {L"inf", L"INF", L"infinity", L"Infinit", L"nan", L"NaN", L"nan(ind)",
-                                          L"in", L"na", L"infinityx", L"-nan"};
+    static const wchar_t* const words[] = {L"inf",      L"INF", L"infinity", L"Infinit",   L"nan", L"NaN",
+                                           L"nan(ind)", L"in",  L"na",       L"infinityx", L"-nan"};
     std::wstring text;
     if (g.Chance(10)) text += g.Pick(kBlanks);
     if (g.Chance(30)) text += g.Chance(50) ? L"-" : L"+";
     switch (g.Below(6)) {
-    case 0: text += g.Pick(words); break;
-    case 1: {
-        // A double printed to 17 digits or as many as it takes, read back exactly.
-        double value = std::bit_cast<double>((uint64_t(g.engine()()) << 32) | g.engine()());
-        if (!std::isfinite(value)) value = 1.5;
-        wchar_t buffer[64];
-        swprintf(buffer, 64, g.Chance(50) ? L"%.17g" : L"%.25e", std::fabs(value));
-        text += buffer;
-        break;
-    }
-    case 2: {
-        // Halfway between two doubles and a hair to either side.
-        double value = std::ldexp(1.0 + g.Below(1 << 20) / double(1 << 20), static_cast<int>(g.Below(200)) - 100);
-        wchar_t buffer[64];
-        swprintf(buffer, 64, L"%.40e", value * (1 + std::ldexp(1.0, -53)));
-        text += buffer;
-        break;
-    }
-    case 3: {
-        text += L"0x";
-        for (size_t k = g.Below(20); k > 0; --k) text += L"0123456789abcdefABCDEF."[g.Below(23)];
-        if (g.Chance(60)) text += std::wstring(g.Chance(50) ? L"p" : L"P") + (g.Chance(50) ? L"-" : L"") +
-                                  std::to_wstring(g.Below(1200));
-        break;
-    }
-    default: {
-        for (size_t k = g.Below(30); k > 0; --k) text += L"0123456789."[g.Below(11)];
-        if (g.Chance(60)) {
-            text += L"eEdDp"[g.Below(5)];
-            if (g.Chance(50)) text += L"+-"[g.Below(2)];
-            text += std::to_wstring(g.Chance(80) ? g.Below(400) : g.engine()());
+        case 0:
+            text += g.Pick(words);
+            break;
+        case 1: {
+            // A double printed to 17 digits or as many as it takes, read back exactly.
+            double value = std::bit_cast<double>((uint64_t(g.engine()()) << 32) | g.engine()());
+            if (!std::isfinite(value)) value = 1.5;
+            wchar_t buffer[64];
+            swprintf(buffer, 64, g.Chance(50) ? L"%.17g" : L"%.25e", std::fabs(value));
+            text += buffer;
+            break;
         }
-        break;
-    }
+        case 2: {
+            // Halfway between two doubles and a hair to either side.
+            double value = std::ldexp(1.0 + g.Below(1 << 20) / double(1 << 20), static_cast<int>(g.Below(200)) - 100);
+            wchar_t buffer[64];
+            swprintf(buffer, 64, L"%.40e", value * (1 + std::ldexp(1.0, -53)));
+            text += buffer;
+            break;
+        }
+        case 3: {
+            text += L"0x";
+            for (size_t k = g.Below(20); k > 0; --k) text += L"0123456789abcdefABCDEF."[g.Below(23)];
+            if (g.Chance(60))
+                text += std::wstring(g.Chance(50) ? L"p" : L"P") + (g.Chance(50) ? L"-" : L"") +
+                        std::to_wstring(g.Below(1200));
+            break;
+        }
+        default: {
+            for (size_t k = g.Below(30); k > 0; --k) text += L"0123456789."[g.Below(11)];
+            if (g.Chance(60)) {
+                text += L"eEdDp"[g.Below(5)];
+                if (g.Chance(50)) text += L"+-"[g.Below(2)];
+                text += std::to_wstring(g.Chance(80) ? g.Below(400) : g.engine()());
+            }
+            break;
+        }
     }
     if (g.Chance(30)) text += g.Pick(kJunk);
     return text;
@@ -217,12 +236,13 @@ TEST(CRuntimeDifferential, WcstodMatchesOnGeneratedTexts) {
         if (!same || expectedEnd != foundEnd) {
             char line[160];
             snprintf(line, sizeof line, " expected %.17g (%016llx) end %d got %.17g (%016llx) end %d", expected,
-                     static_cast<unsigned long long>(std::bit_cast<uint64_t>(expected)), static_cast<int>(expectedEnd - s),
-                     found, static_cast<unsigned long long>(std::bit_cast<uint64_t>(found)), static_cast<int>(foundEnd - s));
+                     static_cast<unsigned long long>(std::bit_cast<uint64_t>(expected)),
+                     static_cast<int>(expectedEnd - s), found,
+                     static_cast<unsigned long long>(std::bit_cast<uint64_t>(found)), static_cast<int>(foundEnd - s));
             mismatches.Add(differential::Narrow(text) + " " + Hex(text) + line);
         }
     }
     EXPECT_EQ(0u, mismatches.count()) << mismatches.Report();
 }
 
-} // namespace
+}  // namespace

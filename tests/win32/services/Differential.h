@@ -77,11 +77,13 @@ public:
     uint32_t Below(uint32_t n) { return static_cast<uint32_t>(random_() % n); }
     bool Chance(uint32_t percent) { return Below(100) < percent; }
     template <typename T, size_t N>
-    const T& Pick(const T (&items)[N]) { return items[Below(N)]; }
+    const T& Pick(const T (&items)[N]) {
+        return items[Below(N)];
+    }
     std::mt19937& engine() { return random_; }
 
 private:
     std::mt19937 random_;
 };
 
-} // namespace differential
+}  // namespace differential

@@ -23,10 +23,10 @@ std::wstring SystemExpansion(const std::wstring& text) {
 
 // Texts with defined and undefined names in any case, stray and doubled percent signs, empty names.
 std::wstring Text(Generator& g) {
-    static const wchar_t* const pieces[] = {L"%",          L"%%",         L"OPT_A",     L"opt_a",   L"OPT_EMPTY",
-                                            L"OPT_NONE",   L"%OPT_A%",    L"%opt_b%",   L"%OPT_NONE%", L"%OPT_EMPTY%",
-                                            L"C:\\dir\\",  L" ",          L"x",         L"\x65E5\x672C", L"%OPT_A",
-                                            L"OPT_B%",     L"%OPT_LONG%", L"%=C:%",     L"%PATHEXT%", L"%Opt_B%%"};
+    static const wchar_t* const pieces[] = {L"%",         L"%%",         L"OPT_A",   L"opt_a",        L"OPT_EMPTY",
+                                            L"OPT_NONE",  L"%OPT_A%",    L"%opt_b%", L"%OPT_NONE%",   L"%OPT_EMPTY%",
+                                            L"C:\\dir\\", L" ",          L"x",       L"\x65E5\x672C", L"%OPT_A",
+                                            L"OPT_B%",    L"%OPT_LONG%", L"%=C:%",   L"%PATHEXT%",    L"%Opt_B%%"};
     std::wstring text;
     for (size_t n = g.Below(7); n > 0; --n) text += g.Pick(pieces);
     return text;

@@ -45,9 +45,12 @@ struct Value {
 template <typename... Stars>
 std::pair<std::wstring, std::wstring> BothWith(const wchar_t* format, const Value& value, Stars... stars) {
     switch (value.kind) {
-    case Value::Integer: return {ReferenceFormat(format, stars..., value.integer), crt::Format(format, stars..., value.integer)};
-    case Value::Double: return {ReferenceFormat(format, stars..., value.number), crt::Format(format, stars..., value.number)};
-    default: return {ReferenceFormat(format, stars..., value.text), crt::Format(format, stars..., value.text)};
+        case Value::Integer:
+            return {ReferenceFormat(format, stars..., value.integer), crt::Format(format, stars..., value.integer)};
+        case Value::Double:
+            return {ReferenceFormat(format, stars..., value.number), crt::Format(format, stars..., value.number)};
+        default:
+            return {ReferenceFormat(format, stars..., value.text), crt::Format(format, stars..., value.text)};
     }
 }
 
@@ -58,8 +61,9 @@ std::pair<std::wstring, std::wstring> Both(const wchar_t* format, const std::vec
 }
 
 long long InterestingInteger(Generator& g) {
-    static const long long fixed[] = {0, 1, -1, 7, -42, 255, 4464, 65535, 65536, 70000, INT32_MAX, INT32_MIN,
-                                      UINT32_MAX, INT64_MAX, INT64_MIN, 4294967297LL, -1099511627776LL};
+    static const long long fixed[] = {
+        0,     1,         -1,        7,          -42,       255,       4464,         65535,           65536,
+        70000, INT32_MAX, INT32_MIN, UINT32_MAX, INT64_MAX, INT64_MIN, 4294967297LL, -1099511627776LL};
     if (g.Chance(40)) return g.Pick(fixed);
     uint64_t bits = (uint64_t(g.engine()()) << 32) | g.engine()();
     int width = 1 + g.Below(64);
@@ -68,31 +72,62 @@ long long InterestingInteger(Generator& g) {
 }
 
 double InterestingDouble(Generator& g) {
-    static const double fixed[] = {0.0, -0.0, 0.125, 0.375, 2.5, 1.5, 0.5, -2.5, 1e30, 1e22, 1e23, 5e-324, 2.2250738585072014e-308,
-                                   1.7976931348623157e308, 0.1, 0.35, 2.675, 1.005, 123456789.0, 1e-5, 1e-4, 999999.5,
-                                   9.9999995, 0.00001234567, 1e15, 1e16, 1e17, 3.0, 1.96875, 1.03125};
+    static const double fixed[] = {0.0,
+                                   -0.0,
+                                   0.125,
+                                   0.375,
+                                   2.5,
+                                   1.5,
+                                   0.5,
+                                   -2.5,
+                                   1e30,
+                                   1e22,
+                                   1e23,
+                                   5e-324,
+                                   2.2250738585072014e-308,
+                                   1.7976931348623157e308,
+                                   0.1,
+                                   0.35,
+                                   2.675,
+                                   1.005,
+                                   123456789.0,
+                                   1e-5,
+                                   1e-4,
+                                   999999.5,
+                                   9.9999995,
+                                   0.00001234567,
+                                   1e15,
+                                   1e16,
+                                   1e17,
+                                   3.0,
+                                   1.96875,
+                                   1.03125};
     // Only the two quiet NaNs arithmetic makes: the reference names every negative NaN "-nan(ind)"
     // and every positive one "nan", where the documented output tells payloads and signalling
     // NaNs apart ("-nan", "nan(snan)"), as we do.
-    static const uint64_t nonFinite[] = {0x7FF0000000000000, 0xFFF0000000000000, 0x7FF8000000000000, 0xFFF8000000000000};
+    static const uint64_t nonFinite[] = {0x7FF0000000000000, 0xFFF0000000000000, 0x7FF8000000000000,
+                                         0xFFF8000000000000};
     switch (g.Below(6)) {
-    case 0: return g.Pick(fixed);
-    case 1: return std::bit_cast<double>(g.Pick(nonFinite));
-    case 2: return std::ldexp(static_cast<double>(g.Below(1 << 16)) + 0.5, -static_cast<int>(g.Below(12)));
-    case 3: {
-        double value = std::bit_cast<double>((uint64_t(g.engine()()) << 32) | g.engine()());
-        return std::isfinite(value) ? value : 1.25;
-    }
-    default: {
-        double value = std::ldexp(1.0 + g.Below(1 << 30) / double(1 << 30), static_cast<int>(g.Below(120)) - 60);
-        return g.Chance(30) ? -value : value;
-    }
+        case 0:
+            return g.Pick(fixed);
+        case 1:
+            return std::bit_cast<double>(g.Pick(nonFinite));
+        case 2:
+            return std::ldexp(static_cast<double>(g.Below(1 << 16)) + 0.5, -static_cast<int>(g.Below(12)));
+        case 3: {
+            double value = std::bit_cast<double>((uint64_t(g.engine()()) << 32) | g.engine()());
+            return std::isfinite(value) ? value : 1.25;
+        }
+        default: {
+            double value = std::ldexp(1.0 + g.Below(1 << 30) / double(1 << 30), static_cast<int>(g.Below(120)) - 60);
+            return g.Chance(30) ? -value : value;
+        }
     }
 }
 
 const wchar_t* InterestingText(Generator& g) {
-    static const wchar_t* const texts[] = {L"", L"a", L"abc", L"Hello, world", L"\x00E9t\x00E9", L"\x6F22\x5B57",
-                                           L"tab\there", L"  padded  ", nullptr};
+    static const wchar_t* const texts[] = {
+        L"", L"a", L"abc", L"Hello, world", L"\x00E9t\x00E9", L"\x6F22\x5B57", L"tab\there", L"  padded  ", nullptr};
     return g.Pick(texts);
 }
 
@@ -151,17 +186,21 @@ TEST(FormatDifferential, SingleConversionsMatchOnGeneratedSpecs) {
         format += L'>';
 
         Value value{conversion.kind};
-        if (conversion.kind == Value::Integer) value.integer = letter == L'c' ? g.Below(0x10000) : InterestingInteger(g);
+        if (conversion.kind == Value::Integer)
+            value.integer = letter == L'c' ? g.Below(0x10000) : InterestingInteger(g);
         if (conversion.kind == Value::Double) value.number = InterestingDouble(g);
         if (conversion.kind == Value::String) value.text = InterestingText(g);
 
         auto [expected, found] = Both(format.c_str(), stars, value);
         if (expected != found) {
             char argument[96];
-            if (value.kind == Value::Integer) snprintf(argument, sizeof argument, "%lld", value.integer);
+            if (value.kind == Value::Integer)
+                snprintf(argument, sizeof argument, "%lld", value.integer);
             else if (value.kind == Value::Double)
-                snprintf(argument, sizeof argument, "%016llx", static_cast<unsigned long long>(std::bit_cast<uint64_t>(value.number)));
-            else snprintf(argument, sizeof argument, "%s", value.text ? Hex(value.text).c_str() : "null");
+                snprintf(argument, sizeof argument, "%016llx",
+                         static_cast<unsigned long long>(std::bit_cast<uint64_t>(value.number)));
+            else
+                snprintf(argument, sizeof argument, "%s", value.text ? Hex(value.text).c_str() : "null");
             std::string starText;
             for (int star : stars) starText += std::to_string(star) + ",";
             mismatches.Add(differential::Narrow(format) + " (" + starText + argument + ") expected \"" +
@@ -184,11 +223,13 @@ TEST(FormatDifferential, CompositeFormatsMatch) {
             std::wstring expected, found;
         } cases[] = {
             {L"%s=%d", ReferenceFormat(L"%s=%d", s, a), crt::Format(L"%s=%d", s, a)},
-            {L"%lld\t%08X|%.2f", ReferenceFormat(L"%lld\t%08X|%.2f", a, b, x), crt::Format(L"%lld\t%08X|%.2f", a, b, x)},
+            {L"%lld\t%08X|%.2f", ReferenceFormat(L"%lld\t%08X|%.2f", a, b, x),
+             crt::Format(L"%lld\t%08X|%.2f", a, b, x)},
             {L"[%-10s][%10.3e][%%][%I64u]", ReferenceFormat(L"[%-10s][%10.3e][%%][%I64u]", s, x, a),
              crt::Format(L"[%-10s][%10.3e][%%][%I64u]", s, x, a)},
             {L"%f %g %lf", ReferenceFormat(L"%f %g %lf", x, x, x), crt::Format(L"%f %g %lf", x, x, x)},
-            {L"%c%c%d", ReferenceFormat(L"%c%c%d", 0x41 + (a & 7), 0x3042, b), crt::Format(L"%c%c%d", 0x41 + (a & 7), 0x3042, b)},
+            {L"%c%c%d", ReferenceFormat(L"%c%c%d", 0x41 + (a & 7), 0x3042, b),
+             crt::Format(L"%c%c%d", 0x41 + (a & 7), 0x3042, b)},
             {L"%p", ReferenceFormat(L"%p", a), crt::Format(L"%p", a)},
         };
         for (const Case& c : cases)
@@ -199,4 +240,4 @@ TEST(FormatDifferential, CompositeFormatsMatch) {
     EXPECT_EQ(0u, mismatches.count()) << mismatches.Report();
 }
 
-} // namespace
+}  // namespace

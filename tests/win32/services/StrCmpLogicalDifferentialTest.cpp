@@ -12,16 +12,19 @@ using differential::Mismatches;
 
 namespace {
 
-int Sign(int value) { return value < 0 ? -1 : value > 0 ? 1 : 0; }
+int Sign(int value) {
+    return value < 0 ? -1 : value > 0 ? 1 : 0;
+}
 
 // Names the way people write them: words in either case, digit runs with leading zeros and
 // beyond 32 bits, punctuation, blanks, and letters of other scripts with and without accents.
 std::wstring Name(Generator& g) {
     static const wchar_t* const pieces[] = {
-        L"a", L"A", L"b", L"Z", L"file", L"File", L"FILE", L"_", L"-", L".", L" ", L"~", L"(", L"'", L"[",
-        L"\x00E9", L"\x00C9", L"e", L"E", L"\x00DF", L"ss", L"\xFF71", L"\x30A2", L"\x3042", L"\x6F22", L"\x5B57",
-        L"\x30FC", L"\xFF21", L"\xFF41", L"\x00F1", L"\x03A9", L"\x03C9", L"\x00E4", L"\x017F", L"\x01C5", L"\x0660",
-        L"\xFF11", L"\x00B2", L"\x00BD", L"!", L"#", L"$", L"+", L"=", L"\x3000", L"\t"};
+        L"a",      L"A",      L"b",      L"Z",      L"file",   L"File",   L"FILE",   L"_",      L"-",      L".",
+        L" ",      L"~",      L"(",      L"'",      L"[",      L"\x00E9", L"\x00C9", L"e",      L"E",      L"\x00DF",
+        L"ss",     L"\xFF71", L"\x30A2", L"\x3042", L"\x6F22", L"\x5B57", L"\x30FC", L"\xFF21", L"\xFF41", L"\x00F1",
+        L"\x03A9", L"\x03C9", L"\x00E4", L"\x017F", L"\x01C5", L"\x0660", L"\xFF11", L"\x00B2", L"\x00BD", L"!",
+        L"#",      L"$",      L"+",      L"=",      L"\x3000", L"\t"};
     std::wstring name;
     for (size_t n = 1 + g.Below(5); n > 0; --n) {
         if (g.Chance(35)) {
@@ -40,13 +43,18 @@ std::wstring Name(Generator& g) {
 // A second name close to the first: the same, cut, or with one unit changed, added or removed.
 std::wstring Neighbour(Generator& g, std::wstring name) {
     switch (g.Below(5)) {
-    case 0: return name;
-    case 1: name.resize(g.Below(static_cast<uint32_t>(name.size()) + 1)); return name;
-    case 2: return name + Name(g);
-    case 3:
-        if (!name.empty()) name[g.Below(static_cast<uint32_t>(name.size()))] = Name(g)[0];
-        return name;
-    default: return Name(g);
+        case 0:
+            return name;
+        case 1:
+            name.resize(g.Below(static_cast<uint32_t>(name.size()) + 1));
+            return name;
+        case 2:
+            return name + Name(g);
+        case 3:
+            if (!name.empty()) name[g.Below(static_cast<uint32_t>(name.size()))] = Name(g)[0];
+            return name;
+        default:
+            return Name(g);
     }
 }
 
@@ -59,7 +67,8 @@ TEST(StrCmpLogicalDifferential, MatchesTheShellOnGeneratedNames) {
         int expected = Sign(StrCmpLogicalW(a.c_str(), b.c_str()));
         int found = crt::StrCmpLogical(a.c_str(), b.c_str());
         if (expected != found)
-            mismatches.Add(Hex(a) + " vs " + Hex(b) + " expected " + std::to_string(expected) + " got " + std::to_string(found));
+            mismatches.Add(Hex(a) + " vs " + Hex(b) + " expected " + std::to_string(expected) + " got " +
+                           std::to_string(found));
     }
     EXPECT_EQ(0u, mismatches.count()) << mismatches.Report();
 }
@@ -74,9 +83,10 @@ TEST(StrCmpLogicalDifferential, CollationRanksMatchTheLocaleOnRandomPairs) {
         int expected = CompareStringW(GetThreadLocale(), NORM_IGNORECASE, &a, 1, &b, 1) - CSTR_EQUAL;
         int found = Sign(crt::CollationRank(a) - crt::CollationRank(b));
         if (expected != found)
-            mismatches.Add(Hex(std::wstring{a}) + " vs " + Hex(std::wstring{b}) + " expected " + std::to_string(expected));
+            mismatches.Add(Hex(std::wstring{a}) + " vs " + Hex(std::wstring{b}) + " expected " +
+                           std::to_string(expected));
     }
     EXPECT_EQ(0u, mismatches.count()) << mismatches.Report();
 }
 
-} // namespace
+}  // namespace
