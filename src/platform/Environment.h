@@ -20,6 +20,10 @@ public:
     virtual std::wstring ModuleFileName() = 0;
     // GetSystemDirectoryW, without a trailing backslash.
     virtual std::wstring SystemDirectory() = 0;
+    // SHGetSpecialFolderPathW of the local application data folder, without creating it.
+    virtual bool LocalAppDataFolder(std::wstring& path) = 0;
+    // GetUserNameW with a buffer of 256 characters.
+    virtual bool UserName(std::wstring& name) = 0;
     // The font of icon titles (SPI_GETICONTITLELOGFONT): the default of every font setting.
     virtual LogFont IconTitleFont() = 0;
 };

@@ -14,6 +14,8 @@ public:
     std::wstring ModuleFileName() override { return moduleFileName_; }
     std::wstring SystemDirectory() override { return systemDirectory_; }
     LogFont IconTitleFont() override { return iconTitleFont_; }
+    bool LocalAppDataFolder(std::wstring& path) override { return Give(localAppData_, path); }
+    bool UserName(std::wstring& name) override { return Give(userName_, name); }
 
     // Names ignore case; the name keeps the spelling it was first set with.
     void SetVariable(const std::wstring& name, const std::wstring& value);
@@ -21,8 +23,16 @@ public:
     void SetModuleFileName(const std::wstring& path) { moduleFileName_ = path; }
     void SetSystemDirectory(const std::wstring& path) { systemDirectory_ = path; }
     void SetIconTitleFont(const LogFont& font) { iconTitleFont_ = font; }
+    // An empty text makes the call fail.
+    void SetLocalAppDataFolder(const std::wstring& path) { localAppData_ = path; }
+    void SetUserName(const std::wstring& name) { userName_ = name; }
 
 private:
+    static bool Give(const std::wstring& value, std::wstring& out) {
+        out = value;
+        return !value.empty();
+    }
+
     struct Variable {
         std::wstring name;
         std::wstring value;
@@ -31,6 +41,8 @@ private:
     std::wstring moduleFileName_ = L"C:\\Qor\\Tools\\Option\\Option.exe";
     std::wstring systemDirectory_ = L"C:\\Windows\\system32";
     LogFont iconTitleFont_;
+    std::wstring localAppData_ = L"C:\\Users\\tester\\AppData\\Local";
+    std::wstring userName_ = L"tester";
 };
 
 }  // namespace platform::fake

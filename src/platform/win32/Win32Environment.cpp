@@ -1,6 +1,7 @@
 #include "platform/win32/Win32Environment.h"
 
 #include <windows.h>
+#include <shlobj.h>
 
 #include <algorithm>
 #include <iterator>
@@ -60,6 +61,21 @@ LogFont Win32Environment::IconTitleFont() {
     font.lfPitchAndFamily = system.lfPitchAndFamily;
     std::copy(std::begin(system.lfFaceName), std::end(system.lfFaceName), font.lfFaceName);
     return font;
+}
+
+bool Win32Environment::LocalAppDataFolder(std::wstring& path) {
+    wchar_t buffer[MAX_PATH] = {};
+    if (!SHGetSpecialFolderPathW(nullptr, buffer, CSIDL_LOCAL_APPDATA, FALSE)) return false;
+    path = buffer;
+    return true;
+}
+
+bool Win32Environment::UserName(std::wstring& name) {
+    wchar_t buffer[256] = {};
+    DWORD length = 256;
+    if (!GetUserNameW(buffer, &length)) return false;
+    name = buffer;
+    return true;
 }
 
 std::wstring ProgramName() {

@@ -10,6 +10,8 @@ public:
     std::wstring ModuleFileName() override;
     std::wstring SystemDirectory() override;
     LogFont IconTitleFont() override;
+    bool LocalAppDataFolder(std::wstring& path) override;
+    bool UserName(std::wstring& name) override;
 };
 
 // The running program's file name without directory and extension ("Option").

@@ -1,0 +1,88 @@
+#include "settings/PathRoots.h"
+
+#include <algorithm>
+#include <utility>
+#include <vector>
+
+#include "services/CRuntime.h"
+#include "services/PathHelpers.h"
+
+namespace {
+
+using Row = std::pair<std::wstring, std::wstring>;  // token or variable, and what it stands for
+
+// In the order of expansion and of the search when compressing.
+std::vector<Row> TokenRows(UserDirectories& directories) {
+    const std::wstring user = directories.UserDirectory();
+    const std::wstring root = directories.ApplicationRoot();
+    return {
+        {L"%Script_dir%", user + L"Script\\"},
+        {L"%User_dir%", user},
+        {L"%Menu_dir%", user + L"Menu\\"},
+        {L"%App_Dir%", root},
+        {L"%CMD_Dir%", root + L"command\\Default\\"},
+        {L"%CmdPlugin_Dir%", root + L"command\\CmdPlugin\\"},
+        {L"%Viewer_Dir%", root + L"command\\Viewer\\"},
+        {L"%UserCmd_Dir%", root + L"command\\User\\"},
+    };
+}
+
+// "%USERPROFILE%" stands twice, as it always has.
+constexpr const wchar_t* kEnvironmentNames[] = {
+    L"%COMPUTERNAME%",     L"%ComSpec%",           L"%HOMEDRIVE%",
+    L"%HOMEPATH%",         L"%USERPROFILE%",       L"%OS%",
+    L"%SystemDrive%",      L"%SystemRoot%",        L"%TMP%",
+    L"%TEMP%",             L"%windir%",            L"%ALLUSERSPROFILE%",
+    L"%APPDATA%",          L"%LOGONSERVER%",       L"%PSModulePath%",
+    L"%PUBLIC%",           L"%SESSIONNAME%",       L"%USERDOMAIN%",
+    L"%username%",         L"%USERPROFILE%",       L"%CommonProgramFiles%",
+    L"%CommonProgramFiles(x86)%", L"%ProgramFiles%", L"%ProgramFiles(x86)%",
+};
+
+// CString::Replace: every occurrence, matched with case; an empty piece changes nothing.
+void ReplaceAll(std::wstring& text, const std::wstring& piece, const std::wstring& with) {
+    if (piece.empty()) return;
+    for (size_t at = 0; (at = text.find(piece, at)) != std::wstring::npos; at += with.size()) {
+        text.replace(at, piece.size(), with);
+    }
+}
+
+}  // namespace
+
+std::wstring ExpandDirectoryMacros(const std::wstring& text, UserDirectories& directories) {
+    std::wstring expanded = ExpandEnvironment(text);
+    for (const Row& row : TokenRows(directories)) ReplaceAll(expanded, row.first, row.second);
+    return expanded;
+}
+
+std::wstring TextToMacroPath(const std::wstring& text, UserDirectories& directories) {
+    std::wstring result = text;
+    const std::wstring lowered = crt::MakeLower(text);
+    for (const Row& row : TokenRows(directories)) {
+        size_t at = lowered.find(crt::MakeLower(row.second));
+        if (at == std::wstring::npos) continue;
+        ReplaceAll(result, text.substr(at, row.second.size()), row.first);
+        break;
+    }
+    return TextToEnvironmentPath(result);
+}
+
+std::wstring TextToEnvironmentPath(const std::wstring& text) {
+    std::vector<Row> rows;
+    for (const wchar_t* name : kEnvironmentNames) rows.emplace_back(name, crt::MakeLower(ExpandEnvironment(name)));
+    std::stable_sort(rows.begin(), rows.end(),
+                     [](const Row& a, const Row& b) { return a.second.size() > b.second.size(); });
+    std::wstring result = text;
+    for (const Row& row : rows) {
+        std::wstring lowered = crt::MakeLower(result);
+        for (size_t at; (at = lowered.find(row.second)) != std::wstring::npos;) {
+            std::wstring before = result;
+            ReplaceAll(result, result.substr(at, row.second.size()), row.first);
+            // A row that cannot change the text (an undefined name already written as itself, an
+            // empty value) would be found again for ever: go on with the next one.
+            if (result == before) break;
+            lowered = crt::MakeLower(result);
+        }
+    }
+    return result;
+}

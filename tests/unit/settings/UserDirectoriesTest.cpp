@@ -1,0 +1,151 @@
+#include <gtest/gtest.h>
+
+#include "platform/fake/FakePlatform.h"
+#include "settings/PathRoots.h"
+#include "settings/SettingsStore.h"
+#include "settings/UserDirectories.h"
+
+namespace {
+
+using platform::fake::FakePlatform;
+
+class UserDirectoriesTest : public testing::Test {
+protected:
+    UserDirectoriesTest() {
+        fake.environment().SetModuleFileName(L"C:\\Qor\\command\\Option\\Option.exe");
+        fake.files().AddDirectory(L"C:\\Qor\\command\\Option");
+        fake.files().AddDirectory(L"C:\\Users\\tester\\AppData\\Local");
+    }
+
+    void SetMode(int32_t mode) { DirectWriteInt(kDirectSettingsPath, L"UserDirMode", mode); }
+
+    FakePlatform fake;
+    UserDirectories directories;
+};
+
+TEST_F(UserDirectoriesTest, ProgramDirectoryAndApplicationRoot) {
+    EXPECT_EQ(L"C:\\Qor\\command\\Option\\", directories.ProgramDirectory());
+    EXPECT_EQ(L"C:\\Qor\\", directories.ApplicationRoot());
+}
+
+TEST_F(UserDirectoriesTest, UserDirectoryByMode) {
+    struct Case {
+        const char* label;
+        int32_t mode;  // -1: no value stored
+        std::wstring userDir;
+        std::wstring appData;
+        std::wstring userName;
+        std::wstring expected;
+        std::wstring created;  // a directory that must exist afterwards
+    };
+    const Case cases[] = {
+        {"default is local app data", -1, L"", L"C:\\Users\\tester\\AppData\\Local", L"tester",
+         L"C:\\Users\\tester\\AppData\\Local\\Qor\\", L"C:\\Users\\tester\\AppData\\Local\\Qor"},
+        {"no app data folder", 0, L"", L"", L"tester", L"C:\\Qor\\", L""},
+        {"application folder per user", 1, L"", L"", L"tester", L"C:\\Qor\\Ubar\\tester\\", L"C:\\Qor\\Ubar\\tester"},
+        {"unknown mode acts as 1", 3, L"", L"", L"tester", L"C:\\Qor\\Ubar\\tester\\", L"C:\\Qor\\Ubar\\tester"},
+        {"no user name", 1, L"", L"", L"", L"C:\\Qor\\Ubar\\", L""},
+        {"chosen folder", 2, L"D:\\Mine\\", L"", L"tester", L"D:\\Mine\\", L""},
+        {"chosen folder with slash", 2, L"D:\\Mine/", L"", L"tester", L"D:\\Mine\\", L""},
+        {"chosen folder without separator", 2, L"D:\\Mine", L"", L"tester", L"D:\\Mine\\", L""},
+        {"empty chosen folder", 2, L"", L"", L"tester", L"\\", L""},
+    };
+    for (const auto& c : cases) {
+        FakePlatform local;
+        local.environment().SetModuleFileName(L"C:\\Qor\\command\\Option\\Option.exe");
+        local.files().AddDirectory(L"C:\\Qor\\command\\Option");
+        local.files().AddDirectory(L"C:\\Users\\tester\\AppData\\Local");
+        local.environment().SetLocalAppDataFolder(c.appData);
+        local.environment().SetUserName(c.userName);
+        if (c.mode >= 0) DirectWriteInt(kDirectSettingsPath, L"UserDirMode", c.mode);
+        DirectWriteString(kDirectSettingsPath, L"UserDir", c.userDir);
+        UserDirectories fresh;
+        EXPECT_EQ(c.expected, fresh.UserDirectory()) << c.label;
+        if (!c.created.empty()) {
+            EXPECT_NE(platform::kInvalidAttributes, local.files().GetAttributes(c.created)) << c.label;
+        }
+    }
+}
+
+TEST_F(UserDirectoriesTest, TheFirstAnswerHoldsForTheProcess) {
+    SetMode(1);
+    EXPECT_EQ(L"C:\\Qor\\Ubar\\tester\\", directories.UserDirectory());
+    SetMode(2);
+    EXPECT_EQ(L"C:\\Qor\\Ubar\\tester\\", directories.UserDirectory());
+}
+
+TEST_F(UserDirectoriesTest, TokensExpandInOrderAndWithCase) {
+    SetMode(1);
+    fake.environment().SetVariable(L"DATA", L"%User_dir%x");
+    struct Case {
+        const wchar_t* text;
+        const wchar_t* expected;
+    };
+    const Case cases[] = {
+        {L"%Script_dir%Editor.txt", L"C:\\Qor\\Ubar\\tester\\Script\\Editor.txt"},
+        {L"%User_dir%CommandMode.key", L"C:\\Qor\\Ubar\\tester\\CommandMode.key"},
+        {L"%Menu_dir%m.txt", L"C:\\Qor\\Ubar\\tester\\Menu\\m.txt"},
+        {L"%App_Dir%Qor.exe", L"C:\\Qor\\Qor.exe"},
+        {L"%CMD_Dir%a", L"C:\\Qor\\command\\Default\\a"},
+        {L"%CmdPlugin_Dir%a", L"C:\\Qor\\command\\CmdPlugin\\a"},
+        {L"%Viewer_Dir%a", L"C:\\Qor\\command\\Viewer\\a"},
+        {L"%UserCmd_Dir%a", L"C:\\Qor\\command\\User\\a"},
+        {L"%user_dir%a", L"%user_dir%a"},
+        {L"\"%App_Dir%a\" \"%App_Dir%b\"", L"\"C:\\Qor\\a\" \"C:\\Qor\\b\""},
+        {L"%DATA%", L"C:\\Qor\\Ubar\\tester\\x"},
+    };
+    for (const auto& c : cases) {
+        EXPECT_EQ(c.expected, ExpandDirectoryMacros(c.text, directories)) << testing::PrintToString(std::wstring(c.text));
+    }
+}
+
+TEST_F(UserDirectoriesTest, CompressionTakesTheFirstTokenFoundOnly) {
+    SetMode(1);
+    struct Case {
+        const wchar_t* path;
+        const wchar_t* expected;
+    };
+    const Case cases[] = {
+        {L"C:\\Qor\\Ubar\\tester\\Script\\a.txt", L"%Script_dir%a.txt"},
+        {L"c:\\qor\\ubar\\TESTER\\x.key", L"%User_dir%x.key"},
+        {L"C:\\Qor\\Ubar\\tester\\Menu\\m.txt", L"%User_dir%Menu\\m.txt"},
+        {L"C:\\Qor\\command\\User\\tool.exe", L"%App_Dir%command\\User\\tool.exe"},
+        {L"\"C:\\Qor\\a\" \"C:\\Qor\\b\" \"c:\\qor\\c\"", L"\"%App_Dir%a\" \"%App_Dir%b\" \"c:\\qor\\c\""},
+        {L"D:\\elsewhere\\x", L"D:\\elsewhere\\x"},
+    };
+    for (const auto& c : cases) {
+        std::wstring compressed = TextToMacroPath(c.path, directories);
+        EXPECT_EQ(c.expected, compressed) << testing::PrintToString(std::wstring(c.path));
+        if (std::wstring(c.path).find(L"c:\\qor\\c") == std::wstring::npos &&
+            std::wstring(c.path).find(L"TESTER") == std::wstring::npos) {
+            EXPECT_EQ(c.path, ExpandDirectoryMacros(compressed, directories)) << "round trip";
+        }
+    }
+}
+
+TEST(PathRoots, EnvironmentCompressionLongestValueFirstAndGuarded) {
+    FakePlatform fake;
+    fake.environment().SetVariable(L"USERPROFILE", L"C:\\Users\\tester");
+    fake.environment().SetVariable(L"APPDATA", L"C:\\Users\\tester\\AppData\\Roaming");
+    fake.environment().SetVariable(L"SystemRoot", L"C:\\Windows");
+    fake.environment().SetVariable(L"windir", L"C:\\Windows");
+    fake.environment().SetVariable(L"OS", L"");
+    struct Case {
+        const wchar_t* path;
+        const wchar_t* expected;
+    };
+    const Case cases[] = {
+        {L"C:\\Users\\tester\\AppData\\Roaming\\x", L"%APPDATA%\\x"},
+        {L"c:\\users\\TESTER\\Documents", L"%USERPROFILE%\\Documents"},
+        {L"C:\\Windows\\notepad.exe", L"%SystemRoot%\\notepad.exe"},
+        {L"%TMP%\\and %TEMP%", L"%TMP%\\and %TEMP%"},
+        {L"a %ComSpec% b", L"a %ComSpec% b"},
+        {L"D:\\other", L"D:\\other"},
+        {L"", L""},
+    };
+    for (const auto& c : cases) {
+        EXPECT_EQ(c.expected, TextToEnvironmentPath(c.path)) << testing::PrintToString(std::wstring(c.path));
+    }
+}
+
+}  // namespace
