@@ -12,7 +12,7 @@ namespace platform::fake {
 struct ShownMessage {
     std::wstring text;
     unsigned style;
-    std::wstring caption;  // empty for the application's own message box
+    std::wstring caption{};  // empty for the application's own message box
     bool operator==(const ShownMessage&) const = default;
 };
 
