@@ -5,7 +5,7 @@
 #include <string>
 
 #include "app/HostSwitches.h"
-#include "platform/System.h"
+#include "platform/ResourceLibrary.h"
 #include "services/MessageCatalog.h"
 #include "settings/SettingsStore.h"
 
@@ -20,5 +20,5 @@ struct AppServices {
     // Where the tool's own values live beneath HKEY_CURRENT_USER.
     std::wstring commandOptionRoot;
     // The language library; null when it could not be loaded.
-    std::unique_ptr<platform::SystemObject> resourceModule;
+    std::unique_ptr<platform::ResourceLibrary> resourceModule;
 };

@@ -4,6 +4,8 @@
 #include <memory>
 #include <string>
 
+#include "platform/ResourceLibrary.h"
+
 namespace platform {
 
 // Something the system holds for us until destroyed.
@@ -25,7 +27,7 @@ public:
     // Creates the named mutex when no process holds one of that name; null when one exists already.
     virtual std::unique_ptr<SystemObject> CreatePresenceMutex(const std::wstring& name) = 0;
     // Loads a resource library as data, without running any of its code; null on failure.
-    virtual std::unique_ptr<SystemObject> LoadDataLibrary(const std::wstring& path) = 0;
+    virtual std::unique_ptr<ResourceLibrary> LoadDataLibrary(const std::wstring& path) = 0;
 };
 
 }  // namespace platform

@@ -14,6 +14,30 @@ private:
     std::function<void()> release_;
 };
 
+// Counts itself among the loaded libraries until the program frees it.
+class FakeLibrary : public ResourceLibrary {
+public:
+    FakeLibrary(std::shared_ptr<const LibraryContent> content, std::shared_ptr<int> loaded)
+        : content_(std::move(content)), loaded_(std::move(loaded)) {
+        ++*loaded_;
+    }
+    ~FakeLibrary() override { --*loaded_; }
+
+    std::wstring LoadStringResource(uint32_t id) const override {
+        auto found = content_->strings.find(id);
+        return found == content_->strings.end() ? std::wstring() : found->second;
+    }
+    std::optional<Menu> LoadMenuResource(uint32_t id) const override {
+        auto found = content_->menus.find(id);
+        if (found == content_->menus.end()) return std::nullopt;
+        return found->second;
+    }
+
+private:
+    std::shared_ptr<const LibraryContent> content_;
+    std::shared_ptr<int> loaded_;
+};
+
 }  // namespace
 
 std::unique_ptr<SystemObject> FakeSystem::CreatePresenceMutex(const std::wstring& name) {
@@ -21,11 +45,11 @@ std::unique_ptr<SystemObject> FakeSystem::CreatePresenceMutex(const std::wstring
     return std::make_unique<Held>([mutexes = mutexes_, name] { mutexes->erase(name); });
 }
 
-std::unique_ptr<SystemObject> FakeSystem::LoadDataLibrary(const std::wstring& path) {
+std::unique_ptr<ResourceLibrary> FakeSystem::LoadDataLibrary(const std::wstring& path) {
     loadAttempts_.push_back(path);
-    if (!libraries_.count(path)) return nullptr;
-    ++*loaded_;
-    return std::make_unique<Held>([loaded = loaded_] { --*loaded; });
+    auto found = libraries_.find(path);
+    if (found == libraries_.end()) return nullptr;
+    return std::make_unique<FakeLibrary>(found->second, loaded_);
 }
 
 }  // namespace platform::fake

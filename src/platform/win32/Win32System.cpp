@@ -15,10 +15,75 @@ private:
     HANDLE handle_;
 };
 
-class OwnedModule : public SystemObject {
+// A menu loaded from a resource; destroying the top destroys its submenus with it.
+class OwnedMenu {
 public:
-    explicit OwnedModule(HMODULE module) : module_(module) {}
-    ~OwnedModule() override { FreeLibrary(module_); }
+    explicit OwnedMenu(HMENU menu) : menu_(menu) {}
+    ~OwnedMenu() {
+        if (menu_) DestroyMenu(menu_);
+    }
+    OwnedMenu(const OwnedMenu&) = delete;
+    OwnedMenu& operator=(const OwnedMenu&) = delete;
+    HMENU get() const { return menu_; }
+
+private:
+    HMENU menu_;
+};
+
+std::wstring ItemText(HMENU menu, UINT position) {
+    MENUITEMINFOW info{};
+    info.cbSize = sizeof info;
+    info.fMask = MIIM_STRING;
+    // The first call only measures.
+    if (!GetMenuItemInfoW(menu, position, TRUE, &info) || info.cch == 0) return {};
+    std::wstring text(info.cch + 1, L'\0');
+    info.dwTypeData = text.data();
+    info.cch = static_cast<UINT>(text.size());
+    if (!GetMenuItemInfoW(menu, position, TRUE, &info)) return {};
+    text.resize(info.cch);
+    return text;
+}
+
+Menu ReadMenu(HMENU menu) {
+    Menu items;
+    int count = GetMenuItemCount(menu);
+    for (int position = 0; position < count; ++position) {
+        MENUITEMINFOW info{};
+        info.cbSize = sizeof info;
+        info.fMask = MIIM_FTYPE | MIIM_ID | MIIM_SUBMENU;
+        if (!GetMenuItemInfoW(menu, position, TRUE, &info)) continue;
+        MenuItem item;
+        // A popup of a plain MENU template has no id of its own; the system shows its handle there.
+        bool handleAsId = info.hSubMenu && info.wID == static_cast<UINT>(reinterpret_cast<UINT_PTR>(info.hSubMenu));
+        item.id = handleAsId ? 0 : info.wID;
+        item.separator = (info.fType & MFT_SEPARATOR) != 0;
+        if (!item.separator) item.text = ItemText(menu, position);
+        if (info.hSubMenu) {
+            item.popup = true;
+            item.children = ReadMenu(info.hSubMenu);
+        }
+        items.push_back(std::move(item));
+    }
+    return items;
+}
+
+class Win32ResourceLibrary : public ResourceLibrary {
+public:
+    explicit Win32ResourceLibrary(HMODULE module) : module_(module) {}
+    ~Win32ResourceLibrary() override { FreeLibrary(module_); }
+
+    std::wstring LoadStringResource(uint32_t id) const override {
+        // A buffer size of 0 hands back the resource itself, so nothing is cut short.
+        const wchar_t* text = nullptr;
+        int length = LoadStringW(module_, id, reinterpret_cast<LPWSTR>(&text), 0);
+        return length > 0 && text ? std::wstring(text, length) : std::wstring();
+    }
+
+    std::optional<Menu> LoadMenuResource(uint32_t id) const override {
+        OwnedMenu menu(LoadMenuW(module_, MAKEINTRESOURCEW(id)));
+        if (!menu.get()) return std::nullopt;
+        return ReadMenu(menu.get());
+    }
 
 private:
     HMODULE module_;
@@ -36,9 +101,9 @@ std::unique_ptr<SystemObject> Win32System::CreatePresenceMutex(const std::wstrin
     return created ? std::make_unique<OwnedHandle>(created) : nullptr;
 }
 
-std::unique_ptr<SystemObject> Win32System::LoadDataLibrary(const std::wstring& path) {
+std::unique_ptr<ResourceLibrary> Win32System::LoadDataLibrary(const std::wstring& path) {
     HMODULE module = LoadLibraryExW(path.c_str(), nullptr, LOAD_LIBRARY_AS_DATAFILE | LOAD_WITH_ALTERED_SEARCH_PATH);
-    return module ? std::make_unique<OwnedModule>(module) : nullptr;
+    return module ? std::make_unique<Win32ResourceLibrary>(module) : nullptr;
 }
 
 }  // namespace platform::win32

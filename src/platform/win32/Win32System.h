@@ -7,7 +7,7 @@ namespace platform::win32 {
 class Win32System : public System {
 public:
     std::unique_ptr<SystemObject> CreatePresenceMutex(const std::wstring& name) override;
-    std::unique_ptr<SystemObject> LoadDataLibrary(const std::wstring& path) override;
+    std::unique_ptr<ResourceLibrary> LoadDataLibrary(const std::wstring& path) override;
 };
 
 }  // namespace platform::win32

@@ -1,0 +1,74 @@
+#include <gtest/gtest.h>
+
+#include "platform/fake/FakePlatform.h"
+#include "services/LanguageResources.h"
+#include "unit/Utf16.h"
+
+namespace {
+
+using platform::Menu;
+using platform::MenuItem;
+using platform::fake::FakePlatform;
+using platform::fake::LibraryContent;
+using platform::fake::ShownMessage;
+
+constexpr const wchar_t* kLibrary = L"C:\\Qor\\Lang\\Qor.ja-JP.dll";
+constexpr const wchar_t* kMessages = L"C:\\Qor\\Lang\\Msg.ja-JP.txt";
+
+class LanguageResourcesTest : public testing::Test {
+protected:
+    LanguageResourcesTest() {
+        fake.files().AddFile(kMessages, Utf16Bytes(L"62538\tno language library\r\n", true));
+        messages.SetPath(kMessages);
+    }
+
+    FakePlatform fake;
+    MessageCatalog messages;
+};
+
+const Menu kMainMenu = {
+    {0, L"&File", false, true, {{35900, L"&Open", false, false, {}}, {0, L"", true, false, {}}}},
+    {0, L"&Tools", false, true, {{35502, L"&Options...", false, false, {}}}},
+};
+
+TEST_F(LanguageResourcesTest, WithoutALibraryStringsAreEmptyAndTheMenuRequestIsTold) {
+    EXPECT_EQ(L"", LoadLanguageString(nullptr, 35900));
+    EXPECT_EQ(std::nullopt, LoadLanguageMenu(nullptr, 130, messages));
+    EXPECT_EQ((std::vector<ShownMessage>{{L"no language library", 0}}), fake.prompts().shown());
+}
+
+TEST_F(LanguageResourcesTest, ALoadedLibraryPassesStringsAndMenusThrough) {
+    fake.system().AddLibrary(kLibrary, LibraryContent{{{35900, L"Open\nOpen the item"}, {50551, L"Ext %d\nTip"}},
+                                                      {{130, kMainMenu}, {501, {}}}});
+    auto library = fake.system().LoadDataLibrary(kLibrary);
+    ASSERT_TRUE(library);
+    struct Case {
+        uint32_t id;
+        std::wstring text;
+    };
+    const Case cases[] = {{35900, L"Open\nOpen the item"}, {50551, L"Ext %d\nTip"}, {35901, L""}};
+    for (const auto& c : cases) EXPECT_EQ(c.text, LoadLanguageString(library.get(), c.id)) << c.id;
+
+    EXPECT_EQ(kMainMenu, LoadLanguageMenu(library.get(), 130, messages));
+    EXPECT_EQ(Menu{}, LoadLanguageMenu(library.get(), 501, messages));
+    EXPECT_EQ(std::nullopt, LoadLanguageMenu(library.get(), 502, messages)) << "absent menu";
+    EXPECT_TRUE(fake.prompts().shown().empty()) << "only a missing library is told";
+}
+
+TEST(CommandTextOf, CutsAtTheFirstLineFeed) {
+    struct Case {
+        std::wstring string;
+        std::wstring text;
+    };
+    const Case cases[] = {
+        {L"Copy\nCopy the selected items", L"Copy"},
+        {L"Copy", L"Copy"},
+        {L"a\nb\nc", L"a"},
+        {L"\ntip only", L""},
+        {L"", L""},
+        {L"Tab\tand\r\nCR", L"Tab\tand\r"},
+    };
+    for (const auto& c : cases) EXPECT_EQ(c.text, CommandTextOf(c.string)) << testing::PrintToString(c.string);
+}
+
+}  // namespace
