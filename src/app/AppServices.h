@@ -7,6 +7,7 @@
 #include "app/HostSwitches.h"
 #include "platform/ResourceLibrary.h"
 #include "services/MessageCatalog.h"
+#include "services/ShareBlock.h"
 #include "settings/SettingsStore.h"
 
 struct AppServices {
@@ -15,6 +16,8 @@ struct AppServices {
     SettingsStore store;
     MessageCatalog messages;
     HostSwitches host;
+    // What the host's shared block held, when the switch string named one.
+    ShareBlock share;
     // The raw UserDir value as read at start.
     std::wstring userDir;
     // Where the tool's own values live beneath HKEY_CURRENT_USER.

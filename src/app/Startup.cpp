@@ -4,6 +4,7 @@
 #include "app/SniffDefinitionFile.h"
 #include "platform/Platform.h"
 #include "services/PathHelpers.h"
+#include "services/ShareBlock.h"
 
 namespace {
 
@@ -25,8 +26,8 @@ void ReadHostSwitches(AppServices& app) {
     if (!platform::Current().environment.GetVariable(kSwitchVariable, text) || text.empty()) return;
     if (text.size() >= kSwitchBufferChars) return;
     app.host = ParseHostSwitches(text);
-    // With "Share" the host has filled a shared block for us; reading it belongs to the hand-shake
-    // with the host, which keeps what it reads for itself.
+    // With "Share" the host has filled a shared block for us.
+    if (app.host.share) app.share = ReadShareBlock(app.host.blockFirst, app.host.blockSecond, app.host.blockSize);
 }
 
 void LoadLanguageLibrary(AppServices& app) {

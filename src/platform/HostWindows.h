@@ -1,7 +1,9 @@
-// The host's top-level windows, found by their class.
+// The host's top-level windows, found by their class, and what the program says to them.
 #pragma once
 
 #include <cstdint>
+#include <string>
+#include <vector>
 
 namespace platform {
 
@@ -17,7 +19,24 @@ public:
 
     // The first top-level window of the host's class that the system returns, or 0.
     virtual WindowRef FindHostWindow() = 0;
+    // Every top-level window of the host's class, in the order the system returns them.
+    virtual std::vector<WindowRef> AllHostWindows() = 0;
+    // SetForegroundWindow and nothing more.
     virtual void SetForeground(WindowRef window) = 0;
+    // Brings a window forward even when another process holds the foreground: joins the input of
+    // the foreground window's thread and lifts the foreground lock time-out for the moment.
+    virtual void ForceForeground(WindowRef window) = 0;
+    // SendMessageW of WM_COMMAND with the id as wParam and 0 as lParam.
+    virtual void SendCommand(WindowRef window, uint16_t id) = 0;
+    // SendMessageW of WM_COPYDATA from sender: dwData the code, lpData the text with its
+    // terminator and zeros behind it up to cbData bytes.
+    virtual void SendCopyData(WindowRef window, WindowRef sender, uint32_t code, const std::wstring& text,
+                              uint32_t cbData) = 0;
+
+    // The main window of the calling thread: the one dialog the program shows, 0 on other threads
+    // and before the dialog exists.
+    virtual WindowRef MainWindow() = 0;
+    virtual void SetMainWindow(WindowRef window) = 0;
 };
 
 }  // namespace platform

@@ -5,8 +5,10 @@
 #include "platform/Environment.h"
 #include "platform/FileSystem.h"
 #include "platform/HostWindows.h"
+#include "platform/Processes.h"
 #include "platform/Prompts.h"
 #include "platform/Registry.h"
+#include "platform/SharedMemory.h"
 #include "platform/System.h"
 
 namespace platform {
@@ -18,6 +20,8 @@ struct Platform {
     Prompts& prompts;
     System& system;
     HostWindows& windows;
+    SharedMemory& sharedMemory;
+    Processes& processes;
 };
 
 // The platform in force. Using it before one is installed is a programming error.

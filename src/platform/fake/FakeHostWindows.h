@@ -1,24 +1,57 @@
-// Host windows for tests: the windows that exist and which one was brought forward.
+// Host windows for tests: the windows that exist, and everything said to them.
 #pragma once
 
+#include <string>
 #include <vector>
 
 #include "platform/HostWindows.h"
 
 namespace platform::fake {
 
+struct SentCommand {
+    WindowRef window;
+    uint16_t id;
+    bool operator==(const SentCommand&) const = default;
+};
+
+struct SentCopyData {
+    WindowRef window;
+    WindowRef sender;
+    uint32_t code;
+    std::wstring text;
+    uint32_t cbData;
+    bool operator==(const SentCopyData&) const = default;
+};
+
 class FakeHostWindows : public HostWindows {
 public:
     WindowRef FindHostWindow() override { return windows_.empty() ? 0 : windows_.front(); }
+    std::vector<WindowRef> AllHostWindows() override { return windows_; }
     void SetForeground(WindowRef window) override { foreground_.push_back(window); }
+    void ForceForeground(WindowRef window) override { forced_.push_back(window); }
+    void SendCommand(WindowRef window, uint16_t id) override { commands_.push_back({window, id}); }
+    void SendCopyData(WindowRef window, WindowRef sender, uint32_t code, const std::wstring& text,
+                      uint32_t cbData) override {
+        copies_.push_back({window, sender, code, text, cbData});
+    }
+    WindowRef MainWindow() override { return main_; }
+    void SetMainWindow(WindowRef window) override { main_ = window; }
 
     // Host windows in the order the system returns them.
     void AddHostWindow(WindowRef window) { windows_.push_back(window); }
+    // Windows given by SetForeground, and those forced forward, in turn.
     const std::vector<WindowRef>& foreground() const { return foreground_; }
+    const std::vector<WindowRef>& forced() const { return forced_; }
+    const std::vector<SentCommand>& commands() const { return commands_; }
+    const std::vector<SentCopyData>& copies() const { return copies_; }
 
 private:
     std::vector<WindowRef> windows_;
     std::vector<WindowRef> foreground_;
+    std::vector<WindowRef> forced_;
+    std::vector<SentCommand> commands_;
+    std::vector<SentCopyData> copies_;
+    WindowRef main_ = 0;
 };
 
 }  // namespace platform::fake

@@ -5,8 +5,10 @@
 #include "platform/fake/FakeEnvironment.h"
 #include "platform/fake/FakeFileSystem.h"
 #include "platform/fake/FakeHostWindows.h"
+#include "platform/fake/FakeProcesses.h"
 #include "platform/fake/FakePrompts.h"
 #include "platform/fake/FakeRegistry.h"
+#include "platform/fake/FakeSharedMemory.h"
 #include "platform/fake/FakeSystem.h"
 
 namespace platform::fake {
@@ -24,6 +26,8 @@ public:
     FakePrompts& prompts() { return prompts_; }
     FakeSystem& system() { return system_; }
     FakeHostWindows& windows() { return windows_; }
+    FakeSharedMemory& sharedMemory() { return sharedMemory_; }
+    FakeProcesses& processes() { return processes_; }
     Platform& platform() { return platform_; }
 
 private:
@@ -33,7 +37,9 @@ private:
     FakePrompts prompts_;
     FakeSystem system_;
     FakeHostWindows windows_;
-    Platform platform_{registry_, files_, environment_, prompts_, system_, windows_};
+    FakeSharedMemory sharedMemory_;
+    FakeProcesses processes_;
+    Platform platform_{registry_, files_, environment_, prompts_, system_, windows_, sharedMemory_, processes_};
     Installed installed_{platform_};
 };
 

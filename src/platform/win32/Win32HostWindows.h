@@ -10,7 +10,14 @@ constexpr const wchar_t* kHostClassName = L"{0F04AF43-7B85-46A5-A0A7-6D323A84AD7
 class Win32HostWindows : public HostWindows {
 public:
     WindowRef FindHostWindow() override;
+    std::vector<WindowRef> AllHostWindows() override;
     void SetForeground(WindowRef window) override;
+    void ForceForeground(WindowRef window) override;
+    void SendCommand(WindowRef window, uint16_t id) override;
+    void SendCopyData(WindowRef window, WindowRef sender, uint32_t code, const std::wstring& text,
+                      uint32_t cbData) override;
+    WindowRef MainWindow() override;
+    void SetMainWindow(WindowRef window) override;
 };
 
 }  // namespace platform::win32

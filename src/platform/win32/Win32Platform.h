@@ -6,8 +6,10 @@
 #include "platform/win32/Win32Environment.h"
 #include "platform/win32/Win32FileSystem.h"
 #include "platform/win32/Win32HostWindows.h"
+#include "platform/win32/Win32Processes.h"
 #include "platform/win32/Win32Prompts.h"
 #include "platform/win32/Win32Registry.h"
+#include "platform/win32/Win32SharedMemory.h"
 #include "platform/win32/Win32System.h"
 
 namespace platform::win32 {
@@ -28,7 +30,9 @@ private:
     Win32Prompts prompts_;
     Win32System system_;
     Win32HostWindows windows_;
-    Platform platform_{registry_, files_, environment_, prompts_, system_, windows_};
+    Win32SharedMemory sharedMemory_;
+    Win32Processes processes_;
+    Platform platform_{registry_, files_, environment_, prompts_, system_, windows_, sharedMemory_, processes_};
     Installed installed_{platform_};
 };
 

@@ -1,0 +1,201 @@
+#include "services/ProcessLaunch.h"
+
+#include <gtest/gtest.h>
+
+#include "platform/fake/FakePlatform.h"
+#include "services/MessageCatalog.h"
+#include "services/SystemError.h"
+#include "unit/Utf16.h"
+
+namespace {
+
+using platform::ProcessStart;
+using platform::ShellRequest;
+using platform::fake::FakePlatform;
+using platform::fake::FakeProgram;
+using platform::fake::PostedDrop;
+using platform::fake::ShownMessage;
+using Strings = std::vector<std::wstring>;
+
+constexpr const wchar_t* kKillQuestion = L"Timeout!\nAre you sure you want to kill the process?";
+
+TEST(ProcessLaunch, WaitedLaunchAsksBeforeItKillsAndFailsOnTimeOutEitherWay) {
+    struct Case {
+        const char* what;
+        FakeProgram program;
+        int answer;
+        bool result;
+        Strings events;
+        std::vector<ShownMessage> shown;
+    };
+    const FakeProgram cannotStart{.starts = false};
+    const FakeProgram outlives{.waitResult = platform::kWaitTimeout};
+    const Case cases[] = {
+        {"ends in time", {}, 0, true, {L"wait 5000", L"close"}, {}},
+        {"cannot start", cannotStart, 0, false, {}, {}},
+        {"outlives the wait, No", outlives, platform::kAnswerNo, false, {L"wait 5000", L"close"}, {{kKillQuestion, 4}}},
+        {"outlives the wait, Yes",
+         outlives,
+         platform::kAnswerYes,
+         false,
+         {L"wait 5000", L"terminate 999", L"close"},
+         {{kKillQuestion, 4}}},
+    };
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.what);
+        FakePlatform fake;
+        fake.processes().SetProgram(c.program);
+        if (c.answer) fake.prompts().Answer(c.answer);
+        EXPECT_EQ(c.result, WaitedLaunch(L"C:\\p.exe", L"-x \"a b\"", L"C:\\dir", 7, 5000));
+        EXPECT_EQ((std::vector<ProcessStart>{{L"C:\\p.exe -x \"a b\"", L"C:\\dir", true, 7, 0}}),
+                  fake.processes().starts());
+        EXPECT_EQ(c.events, fake.processes().events());
+        EXPECT_EQ(c.shown, fake.prompts().shown());
+    }
+}
+
+// The texts the drop's failures are told by.
+void AddMessageFile(FakePlatform& fake) {
+    fake.files().AddDirectory(L"C:\\Lang");
+    fake.files().AddFile(L"C:\\Lang\\Msg.txt",
+                         Utf16Bytes(L"62541\tcannot start\r\n62544\tnot idle\r\n62547\tno window\r\n", true));
+}
+
+class DropLaunchTest : public testing::Test {
+protected:
+    DropLaunchTest() {
+        AddMessageFile(fake);
+        messages.SetPath(L"C:\\Lang\\Msg.txt");
+    }
+    FakePlatform fake;
+    MessageCatalog messages;
+};
+
+TEST_F(DropLaunchTest, DropsTheFilesOnTheProgramsFirstWindowOnceItShows) {
+    fake.processes().SetProgram({.walksBeforeWindow = 3});
+    uint64_t start = fake.processes().Ticks();
+    DropLaunch(L"C:\\Tools\\view.exe", {L"C:\\a.txt", L"D:\\b c"}, messages);
+
+    EXPECT_EQ((std::vector<ProcessStart>{{L"C:\\Tools\\view.exe", L"", false, 0, 32}}), fake.processes().starts());
+    EXPECT_EQ((Strings{L"idle 10000", L"close"}), fake.processes().events());
+    EXPECT_EQ(150u, fake.processes().Ticks() - start) << "three polls of 50 ms";
+    EXPECT_EQ((std::vector<PostedDrop>{{0x5150, DropFilesBlock({L"C:\\a.txt", L"D:\\b c"})}}),
+              fake.processes().drops());
+    EXPECT_EQ((std::vector<platform::WindowRef>{0x5150}), fake.windows().forced());
+    EXPECT_TRUE(fake.prompts().shown().empty());
+}
+
+TEST_F(DropLaunchTest, EachFailureIsToldAndStopsTheDrop) {
+    struct Case {
+        const char* what;
+        FakeProgram program;
+        std::vector<ShownMessage> shown;
+        Strings events;
+    };
+    const Case cases[] = {
+        {"cannot start", {.starts = false}, {{L"cannot start\nC:\\v.exe", 0}}, {}},
+        {"not idle in time", {.idleResult = platform::kWaitTimeout}, {{L"not idle", 0}}, {L"idle 10000", L"close"}},
+        {"the wait fails",
+         {.idleResult = platform::kWaitFailed, .idleError = 6},
+         {{L"Error 6.\r\n", 0}},
+         {L"idle 10000", L"close"}},
+        {"no window in ten seconds", {.walksBeforeWindow = -1}, {{L"no window", 0}}, {L"idle 10000", L"close"}},
+    };
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.what);
+        FakePlatform fake;
+        AddMessageFile(fake);
+        fake.processes().SetProgram(c.program);
+        DropLaunch(L"C:\\v.exe", {L"C:\\a.txt"}, messages);
+        EXPECT_EQ(c.shown, fake.prompts().shown());
+        EXPECT_EQ(c.events, fake.processes().events());
+        EXPECT_TRUE(fake.processes().drops().empty());
+        EXPECT_TRUE(fake.windows().forced().empty());
+    }
+}
+
+TEST_F(DropLaunchTest, GivesUpOnAWindowOnlyAfterTenSeconds) {
+    fake.processes().SetProgram({.walksBeforeWindow = -1});
+    uint64_t start = fake.processes().Ticks();
+    DropLaunch(L"C:\\v.exe", {}, messages);
+    EXPECT_EQ(10050u, fake.processes().Ticks() - start);
+    EXPECT_EQ(202, fake.processes().walks());
+}
+
+TEST_F(DropLaunchTest, AnEmptyListStartsTheProgramAndDropsNothing) {
+    DropLaunch(L"C:\\v.exe", {}, messages);
+    EXPECT_TRUE(fake.processes().drops().empty());
+    EXPECT_EQ((std::vector<platform::WindowRef>{0x5150}), fake.windows().forced());
+}
+
+TEST(ProcessLaunch, DropFilesBlockIsAWideListBehindATwentyByteHeader) {
+    std::vector<uint8_t> header{20, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 1, 0, 0, 0};
+    std::vector<uint8_t> two = header;
+    two.insert(two.end(), {'C', 0, ':', 0, 'a', 0, 0, 0, 0xE9, 0, 0x42, 0x30, 0, 0, 0, 0});
+    EXPECT_EQ(two, DropFilesBlock({L"C:a", L"\u00E9\u3042"}));
+    std::vector<uint8_t> none = header;
+    none.insert(none.end(), {0, 0});
+    EXPECT_EQ(none, DropFilesBlock({}));
+}
+
+TEST(ProcessLaunch, ShellLaunchNormalisesTheFileAndTakesItsDirectory) {
+    const std::wstring deep = L"C:\\" + std::wstring(260, L'd') + L"\\";
+    struct Case {
+        const char* what;
+        std::wstring file;
+        std::wstring directory;
+        bool wait;
+        ShellRequest expected;
+    };
+    const Case cases[] = {
+        {"directory of the file",
+         L"C:\\Tools\\app.exe",
+         L"",
+         false,
+         {512, 0x77, L"C:\\Tools\\app.exe", L"-p", L"C:\\Tools\\", 3}},
+        {"directory given, waiting",
+         L"C:\\Tools\\app.exe",
+         L"D:\\work",
+         true,
+         {768, 0x77, L"C:\\Tools\\app.exe", L"-p", L"D:\\work", 3}},
+        {"long-path prefix dropped",
+         L"\\\\?\\C:\\x\\y.txt",
+         L"",
+         false,
+         {512, 0x77, L"C:\\x\\y.txt", L"-p", L"C:\\x\\", 3}},
+        {"UNC prefix dropped",
+         L"\\\\?\\UNC\\srv\\s\\y.txt",
+         L"",
+         false,
+         {512, 0x77, L"srv\\s\\y.txt", L"-p", L"srv\\s\\", 3}},
+        {"long paths get the prefix",
+         deep + L"f.txt",
+         L"",
+         false,
+         {512, 0x77, L"\\\\?\\" + deep + L"f.txt", L"-p", L"\\\\?\\" + deep, 3}},
+        {"a file without a directory",
+         L"notepad.exe",
+         L"",
+         false,
+         {512, 0x77, L"notepad.exe", L"-p", L"notepad.exe", 3}},
+    };
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.what);
+        FakePlatform fake;
+        fake.windows().SetMainWindow(0x77);
+        ShellLaunch(c.file, L"-p", c.directory, c.wait, 3);
+        EXPECT_EQ((std::vector<ShellRequest>{c.expected}), fake.processes().shellRequests());
+    }
+}
+
+TEST(ProcessLaunch, SystemErrorIsShownUnlessThereIsNone) {
+    FakePlatform fake;
+    fake.processes().SetErrorText(5, L"Access is denied.\r\n");
+    ShowSystemError(0);
+    ShowSystemError(5);
+    ShowSystemError(5, L"C:\\x.dll");
+    EXPECT_EQ((std::vector<ShownMessage>{{L"Access is denied.\r\n", 0}, {L"C:\\x.dll\nAccess is denied.\r\n", 0}}),
+              fake.prompts().shown());
+}
+
+}  // namespace

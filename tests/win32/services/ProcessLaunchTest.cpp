@@ -1,0 +1,250 @@
+// Starting real programs: one that takes dropped files and one that only waits, both built beside
+// the end-to-end tests.
+#include "services/ProcessLaunch.h"
+
+#include <windows.h>
+// after windows.h, which they need
+#include <shellapi.h>
+#include <tlhelp32.h>
+
+#include <gtest/gtest.h>
+
+#include <iostream>
+#include <string>
+#include <vector>
+
+#include "services/MessageCatalog.h"
+#include "win32/support/RealHostPlatform.h"
+
+namespace {
+
+using platform::fake::ShownMessage;
+using testing_support::PumpMessages;
+
+constexpr wchar_t kDropTargetClass[] = L"OptionTests.DropTarget";
+
+std::wstring HelperPath(const wchar_t* name) {
+    return testing_support::TestDirectory() + L"\\e2e\\" + name;
+}
+
+std::wstring TempLog(const wchar_t* name) {
+    wchar_t directory[MAX_PATH];
+    GetTempPathW(MAX_PATH, directory);
+    std::wstring path = std::wstring(directory) + name;
+    DeleteFileW(path.c_str());
+    return path;
+}
+
+std::vector<std::string> ReadLines(const std::wstring& path) {
+    std::vector<std::string> lines;
+    HANDLE file = CreateFileW(path.c_str(), GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE,
+                              nullptr, OPEN_EXISTING, 0, nullptr);
+    if (file == INVALID_HANDLE_VALUE) return lines;
+    std::string text(1 << 16, '\0');
+    DWORD read = 0;
+    ReadFile(file, text.data(), static_cast<DWORD>(text.size()), &read, nullptr);
+    CloseHandle(file);
+    text.resize(read);
+    for (size_t start = 0, end; (end = text.find('\n', start)) != std::string::npos; start = end + 1)
+        lines.push_back(text.substr(start, end - start));
+    return lines;
+}
+
+std::string Utf8(const std::wstring& text) {
+    int size = WideCharToMultiByte(CP_UTF8, 0, text.c_str(), -1, nullptr, 0, nullptr, nullptr);
+    std::string out(size - 1, '\0');
+    WideCharToMultiByte(CP_UTF8, 0, text.c_str(), -1, out.data(), size, nullptr, nullptr);
+    return out;
+}
+
+// Waits for a line that starts with prefix; gives the whole line, or an empty one on time-out.
+std::string WaitForLine(const std::wstring& log, const std::string& prefix, DWORD timeoutMs = 10000) {
+    DWORD start = GetTickCount();
+    do {
+        for (const std::string& line : ReadLines(log))
+            if (line.starts_with(prefix)) return line;
+        PumpMessages(20);
+    } while (GetTickCount() - start < timeoutMs);
+    return {};
+}
+
+void CloseDropTargets() {
+    while (HWND window = FindWindowW(kDropTargetClass, nullptr)) {
+        DWORD id = 0;
+        GetWindowThreadProcessId(window, &id);
+        HANDLE process = OpenProcess(SYNCHRONIZE, FALSE, id);
+        PostMessageW(window, WM_CLOSE, 0, 0);
+        if (process) {
+            WaitForSingleObject(process, 5000);
+            CloseHandle(process);
+        }
+    }
+}
+
+// The messages the drop's failures are told by.
+class LaunchTest : public testing::Test {
+protected:
+    LaunchTest() {
+        auto& fake = platform.fake();
+        fake.files().AddDirectory(L"C:\\Lang");
+        std::wstring text = L"\uFEFF62541\tcannot start\r\n62544\tnot idle\r\n62547\tno window\r\n";
+        fake.files().AddFile(L"C:\\Lang\\Msg.txt",
+                             std::vector<uint8_t>(reinterpret_cast<const uint8_t*>(text.data()),
+                                                  reinterpret_cast<const uint8_t*>(text.data() + text.size())));
+        messages.SetPath(L"C:\\Lang\\Msg.txt");
+    }
+    ~LaunchTest() override { CloseDropTargets(); }
+
+    testing_support::RealHostPlatform platform;
+    MessageCatalog messages;
+};
+
+// Wine hands a posted drop to another process without its memory, so the receiver finds no files
+// there; Windows copies the block across.
+bool RunningOnWine() {
+    HMODULE ntdll = GetModuleHandleW(L"ntdll.dll");
+    return ntdll && GetProcAddress(ntdll, "wine_get_version");
+}
+
+TEST_F(LaunchTest, DropLaunchHandsTheFilesToTheProgramsWindow) {
+    std::wstring log = TempLog(L"option-droplaunch.log");
+    SetEnvironmentVariableW(L"DROPTARGET_LOG", log.c_str());
+    DropLaunch(HelperPath(L"DropTarget.exe"), {L"C:\\a.txt", L"Z:\\b c\\\u00E9.txt"}, messages);
+    SetEnvironmentVariableW(L"DROPTARGET_LOG", nullptr);
+
+    EXPECT_EQ("args ", WaitForLine(log, "args")) << "the program alone";
+    std::string drop = WaitForLine(log, "dropfiles");
+    if (RunningOnWine() && drop == "dropfiles ")
+        std::cout << "[ NOTE     ] the drop arrived; Wine does not carry its files to another process\n";
+    else
+        EXPECT_EQ(Utf8(L"dropfiles C:\\a.txt|Z:\\b c\\\u00E9.txt"), drop);
+    HWND target = FindWindowW(kDropTargetClass, nullptr);
+    EXPECT_EQ(target, GetForegroundWindow());
+    EXPECT_TRUE(platform.fake().prompts().shown().empty());
+}
+
+// Within one process the block is read back by the shell's own DragQueryFileW.
+std::vector<std::wstring> droppedHere;
+
+LRESULT CALLBACK DropWindowProc(HWND hwnd, UINT msg, WPARAM wp, LPARAM lp) {
+    if (msg != WM_DROPFILES) return DefWindowProcW(hwnd, msg, wp, lp);
+    auto drop = reinterpret_cast<HDROP>(wp);
+    POINT point{-1, -1};
+    BOOL client = DragQueryPoint(drop, &point);
+    droppedHere.push_back(L"point " + std::to_wstring(point.x) + L"," + std::to_wstring(point.y) +
+                          (client ? L" client" : L""));
+    for (UINT i = 0, count = DragQueryFileW(drop, 0xFFFFFFFF, nullptr, 0); i < count; ++i) {
+        wchar_t path[MAX_PATH];
+        DragQueryFileW(drop, i, path, MAX_PATH);
+        droppedHere.push_back(path);
+    }
+    DragFinish(drop);
+    return 0;
+}
+
+TEST(DropFilesOnWindows, ThePostedBlockReadsBackAsTheFiles) {
+    testing_support::RealHostPlatform platform;
+    WNDCLASSEXW wc{};
+    wc.cbSize = sizeof(wc);
+    wc.lpfnWndProc = DropWindowProc;
+    wc.hInstance = GetModuleHandleW(nullptr);
+    wc.lpszClassName = L"OptionTests.DropHere";
+    RegisterClassExW(&wc);
+    HWND window =
+        CreateWindowExW(0, wc.lpszClassName, L"", WS_POPUP, 0, 0, 10, 10, nullptr, nullptr, wc.hInstance, nullptr);
+    ASSERT_NE(nullptr, window);
+    droppedHere.clear();
+    platform::Current().processes.PostDropFiles(reinterpret_cast<platform::WindowRef>(window),
+                                                DropFilesBlock({L"C:\\a.txt", L"Z:\\b c\\\u00E9.txt"}));
+    PumpMessages(50);
+    EXPECT_EQ((std::vector<std::wstring>{L"point 0,0 client", L"C:\\a.txt", L"Z:\\b c\\\u00E9.txt"}), droppedHere);
+    DestroyWindow(window);
+}
+
+TEST_F(LaunchTest, DropLaunchOfAProgramThatIsNotThere) {
+    std::wstring missing = testing_support::TestDirectory() + L"\\NoSuchProgram.exe";
+    DropLaunch(missing, {L"C:\\a.txt"}, messages);
+    EXPECT_EQ((std::vector<ShownMessage>{{L"cannot start\n" + missing, 0}}), platform.fake().prompts().shown());
+}
+
+TEST_F(LaunchTest, ShellLaunchStartsTheProgramInItsOwnDirectory) {
+    std::wstring log = TempLog(L"option-shelllaunch.log");
+    ShellLaunch(HelperPath(L"DropTarget.exe"), L"--log \"" + log + L"\"", L"", true, SW_SHOWNORMAL);
+    std::string cwd = WaitForLine(log, "cwd ");
+    ASSERT_FALSE(cwd.empty());
+    while (cwd.back() == '\\') cwd.pop_back();
+    EXPECT_EQ(0, _stricmp(("cwd " + Utf8(testing_support::TestDirectory() + L"\\e2e")).c_str(), cwd.c_str())) << cwd;
+    EXPECT_EQ(Utf8(L"args --log \"" + log + L"\""), WaitForLine(log, "args"));
+}
+
+// A handle to the waiting program, taken while the question is on the screen.
+class WatchingPrompts : public platform::Prompts {
+public:
+    explicit WatchingPrompts(int answer) : answer_(answer) {}
+    ~WatchingPrompts() override {
+        if (process_) CloseHandle(process_);
+    }
+    int ShowMessage(const std::wstring& text, unsigned style) override {
+        shown.push_back({text, style});
+        process_ = OpenChild(L"ExitLater.exe");
+        return answer_;
+    }
+    int Ask(const std::wstring& text, const std::wstring&, unsigned style) override { return ShowMessage(text, style); }
+
+    HANDLE process() const { return process_; }
+    std::vector<ShownMessage> shown;
+
+private:
+    static HANDLE OpenChild(const wchar_t* name) {
+        HANDLE snapshot = CreateToolhelp32Snapshot(TH32CS_SNAPPROCESS, 0);
+        PROCESSENTRY32W entry{};
+        entry.dwSize = sizeof(entry);
+        HANDLE process = nullptr;
+        for (BOOL more = Process32FirstW(snapshot, &entry); more && !process; more = Process32NextW(snapshot, &entry))
+            if (entry.th32ParentProcessID == GetCurrentProcessId() && _wcsicmp(entry.szExeFile, name) == 0)
+                process = OpenProcess(SYNCHRONIZE | PROCESS_QUERY_INFORMATION | PROCESS_TERMINATE, FALSE,
+                                      entry.th32ProcessID);
+        CloseHandle(snapshot);
+        return process;
+    }
+    int answer_;
+    HANDLE process_ = nullptr;
+};
+
+TEST(WaitedLaunchOnWindows, AProgramThatOutlivesTheWaitIsKilledOnlyOnYes) {
+    const std::wstring program = L"\"" + HelperPath(L"ExitLater.exe") + L"\"";
+    const ShownMessage question{L"Timeout!\nAre you sure you want to kill the process?", 4};
+    for (int answer : {IDNO, IDYES}) {
+        SCOPED_TRACE(answer == IDYES ? "Yes" : "No");
+        testing_support::RealHostPlatform base;
+        WatchingPrompts prompts(answer);
+        platform::Platform& real = platform::Current();
+        platform::Platform withPrompts{real.registry, real.files,   real.environment,  prompts,
+                                       real.system,   real.windows, real.sharedMemory, real.processes};
+        platform::Installed installed(withPrompts);
+
+        EXPECT_FALSE(WaitedLaunch(program, L"10000 5", L"", SW_HIDE, 300));
+        EXPECT_EQ(std::vector<ShownMessage>{question}, prompts.shown);
+        ASSERT_NE(nullptr, prompts.process());
+        DWORD code = 0;
+        if (answer == IDYES) {
+            EXPECT_EQ(WAIT_OBJECT_0, WaitForSingleObject(prompts.process(), 5000));
+            GetExitCodeProcess(prompts.process(), &code);
+            EXPECT_EQ(999u, code);
+        } else {
+            EXPECT_EQ(WAIT_TIMEOUT, WaitForSingleObject(prompts.process(), 0)) << "still running";
+            TerminateProcess(prompts.process(), 0);
+        }
+    }
+}
+
+TEST(WaitedLaunchOnWindows, SucceedsWhenTheProgramEndsInTimeAndFailsSilentlyWhenItCannotStart) {
+    testing_support::RealHostPlatform platform;
+    const std::wstring program = L"\"" + HelperPath(L"ExitLater.exe") + L"\"";
+    EXPECT_TRUE(WaitedLaunch(program, L"0 3", L"C:\\", SW_HIDE, 10000));
+    EXPECT_FALSE(WaitedLaunch(L"C:\\NoSuchProgram.exe", L"", L"", SW_HIDE, 10000));
+    EXPECT_FALSE(WaitedLaunch(program, L"0 3", L"C:\\NoSuchDirectory", SW_HIDE, 10000));
+    EXPECT_TRUE(platform.fake().prompts().shown().empty());
+}
+
+}  // namespace

@@ -1,0 +1,130 @@
+// The shared block read through the real file mapping and mutex, as a host leaves them.
+#include "services/ShareBlock.h"
+
+#include <gtest/gtest.h>
+#include <windows.h>
+
+#include <algorithm>
+#include <atomic>
+#include <cstring>
+#include <string>
+#include <thread>
+
+#include "win32/support/RealHostPlatform.h"
+
+namespace {
+
+using Strings = std::vector<std::wstring>;
+
+// A host's block: the mapping, its view and its mutex, held while the object lives.
+class HostBlock {
+public:
+    HostBlock(int first, int second, DWORD sizeBytes, const std::wstring& text) : size_(sizeBytes) {
+        std::wstring name = ShareBlockName(first, second);
+        mapping_ = CreateFileMappingW(INVALID_HANDLE_VALUE, nullptr, PAGE_READWRITE, 0, sizeBytes, name.c_str());
+        mutex_ = CreateMutexW(nullptr, FALSE, (name + L"_Mutex").c_str());
+        if (mapping_) view_ = static_cast<wchar_t*>(MapViewOfFile(mapping_, FILE_MAP_ALL_ACCESS, 0, 0, sizeBytes));
+        if (view_) std::memcpy(view_, text.c_str(), std::min<size_t>(sizeBytes, text.size() * sizeof(wchar_t)));
+    }
+    ~HostBlock() {
+        if (view_) UnmapViewOfFile(view_);
+        if (mapping_) CloseHandle(mapping_);
+        if (mutex_) CloseHandle(mutex_);
+    }
+    HostBlock(const HostBlock&) = delete;
+    HostBlock& operator=(const HostBlock&) = delete;
+
+    bool Valid() const { return view_ != nullptr; }
+    HANDLE Mutex() const { return mutex_; }
+    std::wstring Units(size_t count) const { return std::wstring(view_, count); }
+
+private:
+    DWORD size_;
+    HANDLE mapping_ = nullptr;
+    HANDLE mutex_ = nullptr;
+    wchar_t* view_ = nullptr;
+};
+
+TEST(ShareBlockOnWindows, ReadsTheHostsBlockAndLeavesZerosWhereItsTabsWere) {
+    struct Case {
+        const char* what;
+        std::wstring text;
+        DWORD sizeBytes;  // as the switch string tells it; the host's mapping has 256
+        Strings firstList;
+        Strings secondList;
+        std::wstring after;
+    };
+    using namespace std::string_literals;
+    const Case cases[] = {
+        {"c1 0 and c2 2",
+         L"0\t2\tC:\\w\topt\ta\tb\t",
+         256,
+         {},
+         {L"a", L"b"},
+         L"0\0"
+         L"2\0C:\\w\0opt\0a\0b\0"s},
+        {"no final tab",
+         L"1\t0\tC:\\w\topt\ta",
+         256,
+         {},
+         {},
+         L"1\0"
+         L"0\0C:\\w\0opt\0a"s},
+        {"a size in bytes read as characters",
+         L"2\t0\tC:\\w\to\tx\tyyyyy\tz\t",
+         20,
+         {L"x", L"yyyyy"},
+         {},
+         L"2\0"
+         L"0\0C:\\w\0o\0x\0yyyyy\0z\t"s},
+    };
+    int second = 0;
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.what);
+        testing_support::RealHostPlatform platform;
+        HostBlock host(GetCurrentProcessId(), ++second, 256, c.text);
+        ASSERT_TRUE(host.Valid());
+        ShareBlock block = ReadShareBlock(GetCurrentProcessId(), second, c.sizeBytes);
+        EXPECT_EQ(L"C:\\w", block.currentDir);
+        EXPECT_EQ(c.firstList, block.firstList);
+        EXPECT_EQ(c.secondList, block.secondList);
+        EXPECT_EQ(c.after, host.Units(c.after.size()));
+        EXPECT_TRUE(platform.fake().prompts().shown().empty());
+    }
+}
+
+TEST(ShareBlockOnWindows, WithoutAHostBlockAFreshEmptyOneIsRead) {
+    testing_support::RealHostPlatform platform;
+    ShareBlock block = ReadShareBlock(GetCurrentProcessId(), 9999, 4096);
+    EXPECT_EQ(L"ShareMemMap\nCurrentDir:\nOption:\n\n", block.inspection);
+    EXPECT_TRUE(platform.fake().prompts().shown().empty());
+}
+
+TEST(ShareBlockOnWindows, AMappingTheSystemRefusesIsToldAndSkipped) {
+    testing_support::RealHostPlatform platform;
+    // A mapping of the paging file cannot have size 0.
+    EXPECT_EQ(ShareBlock{}, ReadShareBlock(GetCurrentProcessId(), 9998, 0));
+    ASSERT_EQ(1u, platform.fake().prompts().shown().size());
+    EXPECT_FALSE(platform.fake().prompts().shown()[0].text.empty());
+}
+
+TEST(ShareBlockOnWindows, WaitsForTheHostToLetGoOfTheMutex) {
+    testing_support::RealHostPlatform platform;
+    HostBlock host(GetCurrentProcessId(), 777, 256, L"0\t0\tC:\\w\t\t");
+    ASSERT_TRUE(host.Valid());
+    ASSERT_EQ(WAIT_OBJECT_0, WaitForSingleObject(host.Mutex(), 0));
+    std::atomic<bool> done = false;
+    std::thread reader([&] {
+        ReadShareBlock(GetCurrentProcessId(), 777, 256);
+        done = true;
+    });
+    Sleep(200);
+    EXPECT_FALSE(done) << "read while the host held the mutex";
+    EXPECT_EQ(L"0\t0\t", host.Units(4));
+    ReleaseMutex(host.Mutex());
+    reader.join();
+    EXPECT_TRUE(done);
+    EXPECT_EQ((std::wstring{L'0', 0, L'0', 0}), host.Units(4));
+}
+
+}  // namespace

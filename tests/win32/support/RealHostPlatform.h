@@ -1,0 +1,52 @@
+// The real host windows, shared memory and processes, with everything else fake: a test sees each
+// message box instead of blocking on it, and keeps the registry and files to itself.
+#pragma once
+
+#include <windows.h>
+
+#include <string>
+
+#include "platform/fake/FakePlatform.h"
+#include "platform/win32/Win32HostWindows.h"
+#include "platform/win32/Win32Processes.h"
+#include "platform/win32/Win32SharedMemory.h"
+
+namespace testing_support {
+
+class RealHostPlatform {
+public:
+    RealHostPlatform() = default;
+    RealHostPlatform(const RealHostPlatform&) = delete;
+    RealHostPlatform& operator=(const RealHostPlatform&) = delete;
+
+    platform::fake::FakePlatform& fake() { return fake_; }
+
+private:
+    platform::fake::FakePlatform fake_;
+    platform::win32::Win32HostWindows windows_;
+    platform::win32::Win32SharedMemory sharedMemory_;
+    platform::win32::Win32Processes processes_;
+    platform::Platform platform_{fake_.registry(), fake_.files(), fake_.environment(), fake_.prompts(),
+                                 fake_.system(),   windows_,      sharedMemory_,       processes_};
+    platform::Installed installed_{platform_};
+};
+
+// Dispatches what arrives for this thread's windows for about the given time.
+inline void PumpMessages(DWORD milliseconds) {
+    DWORD start = GetTickCount();
+    MSG msg;
+    do {
+        while (PeekMessageW(&msg, nullptr, 0, 0, PM_REMOVE)) DispatchMessageW(&msg);
+        Sleep(5);
+    } while (GetTickCount() - start < milliseconds);
+}
+
+// The folder of the running test program, without a trailing backslash.
+inline std::wstring TestDirectory() {
+    wchar_t path[MAX_PATH];
+    DWORD length = GetModuleFileNameW(nullptr, path, MAX_PATH);
+    std::wstring text(path, length);
+    return text.substr(0, text.find_last_of(L'\\'));
+}
+
+}  // namespace testing_support

@@ -1,0 +1,164 @@
+// The option dialog's placement and coming forward, on plain windows of this process: one of the
+// host's class, one that stands for the dialog, and one that holds the foreground before.
+#include "ui/HostPlacement.h"
+
+#include <gtest/gtest.h>
+#include <windows.h>
+
+#include "platform/win32/Win32HostWindows.h"
+#include "services/HostHandshake.h"
+#include "win32/support/RealHostPlatform.h"
+
+namespace {
+
+using testing_support::PumpMessages;
+
+constexpr wchar_t kDialogClass[] = L"OptionTests.Dialog";
+int bringToFrontTimers = 0;
+
+// Hands its timer back to the deferred bring-to-front, as the option dialog does.
+LRESULT CALLBACK DialogProc(HWND hwnd, UINT msg, WPARAM wp, LPARAM lp) {
+    if (msg == WM_TIMER && wp == ui::kBringToFrontTimer) {
+        ++bringToFrontTimers;
+        ui::DeferredBringToFront(hwnd);
+        return 0;
+    }
+    return DefWindowProcW(hwnd, msg, wp, lp);
+}
+
+void RegisterClass(const wchar_t* name, WNDPROC proc) {
+    WNDCLASSEXW wc{};
+    wc.cbSize = sizeof(wc);
+    wc.lpfnWndProc = proc;
+    wc.hInstance = GetModuleHandleW(nullptr);
+    wc.lpszClassName = name;
+    RegisterClassExW(&wc);
+}
+
+HWND CreateTopLevel(const wchar_t* className, RECT rect, HWND owner = nullptr) {
+    return CreateWindowExW(0, className, L"test", WS_POPUP | WS_CAPTION | WS_VISIBLE, rect.left, rect.top,
+                           rect.right - rect.left, rect.bottom - rect.top, owner, nullptr, GetModuleHandleW(nullptr),
+                           nullptr);
+}
+
+void HoldCtrl(bool held) {
+    BYTE keys[256];
+    GetKeyboardState(keys);
+    keys[VK_CONTROL] = held ? 0x80 : 0;
+    SetKeyboardState(keys);
+}
+
+// Destroying a shown window that has been active costs Wine seconds without a window manager, so
+// the shown windows live as long as the suite and each test puts the dialog back as it was made.
+class HostPlacementTest : public testing::Test {
+protected:
+    static void SetUpTestSuite() {
+        RegisterClass(kDialogClass, DialogProc);
+        other_ = CreateTopLevel(L"STATIC", {0, 0, 50, 50});
+        dialog_ = CreateTopLevel(kDialogClass, kDialogPlace);
+    }
+
+    void SetUp() override {
+        if (FindWindowW(platform::win32::kHostClassName, nullptr))
+            GTEST_SKIP() << "another host window runs on this desktop";
+        Reset();
+    }
+    void Reset() {
+        SetWindowLongPtrW(dialog_, GWL_EXSTYLE, 0);
+        SetWindowPos(dialog_, HWND_NOTOPMOST, kDialogPlace.left, kDialogPlace.top, 0, 0, SWP_NOSIZE | SWP_FRAMECHANGED);
+        SetForegroundWindow(other_);
+        PumpMessages(50);
+    }
+    void TearDown() override {
+        // The host needs no display: hidden, it goes at once.
+        if (host_) DestroyWindow(host_);
+        host_ = nullptr;
+        // Other tests register the host's class their own way.
+        UnregisterClassW(platform::win32::kHostClassName, GetModuleHandleW(nullptr));
+        HoldCtrl(false);
+    }
+
+    void StartHost() {
+        RegisterClass(platform::win32::kHostClassName, DefWindowProcW);
+        host_ = CreateWindowExW(0, platform::win32::kHostClassName, L"host", WS_POPUP | WS_CAPTION, 100, 100, 640, 480,
+                                nullptr, nullptr, GetModuleHandleW(nullptr), nullptr);
+    }
+    static RECT Rect(HWND window) {
+        RECT rect{};
+        GetWindowRect(window, &rect);
+        return rect;
+    }
+    LONG_PTR ExStyle() const { return GetWindowLongPtrW(dialog_, GWL_EXSTYLE); }
+
+    static constexpr RECT kDialogPlace{5, 7, 305, 207};
+    static inline HWND other_ = nullptr;
+    static inline HWND dialog_ = nullptr;
+    testing_support::RealHostPlatform platform;
+    HWND host_ = nullptr;
+};
+
+TEST_F(HostPlacementTest, EachModePlacesTheDialogAndBringsItForward) {
+    struct Case {
+        int mode;
+        bool topmost;
+        bool toolWindow;
+    };
+    const Case cases[] = {{0, false, false}, {1, true, false}, {2, true, true}, {4, false, true}, {7, false, false}};
+    StartHost();
+    for (const Case& c : cases) {
+        SCOPED_TRACE(testing::Message() << "mode " << c.mode);
+        Reset();
+        ui::PrepareOptionDialog(dialog_, c.mode);
+        PumpMessages(50);
+        RECT rect = Rect(dialog_);
+        EXPECT_EQ(270, rect.left) << "centred on the host";
+        EXPECT_EQ(240, rect.top);
+        EXPECT_EQ(300, rect.right - rect.left) << "size kept";
+        EXPECT_EQ(c.topmost, (ExStyle() & WS_EX_TOPMOST) != 0);
+        EXPECT_EQ(c.toolWindow, (ExStyle() & WS_EX_TOOLWINDOW) != 0);
+        EXPECT_EQ(dialog_, GetForegroundWindow());
+    }
+}
+
+TEST_F(HostPlacementTest, ModeThreeMakesTheHostTheParentAndLeavesTheDialogAlone) {
+    EXPECT_EQ(0u, HostParent(3)) << "no host: no parent";
+    StartHost();
+    HWND parent = reinterpret_cast<HWND>(HostParent(3));
+    EXPECT_EQ(host_, parent);
+    EXPECT_EQ(nullptr, reinterpret_cast<HWND>(HostParent(0)));
+    // Made hidden, as a dialog is until its OnInitDialog is over.
+    HWND owned = CreateWindowExW(0, kDialogClass, L"owned", WS_POPUP | WS_CAPTION, 5, 7, 300, 200, parent, nullptr,
+                                 GetModuleHandleW(nullptr), nullptr);
+    LONG_PTR before = GetWindowLongPtrW(owned, GWL_EXSTYLE);
+    ui::PrepareOptionDialog(owned, 3);
+    PumpMessages(50);
+    EXPECT_EQ(host_, GetWindow(owned, GW_OWNER));
+    EXPECT_EQ(5, Rect(owned).left) << "where the system put it";
+    EXPECT_EQ(before, GetWindowLongPtrW(owned, GWL_EXSTYLE));
+    EXPECT_EQ(other_, GetForegroundWindow()) << "it does not come forward";
+    DestroyWindow(owned);
+}
+
+TEST_F(HostPlacementTest, NoHostNoCentring) {
+    ui::PrepareOptionDialog(dialog_, 0);
+    EXPECT_EQ(5, Rect(dialog_).left);
+    EXPECT_EQ(7, Rect(dialog_).top);
+}
+
+TEST_F(HostPlacementTest, HoldingCtrlKeepsTheDialogBackUntilTheKeyIsUp) {
+    HoldCtrl(true);
+    bringToFrontTimers = 0;
+    ui::PrepareOptionDialog(dialog_, 0);
+    PumpMessages(300);
+    EXPECT_EQ(other_, GetForegroundWindow());
+    EXPECT_GE(bringToFrontTimers, 2) << "tried again every 50 ms";
+
+    HoldCtrl(false);
+    PumpMessages(150);
+    EXPECT_EQ(dialog_, GetForegroundWindow());
+    int timers = bringToFrontTimers;
+    PumpMessages(150);
+    EXPECT_EQ(timers, bringToFrontTimers) << "the timer stops once it came forward";
+}
+
+}  // namespace
