@@ -6,15 +6,21 @@
 
 #include "app/HostSwitches.h"
 #include "platform/ResourceLibrary.h"
+#include "services/DialogLanguage.h"
 #include "services/MessageCatalog.h"
 #include "services/ShareBlock.h"
 #include "settings/SettingsStore.h"
+#include "settings/UserDirectories.h"
 
 struct AppServices {
     explicit AppServices(int screenLogPixelsY) : store(screenLogPixelsY) {}
 
     SettingsStore store;
     MessageCatalog messages;
+    // The language of dialog texts, read once.
+    DialogLanguage dialogLanguage;
+    // Program, application and user directories, worked out once.
+    UserDirectories directories;
     HostSwitches host;
     // What the host's shared block held, when the switch string named one.
     ShareBlock share;

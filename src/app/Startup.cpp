@@ -3,6 +3,7 @@
 #include "app/CommandLine.h"
 #include "app/SniffDefinitionFile.h"
 #include "platform/Platform.h"
+#include "services/MessageIds.h"
 #include "services/PathHelpers.h"
 #include "services/ShareBlock.h"
 
@@ -11,11 +12,6 @@ namespace {
 // The host leaves its switch string in this variable; a longer one than the buffer is not read.
 constexpr const wchar_t* kSwitchVariable = L"QOR_ExCommand";
 constexpr size_t kSwitchBufferChars = 2048;
-constexpr uint16_t kLanguageLibraryMissing = 62538;
-
-std::wstring ProgramDirectory() {
-    return DirectoryPart(platform::Current().environment.ModuleFileName());
-}
 
 std::wstring LanguageTag() {
     return DirectReadString(kDirectSettingsPath, L"NLS", L".ja-JP");
@@ -31,10 +27,10 @@ void ReadHostSwitches(AppServices& app) {
 }
 
 void LoadLanguageLibrary(AppServices& app) {
-    std::wstring path = FullPath(ProgramDirectory() + L"..\\..\\Lang\\Qor" + LanguageTag() + L".dll");
+    std::wstring path = FullPath(app.directories.ProgramDirectory() + L"..\\..\\Lang\\Qor" + LanguageTag() + L".dll");
     app.resourceModule = platform::Current().system.LoadDataLibrary(path);
     if (!app.resourceModule) {
-        platform::Current().prompts.ShowMessage(app.messages.Get(kLanguageLibraryMissing), platform::kStyleOk);
+        platform::Current().prompts.ShowMessage(app.messages.Get(kMsgLanguageLibraryMissing), platform::kStyleOk);
     }
 }
 
@@ -96,7 +92,7 @@ void RunStartup(AppServices& app, StartupTargets& targets, const std::vector<std
     app.store.ReadInt(L"UserDirMode", 0);
     app.userDir = app.store.ReadString(L"UserDir", L"");
     app.commandOptionRoot = CommandOptionRootPath();
-    app.messages.SetPath(MessageFilePath(ProgramDirectory(), LanguageTag()));
+    app.messages.SetPath(MessageFilePath(app.directories.ProgramDirectory(), LanguageTag()));
 
     CommandLine line = ParseCommandLine(arguments);
     app.store.SelectSection(L"AppInfo");

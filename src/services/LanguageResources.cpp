@@ -1,12 +1,7 @@
 #include "services/LanguageResources.h"
 
 #include "platform/Platform.h"
-
-namespace {
-
-constexpr uint16_t kLanguageLibraryMissing = 62538;
-
-}  // namespace
+#include "services/MessageIds.h"
 
 std::wstring LoadLanguageString(const platform::ResourceLibrary* library, uint32_t id) {
     return library ? library->LoadStringResource(id) : std::wstring();
@@ -19,7 +14,7 @@ std::wstring CommandTextOf(const std::wstring& languageString) {
 std::optional<platform::Menu> LoadLanguageMenu(const platform::ResourceLibrary* library, uint32_t id,
                                                MessageCatalog& messages) {
     if (!library) {
-        platform::Current().prompts.ShowMessage(messages.Get(kLanguageLibraryMissing), platform::kStyleOk);
+        platform::Current().prompts.ShowMessage(messages.Get(kMsgLanguageLibraryMissing), platform::kStyleOk);
         return std::nullopt;
     }
     return library->LoadMenuResource(id);

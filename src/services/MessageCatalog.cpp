@@ -5,6 +5,7 @@
 #include "platform/Platform.h"
 #include "services/BitMask.h"
 #include "services/CRuntime.h"
+#include "services/MessageIds.h"
 #include "services/PathHelpers.h"
 #include "services/Tokenizer.h"
 #include "services/WideStream.h"
@@ -12,7 +13,6 @@
 namespace {
 
 constexpr size_t kLineBuffer = 32768;
-constexpr uint16_t kConfirmClosing = 63300;
 
 void ReplaceAll(std::wstring& text, std::wstring_view piece, std::wstring_view with) {
     for (size_t at = 0; (at = text.find(piece, at)) != std::wstring::npos; at += with.size()) {
@@ -56,7 +56,7 @@ std::wstring MessageCatalog::Get(uint16_t id) {
 }
 
 int MessageCatalog::Confirm(int32_t messageSetting, uint16_t id) {
-    if ((static_cast<uint32_t>(messageSetting) & BitMask((id - 63300) / 2)) == 0) return -1;
-    std::wstring body = Get(static_cast<uint16_t>(id + 1)) + L"\n\n" + Get(kConfirmClosing);
+    if ((static_cast<uint32_t>(messageSetting) & BitMask((id - kMsgConfirmationClosing) / 2)) == 0) return -1;
+    std::wstring body = Get(static_cast<uint16_t>(id + 1)) + L"\n\n" + Get(kMsgConfirmationClosing);
     return platform::Current().prompts.Ask(body, Get(id), platform::kStyleYesNo);
 }

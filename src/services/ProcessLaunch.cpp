@@ -3,6 +3,7 @@
 #include "platform/Platform.h"
 #include "services/LongPath.h"
 #include "services/MessageCatalog.h"
+#include "services/MessageIds.h"
 #include "services/PathHelpers.h"
 #include "services/SystemError.h"
 
@@ -16,9 +17,6 @@ constexpr uint32_t kWindowPollMs = 50;
 constexpr uint32_t kShellMask = 512;
 constexpr uint32_t kShellMaskWait = 768;
 
-constexpr uint16_t kDropCannotStart = 62541;
-constexpr uint16_t kDropNotIdle = 62544;
-constexpr uint16_t kDropNoWindow = 62547;
 
 constexpr const wchar_t* kKillQuestion = L"Timeout!\nAre you sure you want to kill the process?";
 
@@ -62,12 +60,12 @@ void DropLaunch(const std::wstring& program, const std::vector<std::wstring>& fi
     uint32_t error = 0;
     auto process = os.processes.Start(start, error);
     if (!process) {
-        os.prompts.ShowMessage(messages.Get(kDropCannotStart) + L"\n" + program, platform::kStyleOk);
+        os.prompts.ShowMessage(messages.Get(kMsgCannotStartProgram) + L"\n" + program, platform::kStyleOk);
         return;
     }
     switch (process->WaitForIdle(kDropWaitMs, error)) {
         case platform::kWaitTimeout:
-            os.prompts.ShowMessage(messages.Get(kDropNotIdle), platform::kStyleOk);
+            os.prompts.ShowMessage(messages.Get(kMsgProgramNotIdle), platform::kStyleOk);
             return;
         case platform::kWaitFailed:
             ShowSystemError(error);
@@ -77,7 +75,7 @@ void DropLaunch(const std::wstring& program, const std::vector<std::wstring>& fi
     }
     platform::WindowRef window = WaitForWindow(os.processes, process->Id());
     if (!window) {
-        os.prompts.ShowMessage(messages.Get(kDropNoWindow), platform::kStyleOk);
+        os.prompts.ShowMessage(messages.Get(kMsgProgramShowsNoWindow), platform::kStyleOk);
         return;
     }
     if (!files.empty()) os.processes.PostDropFiles(window, DropFilesBlock(files));

@@ -1,0 +1,73 @@
+// Every message the program can show has a text in every sample language, and the code names
+// messages only through the one list, so that a missing text is found here and not by a user.
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <vector>
+
+#include "platform/fake/FakePlatform.h"
+#include "services/MessageCatalog.h"
+#include "services/MessageIds.h"
+
+namespace {
+
+const std::filesystem::path kSourceDir = OPTION_SOURCE_DIR;
+
+std::vector<uint8_t> ReadBytes(const std::filesystem::path& path) {
+    std::ifstream file(path, std::ios::binary);
+    return std::vector<uint8_t>(std::istreambuf_iterator<char>(file), {});
+}
+
+// A whole number of five digits from 62301 to 63999 somewhere in the line.
+bool HasMessageNumber(const std::string& line) {
+    for (size_t at = 0; at < line.size();) {
+        size_t end = at;
+        while (end < line.size() && line[end] >= '0' && line[end] <= '9') ++end;
+        if (end == at) {
+            ++at;
+            continue;
+        }
+        if (end - at == 5) {
+            int value = std::stoi(line.substr(at, 5));
+            if (value >= 62301 && value <= 63999) return true;
+        }
+        at = end;
+    }
+    return false;
+}
+
+TEST(MessageIds, EverySampleLanguageHasEveryText) {
+    std::vector<uint16_t> ids(std::begin(kAllMessageIds), std::end(kAllMessageIds));
+    for (int i = 0; i < 2 * kConfirmationCount; ++i) ids.push_back(static_cast<uint16_t>(kFirstConfirmation + i));
+    for (const char* file : {"Msg.ja-JP.txt", "Msg.en-US.txt"}) {
+        std::vector<uint8_t> bytes = ReadBytes(kSourceDir / "sample" / "Lang" / file);
+        ASSERT_FALSE(bytes.empty()) << file;
+        platform::fake::FakePlatform fake;
+        fake.files().AddFile(L"C:\\Lang\\Msg.txt", bytes);
+        MessageCatalog messages;
+        messages.SetPath(L"C:\\Lang\\Msg.txt");
+        for (uint16_t id : ids) EXPECT_NE(MessageCatalog::kMissingText, messages.Get(id)) << file << " lacks " << id;
+        EXPECT_TRUE(fake.prompts().shown().empty());
+    }
+}
+
+TEST(MessageIds, CodeNamesMessagesThroughTheList) {
+    // Numbers in the message range written anywhere else would bypass the check above.
+    std::vector<std::string> found;
+    for (const auto& entry : std::filesystem::recursive_directory_iterator(kSourceDir / "src")) {
+        const std::filesystem::path& path = entry.path();
+        std::string name = path.filename().string();
+        if (name == "MessageIds.h" || name == "CollationRanks.cpp") continue;
+        if (path.extension() != ".cpp" && path.extension() != ".h") continue;
+        std::ifstream file(path);
+        std::string line;
+        for (int lineNumber = 1; std::getline(file, line); ++lineNumber) {
+            if (HasMessageNumber(line)) found.push_back(name + ":" + std::to_string(lineNumber) + ": " + line);
+        }
+    }
+    EXPECT_TRUE(found.empty()) << testing::PrintToString(found);
+}
+
+}  // namespace
