@@ -48,9 +48,8 @@ int wmain(int argc, wchar_t** argv) {
     int runs = argc > 1 ? _wtoi(argv[1]) : 21;
     if (runs < 1) runs = 1;
     std::wstring self = e2e::TestDirectory() + L"\\startup_benchmark.exe";
-    double floor = Measure("empty program (floor)", runs, [&] {
-        return e2e::Process::Start(self, {L"--exit"}).WaitOrKill();
-    });
+    double floor =
+        Measure("empty program (floor)", runs, [&] { return e2e::Process::Start(self, {L"--exit"}).WaitOrKill(); });
     double option = Measure("Option.exe /T file", runs, [] { return e2e::RunOption({L"/T", L"C:\\none.txt"}); });
     if (floor <= 0 || option <= 0) return 1;
     std::printf("start-up of Option.exe: %.1f ms over the floor (ratio %.2f)\n", option - floor, option / floor);
