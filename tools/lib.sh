@@ -41,12 +41,16 @@ bootstrap() {
   DEBIAN_FRONTEND=noninteractive $sudo apt-get install -y -qq --no-install-recommends "${missing[@]}" >/dev/null
 }
 
+# build_preset PRESET [TARGET...]: configures once, then builds everything or the targets named.
 build_preset() {
   local preset=$1
+  shift
   if [ ! -f "$BUILD/$preset/CMakeCache.txt" ]; then
     cmake --preset "$preset" -S "$ROOT" >/dev/null
   fi
-  cmake --build --preset "$preset" -- --no-print-directory -s
+  local targets=()
+  [ $# -gt 0 ] && targets=(--target "$@")
+  cmake --build --preset "$preset" "${targets[@]}" -- --no-print-directory -s
 }
 
 # Lays out an installation tree from sample/: the program two folders below the application root.
