@@ -18,8 +18,6 @@ public:
     virtual bool GetVariable(const std::wstring& name, std::wstring& value) = 0;
     // Full path of the running program (GetModuleFileNameW of the process).
     virtual std::wstring ModuleFileName() = 0;
-    // GetSystemDirectoryW, without a trailing backslash.
-    virtual std::wstring SystemDirectory() = 0;
     // SHGetSpecialFolderPathW of the local application data folder, without creating it.
     virtual bool LocalAppDataFolder(std::wstring& path) = 0;
     // GetUserNameW with a buffer of 256 characters.

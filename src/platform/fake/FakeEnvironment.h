@@ -1,4 +1,4 @@
-// Environment for tests: variables, program path and system directory, all settable.
+// Environment for tests: variables, program path, folders, user and font, all settable.
 #pragma once
 
 #include <map>
@@ -12,7 +12,6 @@ class FakeEnvironment : public Environment {
 public:
     bool GetVariable(const std::wstring& name, std::wstring& value) override;
     std::wstring ModuleFileName() override { return moduleFileName_; }
-    std::wstring SystemDirectory() override { return systemDirectory_; }
     LogFont IconTitleFont() override { return iconTitleFont_; }
     bool LocalAppDataFolder(std::wstring& path) override { return Give(localAppData_, path); }
     bool UserName(std::wstring& name) override { return Give(userName_, name); }
@@ -21,7 +20,6 @@ public:
     void SetVariable(const std::wstring& name, const std::wstring& value);
     void RemoveVariable(const std::wstring& name);
     void SetModuleFileName(const std::wstring& path) { moduleFileName_ = path; }
-    void SetSystemDirectory(const std::wstring& path) { systemDirectory_ = path; }
     void SetIconTitleFont(const LogFont& font) { iconTitleFont_ = font; }
     // An empty text makes the call fail.
     void SetLocalAppDataFolder(const std::wstring& path) { localAppData_ = path; }
@@ -39,7 +37,6 @@ private:
     };
     std::map<std::wstring, Variable> variables_;  // by upper-cased name
     std::wstring moduleFileName_ = L"C:\\Qor\\Tools\\Option\\Option.exe";
-    std::wstring systemDirectory_ = L"C:\\Windows\\system32";
     LogFont iconTitleFont_;
     std::wstring localAppData_ = L"C:\\Users\\tester\\AppData\\Local";
     std::wstring userName_ = L"tester";

@@ -35,13 +35,6 @@ std::wstring Win32Environment::ModuleFileName() {
     }
 }
 
-std::wstring Win32Environment::SystemDirectory() {
-    wchar_t buffer[MAX_PATH];
-    UINT length = GetSystemDirectoryW(buffer, MAX_PATH);
-    if (length == 0 || length >= MAX_PATH) return std::wstring();
-    return std::wstring(buffer, length);
-}
-
 LogFont Win32Environment::IconTitleFont() {
     LOGFONTW system = {};
     SystemParametersInfoW(SPI_GETICONTITLELOGFONT, sizeof system, &system, 0);

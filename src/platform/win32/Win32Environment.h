@@ -8,7 +8,6 @@ class Win32Environment : public Environment {
 public:
     bool GetVariable(const std::wstring& name, std::wstring& value) override;
     std::wstring ModuleFileName() override;
-    std::wstring SystemDirectory() override;
     LogFont IconTitleFont() override;
     bool LocalAppDataFolder(std::wstring& path) override;
     bool UserName(std::wstring& name) override;
