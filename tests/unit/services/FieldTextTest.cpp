@@ -1,0 +1,88 @@
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <optional>
+
+#include "services/FieldText.h"
+
+namespace {
+
+// Text typed into a field and what a signed and an unsigned field make of it (nullopt: refused).
+struct IntegerCase {
+    const wchar_t* text;
+    std::optional<int32_t> asSigned;
+    std::optional<uint32_t> asUnsigned;
+};
+
+TEST(FieldText, IntegerFieldsTakeBlanksSignAndDigitsWithinTheirRange) {
+    const IntegerCase cases[] = {
+        {L"42", 42, 42u},
+        {L"  \t42\t ", 42, 42u},
+        {L"+7", 7, 7u},
+        {L"-7", -7, std::nullopt},
+        {L"-0", 0, std::nullopt},
+        {L"007", 7, 7u},
+        {L"2147483647", INT32_MAX, 2147483647u},
+        {L"2147483648", std::nullopt, 2147483648u},
+        {L"-2147483648", INT32_MIN, std::nullopt},
+        {L"-2147483649", std::nullopt, std::nullopt},
+        {L"4294967295", std::nullopt, UINT32_MAX},
+        {L"4294967296", std::nullopt, std::nullopt},
+        {L"99999999999999999999999", std::nullopt, std::nullopt},
+        {L"", std::nullopt, std::nullopt},
+        {L"   ", std::nullopt, std::nullopt},
+        {L"+", std::nullopt, std::nullopt},
+        {L"- 5", std::nullopt, std::nullopt},
+        {L"5 5", std::nullopt, std::nullopt},
+        {L"12a", std::nullopt, std::nullopt},
+        {L"0x10", std::nullopt, std::nullopt},
+        {L"1.0", std::nullopt, std::nullopt},
+        {L"1e3", std::nullopt, std::nullopt},
+        {L"\n5", std::nullopt, std::nullopt},           // only spaces and tabs count as blanks
+        {L"\x0661\x0662", std::nullopt, std::nullopt},  // digits of other scripts are not taken
+        {L"\xFF11", std::nullopt, std::nullopt},        // nor full-width ones
+    };
+    for (const auto& c : cases) {
+        EXPECT_EQ(c.asSigned, fieldtext::ParseInt(c.text)) << testing::PrintToString(c.text);
+        EXPECT_EQ(c.asUnsigned, fieldtext::ParseUInt(c.text)) << testing::PrintToString(c.text);
+    }
+}
+
+TEST(FieldText, NumberFieldsTakeWhatTheRuntimeReadsAndNothingAround) {
+    const struct {
+        const wchar_t* text;
+        std::optional<double> value;
+    } cases[] = {
+        {L"1.5", 1.5},           {L" -2.25e2\t", -225.0}, {L".5", 0.5},           {L"-0", -0.0},
+        {L"0x10", 16.0},         {L"1e400", HUGE_VAL},    {L"", std::nullopt},    {L" ", std::nullopt},
+        {L"1.5x", std::nullopt}, {L"1,5", std::nullopt},  {L"\n1", std::nullopt}, {L"e5", std::nullopt},
+    };
+    for (const auto& c : cases) EXPECT_EQ(c.value, fieldtext::ParseDouble(c.text)) << testing::PrintToString(c.text);
+    EXPECT_TRUE(std::isinf(*fieldtext::ParseDouble(L"-inf")));
+    EXPECT_TRUE(std::isnan(*fieldtext::ParseDouble(L"nan")));
+}
+
+TEST(FieldText, ShownValuesReadBackUnchanged) {
+    for (int32_t value : {0, -1, 50, INT32_MIN, INT32_MAX})
+        EXPECT_EQ(value, fieldtext::ParseInt(fieldtext::ShowInt(value)));
+    for (uint32_t value : {0u, 10u, 5000000u, UINT32_MAX})
+        EXPECT_EQ(value, fieldtext::ParseUInt(fieldtext::ShowUInt(value)));
+    EXPECT_EQ(L"4294967295", fieldtext::ShowUInt(UINT32_MAX));
+    const struct {
+        double value;
+        const wchar_t* shown;
+    } doubles[] = {{0.1, L"0.1"}, {1.0 / 3, L"0.333333333333333"}, {45123.5, L"45123.5"}, {1e20, L"1e+20"}};
+    for (const auto& d : doubles) EXPECT_EQ(d.shown, fieldtext::ShowDouble(d.value));
+}
+
+TEST(FieldText, RefusalsUseTheFrameworksWording) {
+    EXPECT_EQ(L"Please enter an integer.", fieldtext::IntegerExpected());
+    EXPECT_EQ(L"Please enter a positive integer.", fieldtext::PositiveIntegerExpected());
+    EXPECT_EQ(L"Please enter a number.", fieldtext::NumberExpected());
+    EXPECT_EQ(L"Please enter an integer between 1 and 50.", fieldtext::IntegerBetween(1, 50));
+    EXPECT_EQ(L"Please enter an integer between -5 and -1.", fieldtext::IntegerBetween(-5, -1));
+    EXPECT_EQ(L"Please enter an integer between 10 and 4294967295.", fieldtext::UnsignedBetween(10, UINT32_MAX));
+    EXPECT_EQ(L"Please enter no more than 80 characters.", fieldtext::NoMoreCharactersThan(80));
+}
+
+}  // namespace
