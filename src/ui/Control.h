@@ -1,0 +1,43 @@
+// A borrowed control window: the wrappers of this folder never own the window they are given, and
+// dropping one leaves the control as it is. Their methods are the control's messages, one each.
+#pragma once
+
+#include <windows.h>
+
+#include <string>
+
+namespace ui {
+
+class Control {
+public:
+    Control() = default;
+    explicit Control(HWND window) : window_(window) {}
+    // The control with this id in a dialog.
+    Control(HWND dialog, int id) : window_(GetDlgItem(dialog, id)) {}
+
+    HWND hwnd() const { return window_; }
+    explicit operator bool() const { return window_ != nullptr; }
+    LRESULT Send(UINT message, WPARAM wParam = 0, LPARAM lParam = 0) const {
+        return SendMessageW(window_, message, wParam, lParam);
+    }
+
+    std::wstring Text() const;
+    void SetText(const std::wstring& text) const { SetWindowTextW(window_, text.c_str()); }
+    int Id() const { return GetDlgCtrlID(window_); }
+    void Enable(bool enable) const { EnableWindow(window_, enable); }
+    bool IsEnabled() const { return IsWindowEnabled(window_) != FALSE; }
+    void Show(bool show) const { ShowWindow(window_, show ? SW_SHOW : SW_HIDE); }
+    bool IsVisible() const { return IsWindowVisible(window_) != FALSE; }
+    void Focus() const { SetFocus(window_); }
+    // Whether the window's class is this one, ignoring case ("Edit", WC_COMBOBOXW, ...).
+    bool IsClass(const wchar_t* className) const;
+
+protected:
+    // The text of a list's item by its length and text messages (LB_ or CB_); empty for no such item.
+    std::wstring ItemText(UINT lengthMessage, UINT textMessage, int index) const;
+
+private:
+    HWND window_ = nullptr;
+};
+
+}  // namespace ui
