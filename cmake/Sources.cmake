@@ -1,5 +1,5 @@
 # Which file belongs to which library is decided by its name and folder:
-#   C*Dlg*, COption*, CDlg* and everything in ui/ are dialogs (Win32 only);
+#   C*Dlg*, COption*, CDlg*, the page base OptionPage and everything in ui/ are dialogs (Win32 only);
 #   platform/win32/ is the real platform; platform/fake/ the in-memory one;
 #   everything else under src/ is the portable core.
 function(option_collect_sources root)
@@ -16,7 +16,7 @@ function(option_collect_sources root)
       list(APPEND win32 "${f}")
     elseif(rel MATCHES "^platform/fake/")
       list(APPEND fake "${f}")
-    elseif(rel MATCHES "^ui/" OR name MATCHES "^(C[A-Za-z0-9]*Dlg|COption|CDlg)")
+    elseif(rel MATCHES "^ui/" OR name MATCHES "^(C[A-Za-z0-9]*Dlg|COption|CDlg|OptionPage\\.)")
       list(APPEND dialogs "${f}")
     elseif(rel MATCHES "^app/main\\.cpp$" OR rel MATCHES "^resources/")
       # the entry point and resources go straight into the executable

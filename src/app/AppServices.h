@@ -3,6 +3,7 @@
 
 #include <memory>
 #include <string>
+#include <vector>
 
 #include "app/HostSwitches.h"
 #include "platform/ResourceLibrary.h"
@@ -28,6 +29,11 @@ struct AppServices {
     std::wstring userDir;
     // Where the tool's own values live beneath HKEY_CURRENT_USER.
     std::wstring commandOptionRoot;
+    // The folder the host asked the option dialog to open the folder settings on, served once.
+    std::wstring setFolder;
+    // The mouse-button and modifier names of the option dialog's hidden labels, empty entries kept.
+    std::vector<std::wstring> mouseButtonNames;
+    std::vector<std::wstring> modifierNames;
     // The language library; null when it could not be loaded.
     std::unique_ptr<platform::ResourceLibrary> resourceModule;
 };

@@ -6,8 +6,10 @@
 
 #include <vector>
 
+#include "app/COptionDlg.h"
 #include "app/Startup.h"
 #include "platform/win32/Win32Platform.h"
+#include "services/HostHandshake.h"
 
 namespace {
 
@@ -49,16 +51,23 @@ int COptionApp::InitInstance() {
     HRESULT com = CoInitialize(nullptr);
     {
         AppServices app(ScreenLogPixelsY());
+        app_ = &app;
         RunStartup(app, *this, Arguments());
+        app_ = nullptr;
     }
     if (SUCCEEDED(com)) CoUninitialize();
     return 0;
 }
 
-// The dialogs, editors and writers take their place here as they are built; until then a target
-// that is not there yet ends the run quietly.
-void COptionApp::OpenOptionDialog() {}
+void COptionApp::OpenOptionDialog() {
+    if (!app_) return;
+    COptionDlg dialog(*app_);
+    // In mode 3 the host's window is the dialog's parent; otherwise it has none.
+    dialog.DoModal(reinterpret_cast<HWND>(HostParent(app_->host.windowMode)));
+}
 
+// The editors and writers take their place here as they are built; until then a target that is
+// not there yet ends the run quietly.
 void COptionApp::OpenEditor(int, const std::wstring&) {}
 
 void COptionApp::WriteKeyLists() {}

@@ -4,6 +4,8 @@
 
 #include "app/StartupTargets.h"
 
+struct AppServices;
+
 class COptionApp : public StartupTargets {
 public:
     // Always 0.
@@ -13,4 +15,8 @@ public:
     void OpenEditor(int switchNumber, const std::wstring& file) override;
     void WriteKeyLists() override;
     void RunEditorScript(const std::wstring& file) override;
+
+private:
+    // The process's services while InitInstance runs.
+    AppServices* app_ = nullptr;
 };

@@ -1,0 +1,39 @@
+// Which class serves which page of the option dialog. A page class takes its place by a row here;
+// every page without a row is a generic page with its own (empty) template.
+#include <memory>
+#include <vector>
+
+#include "app/COptionDlg.h"
+
+namespace {
+
+using PageMaker = std::unique_ptr<OptionPage> (*)(AppServices& app);
+
+struct PageClass {
+    int id;
+    PageMaker make;
+};
+
+template <class Page>
+std::unique_ptr<OptionPage> Make(AppServices& app) {
+    return std::make_unique<Page>(app);
+}
+
+std::unique_ptr<OptionPage> MakeGeneric(const OptionPageInfo& page, AppServices& app) {
+    return std::make_unique<OptionPage>(page.templateId, app);
+}
+
+// Rows look like {36, &Make<COptionFolderSettingDlg>}.
+const std::vector<PageClass>& PageClasses() {
+    static const std::vector<PageClass> classes = {};
+    return classes;
+}
+
+}  // namespace
+
+std::unique_ptr<OptionPage> MakeOptionPage(const OptionPageInfo& page, AppServices& app) {
+    for (const PageClass& row : PageClasses()) {
+        if (row.id == page.id) return row.make(app);
+    }
+    return MakeGeneric(page, app);
+}

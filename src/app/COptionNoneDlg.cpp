@@ -1,0 +1,10 @@
+#include "app/COptionNoneDlg.h"
+
+#include "resources/resource.h"
+#include "ui/DataExchange.h"
+
+COptionNoneDlg::COptionNoneDlg(AppServices& app) : OptionPage(IDD_OPTION_NONE, app) {}
+
+void COptionNoneDlg::DoDataExchange(ui::DataExchange& dx) {
+    ui::DDX_Text(dx, IDC_OPTION_NONE_TEXT, text);
+}

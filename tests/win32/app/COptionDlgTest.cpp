@@ -1,0 +1,309 @@
+// The option dialog with its real templates and windows; registry, files, prompts, launches and host
+// windows are the fakes', so each test starts from a clean slate and sees every message box.
+#include <gtest/gtest.h>
+#include <windows.h>
+
+#include <commctrl.h>
+
+#include <functional>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "app/AppServices.h"
+#include "app/COptionDlg.h"
+#include "app/OptionPageTable.h"
+#include "app/Startup.h"
+#include "platform/fake/FakePlatform.h"
+#include "resources/resource.h"
+#include "settings/SettingsStore.h"
+#include "ui/TreeView.h"
+
+namespace {
+
+constexpr const wchar_t* kProgram = L"C:\\Qor\\command\\Option\\Option.exe";
+
+std::wstring TextOf(HWND window) {
+    wchar_t buffer[1024] = {};
+    GetWindowTextW(window, buffer, 1024);
+    return buffer;
+}
+
+HWND Tree(const COptionDlg& dialog) {
+    return dialog.Item(IDC_OPTION_TREE);
+}
+
+// The tree item whose data is id, searched depth first; null when there is none.
+HTREEITEM FindItem(const ui::TreeView& tree, HTREEITEM first, int id) {
+    for (HTREEITEM item = first; item; item = tree.GetNextSiblingItem(item)) {
+        if (tree.GetItemData(item) == id) return item;
+        if (HTREEITEM found = FindItem(tree, tree.GetChildItem(item), id)) return found;
+    }
+    return nullptr;
+}
+
+void Select(const COptionDlg& dialog, int id) {
+    ui::TreeView tree(Tree(dialog));
+    HTREEITEM item = FindItem(tree, tree.GetRootItem(), id);
+    ASSERT_NE(nullptr, item) << "no item " << id;
+    tree.SelectItem(item);
+}
+
+std::wstring SelectedLabel(const COptionDlg& dialog) {
+    ui::TreeView tree(Tree(dialog));
+    HTREEITEM item = tree.GetSelectedItem();
+    return item ? tree.GetItemText(item) : L"<none>";
+}
+
+std::vector<int> OpenedPages(const COptionDlg& dialog) {
+    std::vector<int> ids;
+    auto pages = OptionPages();
+    for (size_t i = 0; i < pages.size(); ++i) {
+        if (dialog.Pages()[i]->opened) ids.push_back(pages[i].id);
+    }
+    return ids;
+}
+
+RECT ScreenRect(HWND window) {
+    RECT rect{};
+    GetWindowRect(window, &rect);
+    return rect;
+}
+
+// A single-line edit put into a page, as a page of its own would have.
+HWND AddEdit(HWND page) {
+    return CreateWindowExW(0, L"Edit", L"", WS_CHILD | WS_VISIBLE | WS_TABSTOP, 0, 0, 100, 20, page,
+                           reinterpret_cast<HMENU>(100), GetModuleHandleW(nullptr), nullptr);
+}
+
+// Runs the dialog modally; drive gets its window once the modal loop runs.
+INT_PTR RunModal(COptionDlg& dialog, std::function<void(HWND)> drive) {
+    static COptionDlg* running;
+    static std::function<void(HWND)>* pending;
+    running = &dialog;
+    pending = &drive;
+    SetTimer(nullptr, 0, 20, [](HWND, UINT, UINT_PTR id, DWORD) {
+        KillTimer(nullptr, id);
+        (*pending)(running->hwnd());
+    });
+    return dialog.DoModal(nullptr);
+}
+
+class COptionDlgTest : public testing::Test {
+protected:
+    void SetUp() override {
+        INITCOMMONCONTROLSEX controls{sizeof(controls), ICC_WIN95_CLASSES};
+        InitCommonControlsEx(&controls);
+        fake_.environment().SetModuleFileName(kProgram);
+        app_.commandOptionRoot = CommandOptionRootPath();
+    }
+
+    std::wstring PageKey() const { return app_.commandOptionRoot + L"\\OptionPage"; }
+
+    void SetStart(std::optional<int> start) {
+        fake_.registry().DeleteKey(PageKey());
+        if (start) DirectWriteInt(PageKey(), L"Start", *start);
+    }
+
+    // A dialog text file for the option dialog in a language other than the templates' own.
+    void Translate(const std::wstring& text) {
+        DirectWriteString(kDirectSettingsPath, L"NLS", L".en-US");
+        std::vector<uint8_t> bytes = {0xFF, 0xFE};
+        for (wchar_t unit : text) {
+            bytes.push_back(static_cast<uint8_t>(unit & 0xFF));
+            bytes.push_back(static_cast<uint8_t>(unit >> 8));
+        }
+        fake_.files().AddFile(L"C:\\Qor\\command\\Option\\.en-US\\Option\\159.txt", bytes);
+    }
+
+    platform::fake::FakePlatform fake_;
+    AppServices app_{96};
+};
+
+TEST_F(COptionDlgTest, OpensOnTheStartItemAndCreatesOnlyWhatItShows) {
+    struct Case {
+        const char* what;
+        std::optional<int> start;
+        const wchar_t* label;
+        int page;       // 0: a group, shown by its text
+        int groupText;  // the static control whose text the group pane shows
+    };
+    const Case cases[] = {
+        {"no Start: the appearance group", std::nullopt, L"外観", 0, IDC_OPTION_GROUP_TEXT_APPEARANCE},
+        {"a page", 36, L"フォルダー設定", 36, 0},
+        {"a page deep in the tree", 43, L"ホイール", 43, 0},
+        {"a group", 1010, L"マウス", 0, IDC_OPTION_GROUP_TEXT_MOUSE},
+        {"a page without an item: the first root", 15, L"全体", 0, IDC_OPTION_GROUP_TEXT_GENERAL},
+        {"an unknown id: the first root", 9999, L"全体", 0, IDC_OPTION_GROUP_TEXT_GENERAL},
+    };
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.what);
+        SetStart(c.start);
+        COptionDlg dialog(app_);
+        ASSERT_TRUE(dialog.Create(nullptr));
+        ShowWindow(dialog.hwnd(), SW_SHOW);
+        EXPECT_EQ(TextOf(dialog.hwnd()), L"オプション");
+        EXPECT_EQ(static_cast<int>(OptionTreeRows().size()), ui::TreeView(Tree(dialog)).GetCount());
+        EXPECT_EQ(c.label, SelectedLabel(dialog));
+        ASSERT_NE(nullptr, dialog.CurrentPage());
+        HWND shown = dialog.CurrentPage()->hwnd();
+        EXPECT_TRUE(IsWindowVisible(shown));
+        RECT frame = ScreenRect(dialog.Item(IDC_OPTION_FRAME));
+        RECT page = ScreenRect(shown);
+        EXPECT_TRUE(EqualRect(&frame, &page)) << "the page takes the frame's place";
+        if (c.page) {
+            EXPECT_EQ(std::vector<int>{c.page}, OpenedPages(dialog));
+            EXPECT_EQ(dialog.Page(c.page), dialog.CurrentPage());
+            EXPECT_EQ(0, dialog.NonePage().opened);
+            EXPECT_EQ(c.page, dialog.StartValue());
+        } else {
+            EXPECT_EQ(std::vector<int>{}, OpenedPages(dialog));
+            EXPECT_EQ(&dialog.NonePage(), dialog.CurrentPage());
+            std::wstring text = TextOf(dialog.Item(c.groupText));
+            EXPECT_FALSE(text.empty());
+            EXPECT_EQ(text, TextOf(GetDlgItem(shown, IDC_OPTION_NONE_TEXT)));
+        }
+        EXPECT_EQ(fake_.windows().MainWindow(), reinterpret_cast<platform::WindowRef>(dialog.hwnd()));
+    }
+}
+
+TEST_F(COptionDlgTest, TheAppearanceTextIsTheOneOfTheDefaultGroup) {
+    SetStart(std::nullopt);
+    COptionDlg dialog(app_);
+    ASSERT_TRUE(dialog.Create(nullptr));
+    EXPECT_EQ(0, TextOf(GetDlgItem(dialog.CurrentPage()->hwnd(), IDC_OPTION_NONE_TEXT))
+                     .rfind(L"画面の色、フォント、スキンなどを設定を行います。", 0));
+    EXPECT_EQ(kDefaultGroupId, dialog.StartValue());
+}
+
+TEST_F(COptionDlgTest, ReturningToAPageFindsItAsTheUserLeftIt) {
+    SetStart(std::nullopt);
+    COptionDlg dialog(app_);
+    ASSERT_TRUE(dialog.Create(nullptr));
+    ShowWindow(dialog.hwnd(), SW_SHOW);
+
+    Select(dialog, 30);
+    OptionPage* network = dialog.Page(30);
+    HWND page = network->hwnd();
+    ASSERT_NE(nullptr, page);
+    HWND edit = AddEdit(page);
+    SetWindowTextW(edit, L"typed by the user");
+
+    Select(dialog, 1001);
+    EXPECT_FALSE(IsWindowVisible(page));
+    EXPECT_EQ(TextOf(dialog.Item(IDC_OPTION_GROUP_TEXT_LIST)),
+              TextOf(GetDlgItem(dialog.NonePage().hwnd(), IDC_OPTION_NONE_TEXT)));
+    EXPECT_EQ(1001, dialog.StartValue());
+
+    Select(dialog, 30);
+    EXPECT_EQ(page, network->hwnd()) << "the window is not made again";
+    EXPECT_TRUE(IsWindowVisible(page));
+    EXPECT_FALSE(IsWindowVisible(dialog.NonePage().hwnd()));
+    EXPECT_EQ(L"typed by the user", TextOf(edit));
+    EXPECT_EQ(std::vector<int>{30}, OpenedPages(dialog));
+    EXPECT_EQ(Tree(dialog), GetFocus()) << "arrow keys go on walking the tree";
+    EXPECT_EQ(30, dialog.StartValue());
+    EXPECT_EQ(-1, DirectReadInt(PageKey(), L"Start", -1)) << "Start is stored only by Apply";
+}
+
+TEST_F(COptionDlgTest, OpeningServesTheFolderRequestOnceAndReadsTheMouseNames) {
+    DirectWriteString(PageKey(), L"SetFolder", L"C:\\Work");
+    {
+        COptionDlg dialog(app_);
+        ASSERT_TRUE(dialog.Create(nullptr));
+        EXPECT_EQ(L"", DirectReadString(PageKey(), L"SetFolder", L"<absent>")) << "emptied at once";
+        EXPECT_EQ(L"C:\\Work", app_.setFolder);
+        EXPECT_EQ(1, SendMessageW(dialog.hwnd(), kHostProbeMessage, 0, 0));
+        SendMessageW(dialog.hwnd(), WM_COMMAND, MAKEWPARAM(IDCANCEL, BN_CLICKED), 0);
+        EXPECT_EQ(L"", DirectReadString(PageKey(), L"SetFolder", L"<absent>"));
+    }
+    EXPECT_EQ(0u, fake_.windows().MainWindow()) << "no main window once the dialog is gone";
+    EXPECT_EQ((std::vector<std::wstring>{L"Enter", L"ダブルクリック", L"左クリック", L"右クリック", L"中クリック",
+                                         L"進むボタン", L"戻るボタン"}),
+              app_.mouseButtonNames);
+    EXPECT_EQ((std::vector<std::wstring>{L"(組み合わせなし)", L"+Ctrl", L"+Shift", L"+Ctrl+Shift"}),
+              app_.modifierNames);
+
+    fake_.registry().DeleteKey(PageKey());
+    COptionDlg again(app_);
+    ASSERT_TRUE(again.Create(nullptr));
+    EXPECT_EQ(L"<absent>", DirectReadString(PageKey(), L"SetFolder", L"<absent>")) << "nothing asked, nothing written";
+    EXPECT_EQ(L"", app_.setFolder);
+}
+
+TEST_F(COptionDlgTest, ATranslationWithAWrongLabelCountIsToldAndLeavesThePartialTree) {
+    Translate(
+        L"Options\r\n"
+        L"1403\tStatic\tBars/Tab bar\r\n");
+    SetStart(36);
+    COptionDlg dialog(app_);
+    ASSERT_TRUE(dialog.Create(nullptr));
+
+    ASSERT_EQ(1u, fake_.prompts().shown().size());
+    EXPECT_EQ((platform::fake::ShownMessage{L"String of 2 is required ID:1403, but it has become 9", 0}),
+              fake_.prompts().shown()[0]);
+    EXPECT_EQ(L"Options", TextOf(dialog.hwnd()));
+    int before = 0;
+    for (const OptionTreeRow& row : OptionTreeRows()) before += row.labelList < IDC_OPTION_LABELS_BAR;
+    EXPECT_EQ(before, ui::TreeView(Tree(dialog)).GetCount()) << "the roots before the faulty list";
+    EXPECT_EQ(L"<none>", SelectedLabel(dialog));
+    EXPECT_EQ(nullptr, dialog.CurrentPage());
+    EXPECT_EQ(std::vector<int>{}, OpenedPages(dialog));
+}
+
+TEST_F(COptionDlgTest, EnterAndEscapeAnywhereCloseTheWholeDialog) {
+    struct Case {
+        const char* what;
+        std::function<void(COptionDlg&, HWND)> act;
+        INT_PTR result;
+    };
+    auto keyInPageEdit = [](WPARAM key) {
+        return [key](COptionDlg& dialog, HWND window) {
+            Select(dialog, 24);
+            HWND edit = AddEdit(dialog.Page(24)->hwnd());
+            PostMessageW(edit, WM_KEYDOWN, key, 0);
+        };
+    };
+    const Case cases[] = {
+        {"a page posts OK", [](COptionDlg&, HWND w) { PostMessageW(w, kPageOkMessage, 0, 0); }, IDOK},
+        {"a page posts Cancel", [](COptionDlg&, HWND w) { PostMessageW(w, kPageCancelMessage, 0, 0); }, IDCANCEL},
+        {"Enter in an edit of a page", keyInPageEdit(VK_RETURN), IDOK},
+        {"Escape in an edit of a page", keyInPageEdit(VK_ESCAPE), IDCANCEL},
+    };
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.what);
+        SetStart(std::nullopt);
+        COptionDlg dialog(app_);
+        EXPECT_EQ(c.result, RunModal(dialog, [&](HWND window) { c.act(dialog, window); }));
+    }
+}
+
+TEST_F(COptionDlgTest, HelpOpensTheManualPageOfTheSelection) {
+    struct Case {
+        const char* what;
+        int select;
+        bool f1;  // WM_HELP as F1 raises it; else the help command
+        const wchar_t* file;
+    };
+    const Case cases[] = {
+        {"a page, by F1", 36, true, L"C:\\Qor\\Manual\\7.Option\\2.List\\10.html"},
+        {"a page, by the command", 23, false, L"C:\\Qor\\Manual\\7.Option\\4.Interface\\03_2.html"},
+        {"a group", 1001, true, L"C:\\Qor\\Manual\\7.Option\\00.html"},
+    };
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.what);
+        SetStart(c.select);
+        COptionDlg dialog(app_);
+        ASSERT_TRUE(dialog.Create(nullptr));
+        HELPINFO info{sizeof(info), HELPINFO_WINDOW, 0, Tree(dialog), 0, {0, 0}};
+        if (c.f1)
+            SendMessageW(dialog.hwnd(), WM_HELP, 0, reinterpret_cast<LPARAM>(&info));
+        else
+            SendMessageW(dialog.hwnd(), WM_COMMAND, ID_HELP, 0);
+        platform::ShellRequest expected{512, reinterpret_cast<platform::WindowRef>(dialog.hwnd()), c.file, L"", L"", 5};
+        ASSERT_FALSE(fake_.processes().shellRequests().empty());
+        EXPECT_EQ(expected, fake_.processes().shellRequests().back());
+    }
+}
+
+}  // namespace
