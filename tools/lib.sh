@@ -92,6 +92,8 @@ start_wine() {
     log "creating the Wine prefix in $WINEPREFIX"
     wineboot -i >/dev/null 2>&1 || true
     wineserver -w
+    # Without a window manager, managed windows cost seconds each to show and hide.
+    wine reg add 'HKCU\Software\Wine\X11 Driver' /v Managed /t REG_SZ /d N /f >/dev/null 2>&1
     # A crashing program must end, not wait for someone to close the crash dialog.
     wine reg add 'HKCU\Software\Wine\WineDbg' /v ShowCrashDialog /t REG_DWORD /d 0 /f >/dev/null 2>&1
     # Japanese dialog text needs a font that has it.
