@@ -7,6 +7,7 @@
 
 #include "support/FakeHostProcess.h"
 #include "support/HostHandshake.h"
+#include "support/OptionWindow.h"
 #include "support/Process.h"
 
 using e2e::EnvChanges;
@@ -25,8 +26,6 @@ TEST(Startup, EndsWithExitCodeZero) {
         EnvChanges env;
     };
     const Case cases[] = {
-        // No arguments: the option dialog would open once it exists; until then the program ends at once.
-        {"no arguments", {}, {}},
         {"/T with a file ends at once", {L"/T", L"C:\\none.txt"}, {}},
         {"switches ignore case", {L"/t", L"x"}, {}},
         {"the last switch counts", {L"/E", L"a", L"/T", L"b"}, {}},
@@ -40,6 +39,17 @@ TEST(Startup, EndsWithExitCodeZero) {
         SCOPED_TRACE(c.what);
         EXPECT_EQ(0u, RunOption(c.args, c.env));
     }
+}
+
+// No arguments: the option dialog opens and the program ends when it is closed.
+TEST(Startup, NoArgumentsOpensTheOptionDialog) {
+    e2e::Process option = e2e::StartOption();
+    ASSERT_TRUE(option);
+    HWND dialog = e2e::FindOptionDialog(option.Id());
+    ASSERT_NE(nullptr, dialog);
+    EXPECT_TRUE(IsWindowVisible(dialog));
+    PostMessageW(dialog, WM_COMMAND, MAKEWPARAM(IDCANCEL, BN_CLICKED), 0);
+    EXPECT_EQ(0u, option.WaitOrKill());
 }
 
 TEST(Startup, EndingAtOnceSendsTheHostNothing) {

@@ -76,17 +76,22 @@ HWND AddEdit(HWND page) {
                            reinterpret_cast<HMENU>(100), GetModuleHandleW(nullptr), nullptr);
 }
 
-// Runs the dialog modally; drive gets its window once the modal loop runs.
-INT_PTR RunModal(COptionDlg& dialog, std::function<void(HWND)> drive) {
+// Runs the dialog modally; once the modal loop runs, each step gets the dialog's window in turn,
+// the next one after what the one before posted has been handled.
+INT_PTR RunModal(COptionDlg& dialog, std::vector<std::function<void(HWND)>> steps) {
     static COptionDlg* running;
-    static std::function<void(HWND)>* pending;
+    static std::vector<std::function<void(HWND)>>* pending;
+    static size_t next;
     running = &dialog;
-    pending = &drive;
-    SetTimer(nullptr, 0, 20, [](HWND, UINT, UINT_PTR id, DWORD) {
-        KillTimer(nullptr, id);
-        (*pending)(running->hwnd());
+    pending = &steps;
+    next = 0;
+    UINT_PTR timer = SetTimer(nullptr, 0, 50, [](HWND, UINT, UINT_PTR id, DWORD) {
+        if (next >= pending->size()) return;
+        (*pending)[next++](running->hwnd());
     });
-    return dialog.DoModal(nullptr);
+    INT_PTR result = dialog.DoModal(nullptr);
+    KillTimer(nullptr, timer);
+    return result;
 }
 
 class COptionDlgTest : public testing::Test {
@@ -274,7 +279,7 @@ TEST_F(COptionDlgTest, EnterAndEscapeAnywhereCloseTheWholeDialog) {
         SCOPED_TRACE(c.what);
         SetStart(std::nullopt);
         COptionDlg dialog(app_);
-        EXPECT_EQ(c.result, RunModal(dialog, [&](HWND window) { c.act(dialog, window); }));
+        EXPECT_EQ(c.result, RunModal(dialog, {[&](HWND window) { c.act(dialog, window); }}));
     }
 }
 
@@ -304,6 +309,31 @@ TEST_F(COptionDlgTest, HelpOpensTheManualPageOfTheSelection) {
         ASSERT_FALSE(fake_.processes().shellRequests().empty());
         EXPECT_EQ(expected, fake_.processes().shellRequests().back());
     }
+}
+
+// F1 as the keyboard gives it, to the dialog in the foreground with the focus in the tree.
+TEST_F(COptionDlgTest, F1InTheTreeAsksForHelp) {
+    SetStart(28);
+    COptionDlg dialog(app_);
+    auto press = [](WORD key, DWORD flags) {
+        INPUT input{};
+        input.type = INPUT_KEYBOARD;
+        input.ki.wVk = key;
+        input.ki.dwFlags = flags;
+        SendInput(1, &input, sizeof(input));
+    };
+    RunModal(dialog,
+             {[&](HWND window) {
+                  SetForegroundWindow(window);
+                  SetFocus(Tree(dialog));
+              },
+              [&](HWND) {
+                  press(VK_F1, 0);
+                  press(VK_F1, KEYEVENTF_KEYUP);
+              },
+              [](HWND) {}, [](HWND window) { PostMessageW(window, WM_COMMAND, MAKEWPARAM(IDCANCEL, BN_CLICKED), 0); }});
+    ASSERT_EQ(1u, fake_.processes().shellRequests().size());
+    EXPECT_EQ(L"C:\\Qor\\Manual\\7.Option\\2.List\\06.html", fake_.processes().shellRequests()[0].file);
 }
 
 }  // namespace

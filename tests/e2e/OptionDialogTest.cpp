@@ -1,0 +1,77 @@
+// The option dialog as the user and the host meet it: a window of the running Option.exe.
+#include <gtest/gtest.h>
+
+#include <windows.h>
+
+#include <commctrl.h>
+
+#include <string>
+
+#include "support/FakeHostProcess.h"
+#include "support/HostHandshake.h"
+#include "support/OptionWindow.h"
+#include "support/Process.h"
+#include "support/Registry.h"
+
+namespace {
+
+constexpr wchar_t kOptionPage[] = L"Software\\Tarnwick\\QOR\\Command\\Option\\OptionPage";
+constexpr int kTreeId = 1621;
+// Every row of the tree: the pages and groups the user can reach.
+constexpr LRESULT kTreeItems = 51;
+
+// Closes the dialog as its Cancel button would and gives the exit code.
+DWORD Cancel(e2e::Process& option, HWND dialog) {
+    PostMessageW(dialog, WM_COMMAND, MAKEWPARAM(IDCANCEL, BN_CLICKED), 0);
+    return option.WaitOrKill();
+}
+
+TEST(OptionDialog, AppearsWithItsTreeAndItsButtons) {
+    e2e::registry::ScopedKey key(kOptionPage);
+    e2e::registry::DeleteKey(kOptionPage);
+    e2e::Process option = e2e::StartOption();
+    ASSERT_TRUE(option);
+    HWND dialog = e2e::FindOptionDialog(option.Id());
+    ASSERT_NE(nullptr, dialog);
+
+    HWND tree = GetDlgItem(dialog, kTreeId);
+    ASSERT_NE(nullptr, tree);
+    EXPECT_TRUE(IsWindowVisible(tree));
+    EXPECT_EQ(kTreeItems, SendMessageW(tree, TVM_GETCOUNT, 0, 0));
+    EXPECT_NE(nullptr, reinterpret_cast<HTREEITEM>(SendMessageW(tree, TVM_GETNEXTITEM, TVGN_CARET, 0)));
+    for (int button : {IDOK, IDCANCEL, 1301}) {
+        SCOPED_TRACE(button);
+        EXPECT_TRUE(IsWindowVisible(GetDlgItem(dialog, button)));
+    }
+    EXPECT_EQ(1, SendMessageW(dialog, 0x8030, 0, 0)) << "the host's probe is answered";
+    EXPECT_EQ(0u, Cancel(option, dialog));
+}
+
+TEST(OptionDialog, CancelServesTheFolderRequestAndKeepsStart) {
+    e2e::registry::ScopedKey key(kOptionPage);
+    e2e::registry::WriteDword(kOptionPage, L"Start", 36);
+    e2e::registry::WriteString(kOptionPage, L"SetFolder", L"C:\\Work");
+    e2e::Process option = e2e::StartOption();
+    ASSERT_TRUE(option);
+    HWND dialog = e2e::FindOptionDialog(option.Id());
+    ASSERT_NE(nullptr, dialog);
+    EXPECT_EQ(L"", e2e::registry::ReadString(kOptionPage, L"SetFolder").value_or(L"<absent>"));
+
+    EXPECT_EQ(0u, Cancel(option, dialog));
+    EXPECT_EQ(L"", e2e::registry::ReadString(kOptionPage, L"SetFolder").value_or(L"<absent>"));
+    EXPECT_EQ(36u, e2e::registry::ReadDword(kOptionPage, L"Start").value_or(0));
+}
+
+// In window mode 3 the host's window owns the dialog, so the dialog stays above it.
+TEST(OptionDialog, InModeThreeTheHostOwnsIt) {
+    e2e::FakeHost host;
+    ASSERT_TRUE(host.Window());
+    e2e::Process option = e2e::StartOption({}, {e2e::HostSwitch(e2e::SwitchString(3, 0, 0, 0, 0, L"none"))});
+    ASSERT_TRUE(option);
+    HWND dialog = e2e::FindOptionDialog(option.Id());
+    ASSERT_NE(nullptr, dialog);
+    EXPECT_EQ(host.Window(), GetWindow(dialog, GW_OWNER));
+    EXPECT_EQ(0u, Cancel(option, dialog));
+}
+
+}  // namespace

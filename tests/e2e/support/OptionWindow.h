@@ -1,0 +1,12 @@
+// The option dialog of a running Option.exe, as another process finds and works it.
+#pragma once
+
+#include <windows.h>
+
+namespace e2e {
+
+// The visible top-level dialog titled "オプション" that the process shows; null when none appears in
+// time.
+HWND FindOptionDialog(DWORD processId, DWORD timeoutMs = 10000);
+
+}  // namespace e2e
