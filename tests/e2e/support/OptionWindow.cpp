@@ -8,6 +8,7 @@ namespace {
 
 struct Search {
     DWORD process;
+    const wchar_t* title;
     HWND found = nullptr;
 };
 
@@ -18,21 +19,26 @@ BOOL CALLBACK Visit(HWND window, LPARAM data) {
     if (owner != search->process || !IsWindowVisible(window)) return TRUE;
     wchar_t title[64] = {};
     GetWindowTextW(window, title, 64);
-    if (std::wstring(title) != L"オプション") return TRUE;
+    if (std::wstring(title) != search->title) return TRUE;
     search->found = window;
     return FALSE;
 }
 
 }  // namespace
 
-HWND FindOptionDialog(DWORD processId, DWORD timeoutMs) {
-    for (DWORD waited = 0; waited < timeoutMs; waited += 50) {
-        Search search{processId};
+HWND FindVisibleWindow(DWORD processId, const wchar_t* title, DWORD timeoutMs, DWORD pollMs) {
+    const DWORD start = GetTickCount();
+    for (;;) {
+        Search search{processId, title};
         EnumWindows(Visit, reinterpret_cast<LPARAM>(&search));
         if (search.found) return search.found;
-        Sleep(50);
+        if (GetTickCount() - start >= timeoutMs) return nullptr;
+        Sleep(pollMs);
     }
-    return nullptr;
+}
+
+HWND FindOptionDialog(DWORD processId, DWORD timeoutMs) {
+    return FindVisibleWindow(processId, L"オプション", timeoutMs);
 }
 
 }  // namespace e2e

@@ -5,6 +5,8 @@
 
 namespace e2e {
 
+// The visible top-level window titled title that the process shows; null when none appears in time.
+HWND FindVisibleWindow(DWORD processId, const wchar_t* title, DWORD timeoutMs = 10000, DWORD pollMs = 50);
 // The visible top-level dialog titled "オプション" that the process shows; null when none appears in
 // time.
 HWND FindOptionDialog(DWORD processId, DWORD timeoutMs = 10000);

@@ -1,0 +1,147 @@
+// How long the option dialog takes to be there, over a warm Wine: from process start until the
+// process waits for input and the dialog is visible, beside the floor, EmptyDialog.exe showing one
+// empty dialog of the same size. Then, in each run, how long switching to a page that was never
+// opened takes until the dialog is idle again, and for contrast switching back to one already open
+// and the wait for the idle dialog with nothing to do.
+// Run: wine dialog_benchmark.exe [runs]
+#include <windows.h>
+
+#include <algorithm>
+#include <cstdio>
+#include <string>
+#include <vector>
+
+#include "app/OptionPageTable.h"
+#include "support/OptionTree.h"
+#include "support/OptionWindow.h"
+#include "support/Process.h"
+
+namespace {
+
+constexpr DWORD kTimeoutMs = 20000;
+
+double Now() {
+    LARGE_INTEGER frequency, counter;
+    QueryPerformanceFrequency(&frequency);
+    QueryPerformanceCounter(&counter);
+    return 1000.0 * static_cast<double>(counter.QuadPart) / static_cast<double>(frequency.QuadPart);
+}
+
+struct Shown {
+    e2e::Process process;
+    HWND dialog = nullptr;
+    double ms = 0;
+};
+
+// Starts a program and times it until it waits for input with its dialog shown.
+Shown StartAndTime(const std::wstring& program, const wchar_t* title) {
+    Shown shown;
+    const double start = Now();
+    shown.process = e2e::Process::Start(program, {});
+    if (!shown.process) return shown;
+    WaitForInputIdle(shown.process.Handle(), kTimeoutMs);
+    // Polled finely so as not to round the times.
+    shown.dialog = e2e::FindVisibleWindow(shown.process.Id(), title, kTimeoutMs, 1);
+    shown.ms = Now() - start;
+    return shown;
+}
+
+bool Close(Shown& shown) {
+    if (!shown.dialog) return false;
+    PostMessageW(shown.dialog, WM_COMMAND, MAKEWPARAM(IDCANCEL, BN_CLICKED), 0);
+    return shown.process.Wait(kTimeoutMs).has_value();
+}
+
+// Selects each page of the tree once and times each switch until the dialog is idle again.
+std::vector<double> TimePageSwitches(const Shown& shown) {
+    std::vector<double> times;
+    HWND tree = GetDlgItem(shown.dialog, e2e::kOptionTreeId);
+    std::vector<HTREEITEM> items = e2e::ExpandAllTreeItems(tree);
+    e2e::WaitUntilDialogIdle(shown.dialog, shown.process.Handle());
+    const auto rows = OptionTreeRows();
+    HTREEITEM selected = e2e::NextTreeItem(tree, nullptr, TVGN_CARET);
+    for (size_t i = 0; i < items.size() && i < rows.size(); ++i) {
+        if (!IsPageId(rows[i].id) || items[i] == selected) continue;
+        const double start = Now();
+        SendMessageW(tree, TVM_SELECTITEM, TVGN_CARET, reinterpret_cast<LPARAM>(items[i]));
+        e2e::WaitUntilDialogIdle(shown.dialog, shown.process.Handle());
+        times.push_back(Now() - start);
+    }
+    return times;
+}
+
+// What waiting for the idle dialog costs by itself, with nothing to do: the floor of a switch.
+std::vector<double> TimeIdleProbes(const Shown& shown, int count) {
+    std::vector<double> times;
+    for (int i = 0; i < count; ++i) {
+        const double start = Now();
+        e2e::WaitUntilDialogIdle(shown.dialog, shown.process.Handle());
+        times.push_back(Now() - start);
+    }
+    return times;
+}
+
+struct Figures {
+    const char* what;
+    std::vector<double> times;
+
+    double Median() {
+        std::sort(times.begin(), times.end());
+        return times.empty() ? -1 : times[times.size() / 2];
+    }
+    double Print() {
+        double median = Median();
+        if (times.empty()) return median;
+        std::printf("%s, %zu times: min %.1f ms, median %.1f ms, max %.1f ms\n", what, times.size(), times.front(),
+                    median, times.back());
+        return median;
+    }
+};
+
+}  // namespace
+
+int wmain(int argc, wchar_t** argv) {
+    int runs = argc > 1 ? _wtoi(argv[1]) : 21;
+    if (runs < 1) runs = 1;
+    const std::wstring floorProgram = e2e::TestDirectory() + L"\\EmptyDialog.exe";
+    const std::wstring option = e2e::OptionExePath();
+
+    Figures floor{"empty dialog (floor)"}, dialog{"option dialog"};
+    Figures firstSwitch{"switch to a page never opened"}, againSwitch{"switch to a page already open"};
+    Figures idle{"waiting for the idle dialog alone"};
+    // The first run of each warms the caches and is not counted.
+    for (int i = 0; i <= runs; ++i) {
+        Shown empty = StartAndTime(floorProgram, L"Empty");
+        if (!Close(empty)) {
+            std::printf("the empty dialog did not show or did not end\n");
+            return 1;
+        }
+        Shown shown = StartAndTime(option, L"オプション");
+        if (!shown.dialog) {
+            std::printf("the option dialog did not show\n");
+            return 1;
+        }
+        std::vector<double> first = TimePageSwitches(shown);
+        std::vector<double> again = TimePageSwitches(shown);
+        std::vector<double> probes = TimeIdleProbes(shown, 10);
+        if (!Close(shown)) {
+            std::printf("the option dialog did not end on Cancel\n");
+            return 1;
+        }
+        if (i == 0) continue;
+        floor.times.push_back(empty.ms);
+        dialog.times.push_back(shown.ms);
+        firstSwitch.times.insert(firstSwitch.times.end(), first.begin(), first.end());
+        againSwitch.times.insert(againSwitch.times.end(), again.begin(), again.end());
+        idle.times.insert(idle.times.end(), probes.begin(), probes.end());
+    }
+    const double floorMs = floor.Print();
+    const double dialogMs = dialog.Print();
+    std::printf("option dialog over the floor: %.1f ms (ratio %.2f, target 1.30 or less)\n", dialogMs - floorMs,
+                dialogMs / floorMs);
+    const double switchMs = firstSwitch.Print();
+    std::printf("page switch to a new page: median %.1f ms (target under 30 ms)\n", switchMs);
+    againSwitch.Print();
+    idle.Print();
+    return 0;
+}

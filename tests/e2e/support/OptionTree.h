@@ -1,0 +1,51 @@
+// Working the option dialog's tree from another process: item handles are plain values there, so
+// walking, expanding and selecting need no memory in the other process.
+#pragma once
+
+#include <windows.h>
+
+#include <commctrl.h>
+
+#include <vector>
+
+namespace e2e {
+
+constexpr int kOptionTreeId = 1621;
+
+inline HTREEITEM NextTreeItem(HWND tree, HTREEITEM item, UINT how) {
+    return reinterpret_cast<HTREEITEM>(SendMessageW(tree, TVM_GETNEXTITEM, how, reinterpret_cast<LPARAM>(item)));
+}
+
+// Every item in the order the tree shows them, parents before children; expands each on the way.
+inline std::vector<HTREEITEM> ExpandAllTreeItems(HWND tree) {
+    std::vector<HTREEITEM> roots;
+    for (HTREEITEM root = NextTreeItem(tree, nullptr, TVGN_ROOT); root; root = NextTreeItem(tree, root, TVGN_NEXT)) {
+        roots.push_back(root);
+    }
+    std::vector<HTREEITEM> items;
+    std::vector<HTREEITEM> stack(roots.rbegin(), roots.rend());
+    while (!stack.empty()) {
+        HTREEITEM item = stack.back();
+        stack.pop_back();
+        items.push_back(item);
+        SendMessageW(tree, TVM_EXPAND, TVE_EXPAND, reinterpret_cast<LPARAM>(item));
+        std::vector<HTREEITEM> children;
+        for (HTREEITEM child = NextTreeItem(tree, item, TVGN_CHILD); child;
+             child = NextTreeItem(tree, child, TVGN_NEXT)) {
+            children.push_back(child);
+        }
+        stack.insert(stack.end(), children.rbegin(), children.rend());
+    }
+    return items;
+}
+
+// Returns once the dialog's thread has handled what it was sent, painted what it must and waits
+// for input again.
+inline void WaitUntilDialogIdle(HWND dialog, HANDLE process, DWORD timeoutMs = 10000) {
+    DWORD_PTR result = 0;
+    SendMessageTimeoutW(dialog, WM_NULL, 0, 0, SMTO_BLOCK, timeoutMs, &result);
+    RedrawWindow(dialog, nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
+    WaitForInputIdle(process, timeoutMs);
+}
+
+}  // namespace e2e

@@ -1,0 +1,120 @@
+// Takes a picture of the option dialog for every item of its tree: finds the dialog that a running
+// Option.exe shows, expands the tree, selects each item in turn and saves the dialog's rectangle of
+// the screen as <folder>\item-<id>.bmp. Ends the dialog with Cancel.
+// Run: wine ScreenshotDriver.exe <folder>
+#include <windows.h>
+
+#include <commctrl.h>
+
+#include <cstdio>
+#include <string>
+#include <vector>
+
+#include "app/OptionPageTable.h"
+#include "support/OptionTree.h"
+
+namespace {
+
+constexpr DWORD kFindTimeoutMs = 30000;
+// Lets the X server finish what the program drew before the screen is read.
+constexpr DWORD kSettleMs = 100;
+
+HWND FindDialog() {
+    for (DWORD waited = 0; waited < kFindTimeoutMs; waited += 50) {
+        HWND dialog = FindWindowW(nullptr, L"オプション");
+        if (dialog && IsWindowVisible(dialog)) return dialog;
+        Sleep(50);
+    }
+    return nullptr;
+}
+
+bool WriteBitmap(const std::wstring& path, const BITMAPINFOHEADER& info, const void* bits) {
+    const DWORD size = static_cast<DWORD>(info.biSizeImage);
+    BITMAPFILEHEADER file{};
+    file.bfType = 0x4D42;  // "BM"
+    file.bfOffBits = sizeof(file) + sizeof(info);
+    file.bfSize = file.bfOffBits + size;
+    HANDLE out = CreateFileW(path.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr);
+    if (out == INVALID_HANDLE_VALUE) return false;
+    DWORD written = 0;
+    bool ok = WriteFile(out, &file, sizeof(file), &written, nullptr) &&
+              WriteFile(out, &info, sizeof(info), &written, nullptr) && WriteFile(out, bits, size, &written, nullptr);
+    CloseHandle(out);
+    return ok;
+}
+
+// The dialog's window rectangle as the screen shows it, in 24-bit colour.
+bool CaptureWindow(HWND window, const std::wstring& path) {
+    RECT rect;
+    if (!GetWindowRect(window, &rect)) return false;
+    const int width = rect.right - rect.left;
+    const int height = rect.bottom - rect.top;
+    BITMAPINFO bitmap{};
+    BITMAPINFOHEADER& info = bitmap.bmiHeader;
+    info.biSize = sizeof(info);
+    info.biWidth = width;
+    info.biHeight = height;  // bottom-up, as a BMP file stores it
+    info.biPlanes = 1;
+    info.biBitCount = 24;
+    info.biCompression = BI_RGB;
+    info.biSizeImage = static_cast<DWORD>(((width * 3 + 3) & ~3) * height);
+
+    HDC screen = GetDC(nullptr);
+    HDC memory = CreateCompatibleDC(screen);
+    void* bits = nullptr;
+    HBITMAP dib = CreateDIBSection(screen, &bitmap, DIB_RGB_COLORS, &bits, nullptr, 0);
+    bool ok = false;
+    if (dib) {
+        HGDIOBJ old = SelectObject(memory, dib);
+        ok = BitBlt(memory, 0, 0, width, height, screen, rect.left, rect.top, SRCCOPY);
+        GdiFlush();
+        SelectObject(memory, old);
+        ok = ok && WriteBitmap(path, info, bits);
+        DeleteObject(dib);
+    }
+    DeleteDC(memory);
+    ReleaseDC(nullptr, screen);
+    return ok;
+}
+
+}  // namespace
+
+int wmain(int argc, wchar_t** argv) {
+    if (argc < 2) {
+        std::fprintf(stderr, "usage: ScreenshotDriver.exe <folder>\n");
+        return 2;
+    }
+    const std::wstring folder = argv[1];
+    HWND dialog = FindDialog();
+    if (!dialog) {
+        std::fprintf(stderr, "no option dialog appeared\n");
+        return 1;
+    }
+    DWORD processId = 0;
+    GetWindowThreadProcessId(dialog, &processId);
+    HANDLE process = OpenProcess(SYNCHRONIZE | PROCESS_QUERY_INFORMATION, FALSE, processId);
+    HWND tree = GetDlgItem(dialog, e2e::kOptionTreeId);
+
+    // Item data lives in the other process; the items come in the order of the table.
+    const auto rows = OptionTreeRows();
+    std::vector<HTREEITEM> items = e2e::ExpandAllTreeItems(tree);
+    if (items.size() != rows.size()) {
+        std::fprintf(stderr, "the tree has %zu items, %zu expected\n", items.size(), rows.size());
+    }
+    int failures = 0;
+    for (size_t i = 0; i < items.size() && i < rows.size(); ++i) {
+        SendMessageW(tree, TVM_SELECTITEM, TVGN_CARET, reinterpret_cast<LPARAM>(items[i]));
+        e2e::WaitUntilDialogIdle(dialog, process);
+        Sleep(kSettleMs);
+        const std::wstring path = folder + L"\\item-" + std::to_wstring(rows[i].id) + L".bmp";
+        if (CaptureWindow(dialog, path)) {
+            std::printf("item-%d.bmp\n", rows[i].id);
+        } else {
+            std::fprintf(stderr, "item %d: no picture (error %lu)\n", rows[i].id, GetLastError());
+            ++failures;
+        }
+    }
+    PostMessageW(dialog, WM_COMMAND, MAKEWPARAM(IDCANCEL, BN_CLICKED), 0);
+    if (process) CloseHandle(process);
+    return failures == 0 && items.size() == rows.size() ? 0 : 1;
+}
