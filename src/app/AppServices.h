@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "app/ApplyChain.h"
 #include "app/HostSwitches.h"
 #include "platform/ResourceLibrary.h"
 #include "services/DialogLanguage.h"
@@ -31,6 +32,8 @@ struct AppServices {
     std::wstring commandOptionRoot;
     // The folder the host asked the option dialog to open the folder settings on, served once.
     std::wstring setFolder;
+    // The codes Apply has recorded, kept while the process lives.
+    PendingChanges pendingChanges;
     // The mouse-button and modifier names of the option dialog's hidden labels, empty entries kept.
     std::vector<std::wstring> mouseButtonNames;
     std::vector<std::wstring> modifierNames;

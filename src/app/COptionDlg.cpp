@@ -168,14 +168,38 @@ bool COptionDlg::OnCommand(int id, int code) {
     return false;
 }
 
+// OK closes even when Apply refused: what the pages after the refusing one held is dropped.
 void COptionDlg::OnOK() {
     Apply();
-    ui::Dialog::OnOK();
+    ClosePages();
+    EndDialog(IDOK);
 }
 
-// The pages' own storing and the host's notification come in here; until then nothing is stored
-// and Start keeps its value.
-void COptionDlg::Apply() {}
+void COptionDlg::OnCancel() {
+    ClosePages();
+    EndDialog(IDCANCEL);
+}
+
+void COptionDlg::Apply() {
+    RunApply(*this, app_.pendingChanges, start_, app_.commandOptionRoot);
+}
+
+bool COptionDlg::Opened(int pageId) const {
+    OptionPage* page = Page(pageId);
+    return page && page->opened;
+}
+
+bool COptionDlg::ApplyPage(int pageId, PendingChanges& changes) {
+    return Page(pageId)->Apply(changes);
+}
+
+void COptionDlg::ClosePages() {
+    for (int id = 2; id <= 45; ++id) {
+        OptionPage* page = Page(id);
+        if (page && page->opened) page->DestroyWindow();
+    }
+    if (none_.opened) none_.DestroyWindow();
+}
 
 void COptionDlg::ShowHelp() {
     HTREEITEM item = tree_.GetSelectedItem();

@@ -10,6 +10,7 @@
 #include <memory>
 #include <vector>
 
+#include "app/ApplyChain.h"
 #include "app/COptionNoneDlg.h"
 #include "app/OptionPage.h"
 #include "app/OptionPageTable.h"
@@ -25,7 +26,7 @@ constexpr UINT kHostProbeMessage = 0x8030;
 // page with the page's template.
 std::unique_ptr<OptionPage> MakeOptionPage(const OptionPageInfo& page, AppServices& app);
 
-class COptionDlg : public ui::Dialog {
+class COptionDlg : public ui::Dialog, private ApplyPages {
 public:
     explicit COptionDlg(AppServices& app);
     ~COptionDlg() override;
@@ -44,6 +45,7 @@ protected:
     std::optional<LRESULT> OnMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
     bool OnInitDialog() override;
     void OnOK() override;
+    void OnCancel() override;
     bool OnCommand(int id, int code) override;
     std::optional<LRESULT> OnNotify(const NMHDR& header) override;
     void OnTimer(UINT_PTR id) override;
@@ -57,6 +59,10 @@ private:
     // The opened pages store their settings and the host is told; the one place OK and the Apply
     // button share.
     void Apply();
+    bool Opened(int pageId) const override;
+    bool ApplyPage(int pageId, PendingChanges& changes) override;
+    // Destroys the windows of the opened pages, the group pane last; their flags stay set.
+    void ClosePages();
 
     AppServices& app_;
     std::vector<std::unique_ptr<OptionPage>> pages_;

@@ -7,6 +7,7 @@
 
 #include <cstdint>
 
+#include "app/ApplyChain.h"
 #include "ui/Dialog.h"
 
 struct AppServices;
@@ -26,6 +27,10 @@ public:
     // Makes the page's window in the frame of the owner and loads it, the first time only; later
     // calls leave it as the user left it.
     void ShowPage(ui::Dialog& owner);
+    // The page's part of Apply: takes the controls back and, where the page has settings of its own,
+    // stores them and records the code that tells the host to reread them. False when a field or
+    // the page refused.
+    virtual bool Apply(PendingChanges& changes) { return UpdateData(true); }
 
 protected:
     // Reads the page's settings groups (or its own values) into their members before the controls

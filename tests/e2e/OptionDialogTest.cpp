@@ -75,3 +75,45 @@ TEST(OptionDialog, InModeThreeTheHostOwnsIt) {
 }
 
 }  // namespace
+
+namespace {
+
+// Selects the tree item of an id: the dialog shows it as the user would have chosen it.
+void SelectItem(HWND dialog, int index) {
+    HWND tree = GetDlgItem(dialog, kTreeId);
+    HTREEITEM item = reinterpret_cast<HTREEITEM>(SendMessageW(tree, TVM_GETNEXTITEM, TVGN_ROOT, 0));
+    for (int i = 0; i < index && item; ++i) {
+        item =
+            reinterpret_cast<HTREEITEM>(SendMessageW(tree, TVM_GETNEXTITEM, TVGN_NEXT, reinterpret_cast<LPARAM>(item)));
+    }
+    ASSERT_NE(nullptr, item);
+    SendMessageW(tree, TVM_SELECTITEM, TVGN_CARET, reinterpret_cast<LPARAM>(item));
+}
+
+// Apply with nothing that records a code: every host hears the empty series, and the selected
+// item becomes Start; a second Apply says it all again; OK closes after its own Apply.
+TEST(OptionDialog, ApplyTellsEveryHostAndStoresStart) {
+    e2e::registry::ScopedKey key(kOptionPage);
+    e2e::registry::WriteDword(kOptionPage, L"Start", 1000);
+    e2e::FakeHost first;
+    e2e::FakeHost second({.title = L"Qor 2"});
+    ASSERT_TRUE(first.Window());
+    ASSERT_TRUE(second.Window());
+    e2e::Process option = e2e::StartOption();
+    ASSERT_TRUE(option);
+    HWND dialog = e2e::FindOptionDialog(option.Id());
+    ASSERT_NE(nullptr, dialog);
+
+    SelectItem(dialog, 3);  // the fourth root, "インターフェイス"
+    SendMessageW(dialog, WM_COMMAND, MAKEWPARAM(1301, BN_CLICKED), 0);
+    EXPECT_EQ(1003u, e2e::registry::ReadDword(kOptionPage, L"Start").value_or(0));
+    SendMessageW(dialog, WM_COMMAND, MAKEWPARAM(1301, BN_CLICKED), 0);
+    PostMessageW(dialog, WM_COMMAND, MAKEWPARAM(IDOK, BN_CLICKED), 0);
+    EXPECT_EQ(0u, option.WaitOrKill());
+
+    const std::vector<unsigned> series = {48999, 49099, 48999, 49099, 48999, 49099};
+    EXPECT_EQ(series, first.Commands());
+    EXPECT_EQ(series, second.Commands());
+}
+
+}  // namespace
