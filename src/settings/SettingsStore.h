@@ -9,8 +9,14 @@
 
 #include "platform/Registry.h"
 #include "platform/LogFont.h"
+#include "settings/ApplicationValues.h"
 
-class SettingsStore {
+// The settings members come from one struct per section, so that pages name them as store().UsePing.
+class SettingsStore : public AppInfoValues,
+                      public SettingsSectionValues,
+                      public MouseValues,
+                      public EventValues,
+                      public SoundValues {
 public:
     // Where the sections live beneath HKEY_CURRENT_USER.
     static constexpr const wchar_t* kSectionRoot = L"Software\\Tarnwick\\QOR\\Main001\\";
@@ -38,10 +44,6 @@ public:
 
     const std::wstring& current_path() const { return currentPath_; }
 
-    // Settings read at start.
-    int32_t Alfa = 0;
-    int32_t DoubleBuffer = 0;
-    int32_t Message = 0;
     int32_t BkAlpha = 128;
     double DisplayFactor = 1.0;
 

@@ -1,0 +1,220 @@
+#include "settings/ApplicationGroups.h"
+
+#include <algorithm>
+#include <iterator>
+
+#include "settings/SettingRows.h"
+
+namespace {
+
+using S = SettingsStore;
+
+// Section "AppInfo".
+
+const SettingRow kGeneralRows[] = {
+    IntRow(L"DisableAnimation", &S::DisableAnimation, 0),
+    IntRow(L"UseCompFolder", &S::UseCompFolder, 1),
+    IntRow(L"CasheExCmd", &S::CasheExCmd, 0),
+    IntRow(L"DragHelper", &S::DragHelper, 1),
+    IntRow(L"ChgSortAlg", &S::ChgSortAlg, 10),
+    IntRow(L"ListReserveVal", &S::ListReserveVal, 100000, Saved::No),
+};
+
+const SettingRow kStartUpRows[] = {
+    IntRow(L"Alfa", &S::Alfa, 0, Saved::No),
+    IntRow(L"DoubleBuffer", &S::DoubleBuffer, 0, Saved::No),
+};
+
+const SettingRow kMessageRows[] = {
+    IntRow(L"Message", &S::Message, -1),
+};
+
+const SettingRow kCommonOperationRows[] = {
+    IntRow(L"InplaceRename", &S::InplaceRename, 1),
+    IntRow(L"DropFolder", &S::DropFolder, 1),
+    IntRow(L"CanDrag", &S::CanDrag, 1),
+    IntRow(L"DropExCommand0", &S::DropExCommand0, 0),
+    IntRow(L"DropExCommand1", &S::DropExCommand1, 0),
+    IntRow(L"SmartPaste", &S::SmartPaste, 1),
+};
+
+const SettingRow kIncrementalSearchRows[] = {
+    IntRow(L"IncliMentTime", &S::IncliMentTime, 1000), IntRow(L"UseMigemo", &S::UseMigemo, 0),
+    TextRow(L"MigemoDll", &S::MigemoDll, L""),         TextRow(L"MigemoDic", &S::MigemoDic, L""),
+    IntRow(L"MigemoMax", &S::MigemoMax, 2000),
+};
+
+const SettingRow kStandardCommandsRows[] = {
+    IntRow(L"StyleMode", &S::StyleMode, 0),
+    IntRow(L"ExitAction", &S::ExitAction, 0),
+    IntRow(L"DivTarget", &S::DivTarget, 1),
+    IntRow(L"AllPaneTarget", &S::AllPaneTarget, 0),
+};
+
+const SettingRow kNetworkRows[] = {
+    IntRow(L"UsePing", &S::UsePing, 0),
+    IntRow(L"NetworkTimeout", &S::NetworkTimeout, 500),
+    IntRow(L"NetworkRetry", &S::NetworkRetry, 3),
+    IntRow(L"NoNetwork", &S::NoNetwork, 0, Saved::No),
+};
+
+const SettingRow kVersionCheckRows[] = {
+    IntRow(L"VersionCheckDay", &S::VersionCheckDay, 7),
+    IntRow(L"VersionCheckBeta", &S::VersionCheckBeta, 0),
+    TextRow(L"VersionCheckTime", &S::VersionCheckTime, L""),
+};
+
+const SettingRow kTitleBarRows[] = {
+    IntRow(L"TitleBarType", &S::TitleBarType, 0),
+};
+
+// Section "Settings".
+
+const SettingRow kOtherRows[] = {
+    TextRow(L"UserDir", &S::UserDir, L""),          IntRow(L"UserDirMode", &S::UserDirMode, 0),
+    IntRow(L"DupMutex", &S::DupMutex, 0),           IntRow(L"Resident", &S::Resident, 0),
+    TextRow(L"NLS", &S::NLS, L".ja-JP", Saved::No), IntRow(L"MaxScript", &S::MaxScript, 5),
+    IntRow(L"EveryFront", &S::EveryFront, 0),
+};
+
+const SettingRow kImeRows[] = {
+    IntRow(L"IME", &S::IME, 1),
+};
+
+const SettingRow kKeyPageRows[] = {
+    IntRow(L"CheckMode", &S::CheckMode, 2, Saved::No),
+    IntRow(L"KeyLayout", &S::KeyLayout, 0, Saved::No),
+    IntRow(L"BarLock", &S::BarLock, 0, Saved::No),
+    IntRow(L"DefaultDrop", &S::DefaultDrop, 0, Saved::No),
+    IntRow(L"AutoSwitchAllocKeyTime", &S::AutoSwitchAllocKeyTime, 3000),
+    IntRow(L"AutoSwitchAllocKey", &S::AutoSwitchAllocKey, 0),
+};
+
+// Section "Mouse".
+
+const SettingRow kContextMenuRows[] = {
+    IntRow(L"ContextMenu", &S::ContextMenu, 0x33333333),
+};
+
+const SettingRow kGestureRows[] = {
+    IntRow(L"Gesture", &S::Gesture, 0),
+    IntRow(L"GestureCol", &S::GestureCol, 0xFF7F7F),
+    IntRow(L"GestureSensitivity", &S::GestureSensitivity, 5),
+    IntRow(L"TimeOut", &S::TimeOut, 0),
+};
+
+// Section "Event".
+
+const SettingRow kEventRows[] = {
+    TextRow(L"CmdInitInstance", &S::CmdInitInstance, L""),
+    TextRow(L"CmdExitInstance", &S::CmdExitInstance, L""),
+    TextRow(L"CmdDiskDel", &S::CmdDiskDel, L""),
+    TextRow(L"CmdDiskAdd", &S::CmdDiskAdd, L""),
+    TextRow(L"Cmd1Minute", &S::Cmd1Minute, L""),
+    TextRow(L"Cmd10Minute", &S::Cmd10Minute, L""),
+    TextRow(L"Cmd1Hour", &S::Cmd1Hour, L""),
+    TextRow(L"CmdDelete", &S::CmdDelete, L""),
+    TextRow(L"CmdPaste", &S::CmdPaste, L""),
+    TextRow(L"CmdDustBox", &S::CmdDustBox, L""),
+    TextRow(L"CmdRecent", &S::CmdRecent, L""),
+    TextRow(L"CmdComplete", &S::CmdComplete, L""),
+    TextRow(L"CmdListSelChange", &S::CmdListSelChange, L""),
+};
+
+// Section "Sound".
+
+const SettingRow kSoundRows[] = {
+    TextRow(L"SoundBooting", &S::SoundBooting, L""),
+    TextRow(L"SoundExit", &S::SoundExit, L""),
+    TextRow(L"SoundShellExec", &S::SoundShellExec, L""),
+    TextRow(L"SoundGuestureCursor", &S::SoundGuestureCursor, L""),
+    TextRow(L"SoundGuestureGo", &S::SoundGuestureGo, L""),
+    TextRow(L"SoundGuestureCancel", &S::SoundGuestureCancel, L""),
+    TextRow(L"SoundScript", &S::SoundScript, L""),
+    TextRow(L"SoundCommand", &S::SoundCommand, L""),
+    TextRow(L"SoundSelect", &S::SoundSelect, L""),
+    TextRow(L"SoundBarView", &S::SoundBarView, L""),
+    TextRow(L"SoundBarCmd", &S::SoundBarCmd, L""),
+    TextRow(L"SoundComplete", &S::SoundComplete, L""),
+    TextRow(L"SoundDelete", &S::SoundDelete, L""),
+    TextRow(L"SoundPaste", &S::SoundPaste, L""),
+    TextRow(L"SoundDustBox", &S::SoundDustBox, L""),
+    TextRow(L"SoundRecent", &S::SoundRecent, L""),
+};
+
+// The special steps beside the tables.
+
+// Load: bit n of ContextMenu becomes check n.
+void SplitContextMenu(SettingsStore& store) {
+    const auto bits = static_cast<uint32_t>(store.ContextMenu);
+    for (int n = 0; n < kContextMenuChecks; ++n) store.ContextMenuChecks[n] = (bits >> n) & 1;
+}
+
+// Save: the stored upper bits are dropped; only the checks survive.
+void JoinContextMenu(SettingsStore& store) {
+    auto bits = static_cast<uint32_t>(kContextMenuBase);
+    for (int n = 0; n < kContextMenuChecks; ++n)
+        if (store.ContextMenuChecks[n]) bits |= 1u << n;
+    store.ContextMenu = static_cast<int32_t>(bits);
+}
+
+// A group: its sections in the order they are read and written, and the steps around the rows.
+struct GroupDefinition {
+    AppGroup id;
+    std::span<const SectionRows> parts;
+    void (*afterLoad)(SettingsStore&) = nullptr;
+    void (*beforeSave)(SettingsStore&) = nullptr;
+};
+
+const SectionRows kGeneralParts[] = {{L"AppInfo", kGeneralRows}, {L"Settings", kImeRows}};
+const SectionRows kStartUpParts[] = {{L"AppInfo", kStartUpRows}};
+const SectionRows kMessageParts[] = {{L"AppInfo", kMessageRows}};
+const SectionRows kCommonOperationParts[] = {{L"AppInfo", kCommonOperationRows}};
+const SectionRows kIncrementalSearchParts[] = {{L"AppInfo", kIncrementalSearchRows}};
+const SectionRows kStandardCommandsParts[] = {{L"AppInfo", kStandardCommandsRows}};
+const SectionRows kNetworkParts[] = {{L"AppInfo", kNetworkRows}};
+const SectionRows kVersionCheckParts[] = {{L"AppInfo", kVersionCheckRows}};
+const SectionRows kTitleBarParts[] = {{L"AppInfo", kTitleBarRows}};
+const SectionRows kOtherParts[] = {{L"Settings", kOtherRows}};
+const SectionRows kKeyPageParts[] = {{L"Settings", kKeyPageRows}};
+const SectionRows kContextMenuParts[] = {{L"Mouse", kContextMenuRows}};
+const SectionRows kGestureParts[] = {{L"Mouse", kGestureRows}};
+const SectionRows kEventParts[] = {{L"Event", kEventRows}};
+const SectionRows kSoundParts[] = {{L"Sound", kSoundRows}};
+
+const GroupDefinition kGroups[] = {
+    {AppGroup::General, kGeneralParts},
+    {AppGroup::StartUp, kStartUpParts},
+    {AppGroup::Message, kMessageParts},
+    {AppGroup::CommonOperation, kCommonOperationParts},
+    {AppGroup::IncrementalSearch, kIncrementalSearchParts},
+    {AppGroup::StandardCommands, kStandardCommandsParts},
+    {AppGroup::Network, kNetworkParts},
+    {AppGroup::VersionCheck, kVersionCheckParts},
+    {AppGroup::TitleBar, kTitleBarParts},
+    {AppGroup::Other, kOtherParts},
+    {AppGroup::KeyPage, kKeyPageParts},
+    {AppGroup::ContextMenu, kContextMenuParts, SplitContextMenu, JoinContextMenu},
+    {AppGroup::Gesture, kGestureParts},
+    {AppGroup::Event, kEventParts},
+    {AppGroup::Sound, kSoundParts},
+};
+
+const GroupDefinition& Definition(AppGroup group) {
+    return *std::find_if(std::begin(kGroups), std::end(kGroups),
+                         [group](const GroupDefinition& definition) { return definition.id == group; });
+}
+
+}  // namespace
+
+void LoadGroup(SettingsStore& store, AppGroup group) {
+    const GroupDefinition& definition = Definition(group);
+    for (const SectionRows& part : definition.parts) LoadRows(store, part);
+    if (definition.afterLoad) definition.afterLoad(store);
+}
+
+void SaveGroup(SettingsStore& store, AppGroup group) {
+    const GroupDefinition& definition = Definition(group);
+    if (definition.beforeSave) definition.beforeSave(store);
+    for (const SectionRows& part : definition.parts) SaveRows(store, part);
+}
