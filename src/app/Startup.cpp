@@ -6,6 +6,7 @@
 #include "services/MessageIds.h"
 #include "services/PathHelpers.h"
 #include "services/ShareBlock.h"
+#include "settings/ApplicationGroups.h"
 
 namespace {
 
@@ -52,8 +53,7 @@ void Dispatch(AppServices& app, StartupTargets& targets, int effective, const st
         case kSwitchExRun:
         case kSwitchRun:
         case kSwitchCommands:
-            app.store.SelectSection(L"AppInfo");
-            app.store.Message = app.store.ReadInt(L"Message", -1);
+            LoadGroup(app.store, AppGroup::Message);
             targets.OpenEditor(effective, file);
             break;
         case kSwitchMenu:
@@ -95,9 +95,7 @@ void RunStartup(AppServices& app, StartupTargets& targets, const std::vector<std
     app.messages.SetPath(MessageFilePath(app.directories.ProgramDirectory(), LanguageTag()));
 
     CommandLine line = ParseCommandLine(arguments);
-    app.store.SelectSection(L"AppInfo");
-    app.store.Alfa = app.store.ReadInt(L"Alfa", 0);
-    app.store.DoubleBuffer = app.store.ReadInt(L"DoubleBuffer", 0);
+    LoadGroup(app.store, AppGroup::StartUp);
 
     int effective = EffectiveSwitch(line);
     if (effective == kSwitchAuto) effective = SwitchForDefinitionFile(line.file);
