@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "app/COptionDlg.h"
+#include "pages/COptionMessageDlg.h"
 
 namespace {
 
@@ -23,9 +24,10 @@ std::unique_ptr<OptionPage> MakeGeneric(const OptionPageInfo& page, AppServices&
     return std::make_unique<OptionPage>(page.templateId, app);
 }
 
-// Rows look like {36, &Make<COptionFolderSettingDlg>}.
 const std::vector<PageClass>& PageClasses() {
-    static const std::vector<PageClass> classes = {};
+    static const std::vector<PageClass> classes = {
+        {39, &Make<COptionMessageDlg>},
+    };
     return classes;
 }
 

@@ -39,6 +39,13 @@
 #define IDD_OPTION_NONE 160
 #define IDC_OPTION_NONE_TEXT 1401
 
+// The confirmation messages page.
+#define IDC_MESSAGE_CLEAR_ALL 1301
+#define IDC_MESSAGE_SET_ALL 1302
+#define IDC_MESSAGE_ADVANCED 1303
+#define IDC_MESSAGE_HEADERS 1402
+#define IDC_MESSAGE_LIST 1601
+
 // The pages of the option dialog.
 #define IDD_OPTION_SKIN 104
 #define IDD_OPTION_KEYSET 105

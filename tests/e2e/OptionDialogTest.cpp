@@ -172,3 +172,48 @@ TEST(OptionDialog, WritesItsTextFileAndReadsATranslation) {
 }
 
 }  // namespace
+
+namespace {
+
+constexpr wchar_t kAppInfo[] = L"Software\\Tarnwick\\QOR\\Main001\\AppInfo";
+
+// The page of the dialog that holds a control, found among the dialog's child windows.
+HWND PageWith(HWND dialog, int controlId) {
+    for (HWND child = FindWindowExW(dialog, nullptr, nullptr, nullptr); child;
+         child = FindWindowExW(dialog, child, nullptr, nullptr)) {
+        if (GetDlgItem(child, controlId)) return child;
+    }
+    return nullptr;
+}
+
+bool Checked(HWND list, int row) {
+    return (SendMessageW(list, LVM_GETITEMSTATE, row, LVIS_STATEIMAGEMASK) >> 12) == 2;
+}
+
+// The confirmation page: its rows follow the stored bits, a preset changes the checks, and Apply
+// stores them (higher bits kept) and tells the host to reread them.
+TEST(OptionDialog, ConfirmationPageStoresItsBitsAndTellsTheHost) {
+    e2e::registry::ScopedKey page(kOptionPage);
+    e2e::registry::ScopedKey appInfo(kAppInfo);
+    e2e::registry::WriteDword(kOptionPage, L"Start", 39);
+    e2e::registry::WriteDword(kAppInfo, L"Message", 0x12340005);
+    e2e::FakeHost host;
+    ASSERT_TRUE(host.Window());
+    e2e::Process option = e2e::StartOption();
+    ASSERT_TRUE(option);
+    HWND dialog = e2e::FindOptionDialog(option.Id());
+    ASSERT_NE(nullptr, dialog);
+    HWND confirmations = PageWith(dialog, 1601);
+    ASSERT_NE(nullptr, confirmations);
+    HWND list = GetDlgItem(confirmations, 1601);
+    ASSERT_EQ(15, SendMessageW(list, LVM_GETITEMCOUNT, 0, 0));
+    for (int row = 0; row < 15; ++row) EXPECT_EQ(row == 0 || row == 2, Checked(list, row)) << row;
+
+    SendMessageW(confirmations, WM_COMMAND, MAKEWPARAM(1303, BN_CLICKED), 0);
+    SendMessageW(dialog, WM_COMMAND, MAKEWPARAM(1301, BN_CLICKED), 0);
+    EXPECT_EQ(0x12344704u, e2e::registry::ReadDword(kAppInfo, L"Message").value_or(0));
+    EXPECT_EQ((std::vector<unsigned>{48999, 49036, 49099}), host.Commands());
+    EXPECT_EQ(0u, Cancel(option, dialog));
+}
+
+}  // namespace
