@@ -5,6 +5,7 @@
 
 #include "app/COptionDlg.h"
 #include "pages/COptionMessageDlg.h"
+#include "pages/COptionOverallStyleDlg.h"
 
 namespace {
 
@@ -26,6 +27,7 @@ std::unique_ptr<OptionPage> MakeGeneric(const OptionPageInfo& page, AppServices&
 
 const std::vector<PageClass>& PageClasses() {
     static const std::vector<PageClass> classes = {
+        {37, &Make<COptionOverallStyleDlg>},
         {39, &Make<COptionMessageDlg>},
     };
     return classes;

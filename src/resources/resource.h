@@ -39,6 +39,9 @@
 #define IDD_OPTION_NONE 160
 #define IDC_OPTION_NONE_TEXT 1401
 
+// The overall style page: the title bar forms, a radio group.
+#define IDC_TITLE_BAR_FIRST 1201
+
 // The confirmation messages page.
 #define IDC_MESSAGE_CLEAR_ALL 1301
 #define IDC_MESSAGE_SET_ALL 1302

@@ -217,3 +217,32 @@ TEST(OptionDialog, ConfirmationPageStoresItsBitsAndTellsTheHost) {
 }
 
 }  // namespace
+
+namespace {
+
+// The title bar form is taken by the host at its next start: stored, but the host hears only the
+// brackets of the series.
+TEST(OptionDialog, TitleBarFormIsStoredAndOnlyTheBracketsAreSent) {
+    e2e::registry::ScopedKey page(kOptionPage);
+    e2e::registry::ScopedKey appInfo(kAppInfo);
+    e2e::registry::WriteDword(kOptionPage, L"Start", 37);
+    e2e::registry::WriteDword(kAppInfo, L"TitleBarType", 0);
+    e2e::FakeHost host;
+    ASSERT_TRUE(host.Window());
+    e2e::Process option = e2e::StartOption();
+    ASSERT_TRUE(option);
+    HWND dialog = e2e::FindOptionDialog(option.Id());
+    ASSERT_NE(nullptr, dialog);
+    HWND style = PageWith(dialog, 1203);
+    ASSERT_NE(nullptr, style);
+    EXPECT_EQ(BST_CHECKED, SendMessageW(GetDlgItem(style, 1201), BM_GETCHECK, 0, 0));
+
+    SendMessageW(GetDlgItem(style, 1201), BM_SETCHECK, BST_UNCHECKED, 0);
+    SendMessageW(GetDlgItem(style, 1203), BM_SETCHECK, BST_CHECKED, 0);
+    PostMessageW(dialog, WM_COMMAND, MAKEWPARAM(IDOK, BN_CLICKED), 0);
+    EXPECT_EQ(0u, option.WaitOrKill());
+    EXPECT_EQ(2u, e2e::registry::ReadDword(kAppInfo, L"TitleBarType").value_or(0));
+    EXPECT_EQ((std::vector<unsigned>{48999, 49099}), host.Commands());
+}
+
+}  // namespace

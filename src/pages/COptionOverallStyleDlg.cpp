@@ -1,0 +1,28 @@
+#include "pages/COptionOverallStyleDlg.h"
+
+#include "app/AppServices.h"
+#include "resources/resource.h"
+#include "settings/ApplicationGroups.h"
+#include "ui/DataExchange.h"
+
+COptionOverallStyleDlg::COptionOverallStyleDlg(AppServices& app) : OptionPage(IDD_OPTION_OVERALL_STYLE, app) {}
+
+void COptionOverallStyleDlg::LoadGroups() {
+    LoadGroup(app().store, AppGroup::TitleBar);
+}
+
+void COptionOverallStyleDlg::DoDataExchange(ui::DataExchange& exchange) {
+    DDX_Radio(exchange, IDC_TITLE_BAR_FIRST, app().store.TitleBarType);
+}
+
+// Escape closes the whole dialog like on every page, and this page also ends itself as a dialog would.
+void COptionOverallStyleDlg::OnCancel() {
+    OptionPage::OnCancel();
+    EndDialog(IDCANCEL);
+}
+
+bool COptionOverallStyleDlg::Apply(PendingChanges&) {
+    if (!UpdateData(true)) return false;
+    SaveGroup(app().store, AppGroup::TitleBar);
+    return true;
+}
