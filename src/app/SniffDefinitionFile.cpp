@@ -11,10 +11,6 @@ namespace {
 
 constexpr size_t kLineBuffer = 32768;
 
-void RemoveAll(std::wstring& text, std::wstring_view piece) {
-    for (size_t at; (at = text.find(piece)) != std::wstring::npos;) text.erase(at, piece.size());
-}
-
 }  // namespace
 
 int SniffDefinitionFile(const std::wstring& path) {
@@ -27,8 +23,8 @@ int SniffDefinitionFile(const std::wstring& path) {
     int runCount = 0;
     std::wstring line;
     while (stream.ReadLine(line, kLineBuffer)) {
-        RemoveAll(line, L"\uFEFF");
-        RemoveAll(line, L"\r\n");
+        crt::Replace(line, L"\uFEFF", L"");
+        crt::Replace(line, L"\r\n", L"");
         std::replace(line.begin(), line.end(), L'\t', L' ');
         line = crt::Trim(line);
         if (line.empty() || line.starts_with(L"//")) continue;

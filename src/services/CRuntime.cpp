@@ -253,4 +253,13 @@ std::wstring MakeUpper(std::wstring_view text) {
     return result;
 }
 
+int Replace(std::wstring& text, std::wstring_view piece, std::wstring_view with) {
+    if (piece.empty()) return 0;
+    int count = 0;
+    for (size_t at = 0; (at = text.find(piece, at)) != std::wstring::npos; at += with.size(), ++count) {
+        text.replace(at, piece.size(), with);
+    }
+    return count;
+}
+
 }  // namespace crt

@@ -34,6 +34,10 @@ std::wstring Trim(std::wstring_view text);
 std::wstring TrimLeft(std::wstring_view text);
 std::wstring TrimRight(std::wstring_view text);
 
+// CString::Replace: every occurrence of piece, matched with case, in one pass from the left; an
+// empty piece changes nothing. Returns the number replaced.
+int Replace(std::wstring& text, std::wstring_view piece, std::wstring_view with);
+
 // CString::MakeLower / MakeUpper in the "C" locale: only A-Z and a-z change.
 std::wstring MakeLower(std::wstring_view text);
 std::wstring MakeUpper(std::wstring_view text);

@@ -26,19 +26,13 @@ constexpr std::pair<std::wstring_view, std::wstring_view> kEscapes[] = {
     {L"\t", L"\\t"},
 };
 
-void ReplaceAll(std::wstring& text, std::wstring_view piece, std::wstring_view with) {
-    for (size_t at = 0; (at = text.find(piece, at)) != std::wstring::npos; at += with.size()) {
-        text.replace(at, piece.size(), with);
-    }
-}
-
 std::wstring Escape(std::wstring text) {
-    for (const auto& [plain, escaped] : kEscapes) ReplaceAll(text, plain, escaped);
+    for (const auto& [plain, escaped] : kEscapes) crt::Replace(text, plain, escaped);
     return text;
 }
 
 std::wstring Unescape(std::wstring text) {
-    for (const auto& [plain, escaped] : kEscapes) ReplaceAll(text, escaped, plain);
+    for (const auto& [plain, escaped] : kEscapes) crt::Replace(text, escaped, plain);
     return text;
 }
 
@@ -89,8 +83,8 @@ bool ReadDialogText(const std::wstring& path, std::vector<DialogTextOperation>& 
     bool first = true;
     while (reader.ReadLine(buffer.data(), kLineLimit)) {
         std::wstring line = buffer.data();
-        ReplaceAll(line, L"\uFEFF", L"");
-        ReplaceAll(line, L"\r\n", L"");
+        crt::Replace(line, L"\uFEFF", L"");
+        crt::Replace(line, L"\r\n", L"");
         line = crt::Trim(line);
         if (line.starts_with(L"//")) continue;
         if (line == L"EOF") break;

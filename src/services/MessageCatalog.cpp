@@ -14,12 +14,6 @@ namespace {
 
 constexpr size_t kLineBuffer = 32768;
 
-void ReplaceAll(std::wstring& text, std::wstring_view piece, std::wstring_view with) {
-    for (size_t at = 0; (at = text.find(piece, at)) != std::wstring::npos; at += with.size()) {
-        text.replace(at, piece.size(), with);
-    }
-}
-
 }  // namespace
 
 std::wstring MessageFilePath(const std::wstring& programDirectory, const std::wstring& languageTag) {
@@ -35,10 +29,10 @@ int MessageCatalog::Load() {
     }
     std::wstring line;
     while (stream.ReadLine(line, kLineBuffer)) {
-        ReplaceAll(line, L"\uFEFF", L"");
-        ReplaceAll(line, L"\r\n", L"");
+        crt::Replace(line, L"\uFEFF", L"");
+        crt::Replace(line, L"\r\n", L"");
         // The escape goes before the trim, so a line break at either end of a text is lost.
-        ReplaceAll(line, L"\\n", L"\n");
+        crt::Replace(line, L"\\n", L"\n");
         line = crt::Trim(line);
         if (line.starts_with(L"//")) continue;
         if (line == L"EOF") break;

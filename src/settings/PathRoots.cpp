@@ -29,29 +29,37 @@ std::vector<Row> TokenRows(UserDirectories& directories) {
 
 // "%USERPROFILE%" stands twice, as it always has.
 constexpr const wchar_t* kEnvironmentNames[] = {
-    L"%COMPUTERNAME%",     L"%ComSpec%",           L"%HOMEDRIVE%",
-    L"%HOMEPATH%",         L"%USERPROFILE%",       L"%OS%",
-    L"%SystemDrive%",      L"%SystemRoot%",        L"%TMP%",
-    L"%TEMP%",             L"%windir%",            L"%ALLUSERSPROFILE%",
-    L"%APPDATA%",          L"%LOGONSERVER%",       L"%PSModulePath%",
-    L"%PUBLIC%",           L"%SESSIONNAME%",       L"%USERDOMAIN%",
-    L"%username%",         L"%USERPROFILE%",       L"%CommonProgramFiles%",
-    L"%CommonProgramFiles(x86)%", L"%ProgramFiles%", L"%ProgramFiles(x86)%",
+    L"%COMPUTERNAME%",
+    L"%ComSpec%",
+    L"%HOMEDRIVE%",
+    L"%HOMEPATH%",
+    L"%USERPROFILE%",
+    L"%OS%",
+    L"%SystemDrive%",
+    L"%SystemRoot%",
+    L"%TMP%",
+    L"%TEMP%",
+    L"%windir%",
+    L"%ALLUSERSPROFILE%",
+    L"%APPDATA%",
+    L"%LOGONSERVER%",
+    L"%PSModulePath%",
+    L"%PUBLIC%",
+    L"%SESSIONNAME%",
+    L"%USERDOMAIN%",
+    L"%username%",
+    L"%USERPROFILE%",
+    L"%CommonProgramFiles%",
+    L"%CommonProgramFiles(x86)%",
+    L"%ProgramFiles%",
+    L"%ProgramFiles(x86)%",
 };
-
-// CString::Replace: every occurrence, matched with case; an empty piece changes nothing.
-void ReplaceAll(std::wstring& text, const std::wstring& piece, const std::wstring& with) {
-    if (piece.empty()) return;
-    for (size_t at = 0; (at = text.find(piece, at)) != std::wstring::npos; at += with.size()) {
-        text.replace(at, piece.size(), with);
-    }
-}
 
 }  // namespace
 
 std::wstring ExpandDirectoryMacros(const std::wstring& text, UserDirectories& directories) {
     std::wstring expanded = ExpandEnvironment(text);
-    for (const Row& row : TokenRows(directories)) ReplaceAll(expanded, row.first, row.second);
+    for (const Row& row : TokenRows(directories)) crt::Replace(expanded, row.first, row.second);
     return expanded;
 }
 
@@ -61,7 +69,7 @@ std::wstring TextToMacroPath(const std::wstring& text, UserDirectories& director
     for (const Row& row : TokenRows(directories)) {
         size_t at = lowered.find(crt::MakeLower(row.second));
         if (at == std::wstring::npos) continue;
-        ReplaceAll(result, text.substr(at, row.second.size()), row.first);
+        crt::Replace(result, text.substr(at, row.second.size()), row.first);
         break;
     }
     return TextToEnvironmentPath(result);
@@ -77,7 +85,7 @@ std::wstring TextToEnvironmentPath(const std::wstring& text) {
         std::wstring lowered = crt::MakeLower(result);
         for (size_t at; (at = lowered.find(row.second)) != std::wstring::npos;) {
             std::wstring before = result;
-            ReplaceAll(result, result.substr(at, row.second.size()), row.first);
+            crt::Replace(result, result.substr(at, row.second.size()), row.first);
             // A row that cannot change the text (an undefined name already written as itself, an
             // empty value) would be found again for ever: go on with the next one.
             if (result == before) break;

@@ -167,3 +167,32 @@ TEST(CRuntime, CaseFoldingTouchesOnlyAsciiLetters) {
 }
 
 }  // namespace
+
+namespace {
+
+TEST(CRuntime, ReplaceIsOnePassFromTheLeft) {
+    struct Case {
+        std::wstring text;
+        std::wstring piece;
+        std::wstring with;
+        std::wstring expected;
+        int count;
+    };
+    const Case cases[] = {
+        {L"a\r\nb\r\n", L"\r\n", L"", L"ab", 2},
+        // Removing the inner pair leaves a new one that stays, as in one left-to-right pass.
+        {L"\r\r\n\n", L"\r\n", L"", L"\r\n", 1},
+        {L"aaa", L"aa", L"b", L"ba", 1},
+        {L"%x%", L"%x%", L"%x%", L"%x%", 1},
+        {L"abc", L"", L"z", L"abc", 0},
+        {L"ABC", L"b", L"z", L"ABC", 0},
+        {L"x", L"x", L"xx", L"xx", 1},
+    };
+    for (const auto& c : cases) {
+        std::wstring text = c.text;
+        EXPECT_EQ(c.count, crt::Replace(text, c.piece, c.with)) << testing::PrintToString(c.text);
+        EXPECT_EQ(c.expected, text) << testing::PrintToString(c.text);
+    }
+}
+
+}  // namespace
