@@ -4,8 +4,11 @@
 #include <vector>
 
 #include "app/COptionDlg.h"
+#include "pages/COptionAppInfoDlg.h"
 #include "pages/COptionMessageDlg.h"
+#include "pages/COptionNetworkDlg.h"
 #include "pages/COptionOverallStyleDlg.h"
+#include "pages/COptionVersionCheckDlg.h"
 
 namespace {
 
@@ -27,6 +30,9 @@ std::unique_ptr<OptionPage> MakeGeneric(const OptionPageInfo& page, AppServices&
 
 const std::vector<PageClass>& PageClasses() {
     static const std::vector<PageClass> classes = {
+        {20, &Make<COptionAppInfoDlg>},
+        {30, &Make<COptionNetworkDlg>},
+        {34, &Make<COptionVersionCheckDlg>},
         {37, &Make<COptionOverallStyleDlg>},
         {39, &Make<COptionMessageDlg>},
     };

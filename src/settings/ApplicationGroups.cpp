@@ -61,7 +61,8 @@ const SettingRow kNetworkRows[] = {
 const SettingRow kVersionCheckRows[] = {
     IntRow(L"VersionCheckDay", &S::VersionCheckDay, 7),
     IntRow(L"VersionCheckBeta", &S::VersionCheckBeta, 0),
-    TextRow(L"VersionCheckTime", &S::VersionCheckTime, L""),
+    // The page's reset writes it at once; Apply leaves it to the host, which stamps each check.
+    TextRow(L"VersionCheckTime", &S::VersionCheckTime, L"", Saved::No),
 };
 
 const SettingRow kTitleBarRows[] = {

@@ -85,7 +85,7 @@ std::vector<GroupCase> Groups() {
         {"version check",
          AppGroup::VersionCheck,
          {Int(app, L"VersionCheckDay", &S::VersionCheckDay, 7), Int(app, L"VersionCheckBeta", &S::VersionCheckBeta, 0),
-          Text(app, L"VersionCheckTime", &S::VersionCheckTime)}},
+          Text(app, L"VersionCheckTime", &S::VersionCheckTime, L"", kNotSaved)}},
         {"title bar", AppGroup::TitleBar, {Int(app, L"TitleBarType", &S::TitleBarType, 0)}},
         {"other",
          AppGroup::Other,

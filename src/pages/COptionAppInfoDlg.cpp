@@ -1,0 +1,49 @@
+#include "pages/COptionAppInfoDlg.h"
+
+#include "app/AppServices.h"
+#include "pages/SortBenchmark.h"
+#include "resources/resource.h"
+#include "settings/ApplicationGroups.h"
+#include "ui/DataExchange.h"
+
+namespace {
+
+constexpr uint16_t kAppInfoChanged = 49017;
+constexpr uint32_t kMaxSortThreshold = 10000;
+
+}  // namespace
+
+COptionAppInfoDlg::COptionAppInfoDlg(AppServices& app) : OptionPage(IDD_OPTION_APPINFO, app) {}
+
+void COptionAppInfoDlg::LoadGroups() {
+    LoadGroup(app().store, AppGroup::General);
+}
+
+void COptionAppInfoDlg::DoDataExchange(ui::DataExchange& exchange) {
+    SettingsStore& store = app().store;
+    DDX_Check(exchange, IDC_APPINFO_USE_COMP_FOLDER, store.UseCompFolder);
+    DDX_Check(exchange, IDC_APPINFO_DISABLE_ANIMATION, store.DisableAnimation);
+    DDX_Check(exchange, IDC_APPINFO_CACHE_COMMANDS, store.CasheExCmd);
+    DDX_Check(exchange, IDC_APPINFO_IME_OFF, store.IME);
+    DDX_Check(exchange, IDC_APPINFO_DRAG_HELPER, store.DragHelper);
+    uint32_t threshold = static_cast<uint32_t>(store.ChgSortAlg);
+    DDX_Text(exchange, IDC_APPINFO_SORT_THRESHOLD, threshold);
+    DDV_MinMaxUInt(exchange, threshold, 0, kMaxSortThreshold);
+    store.ChgSortAlg = static_cast<int32_t>(threshold);
+}
+
+// The benchmark blocks the dialog for as long as it runs; the template warns of that. Its result
+// shows in the field and is stored only by Apply.
+bool COptionAppInfoDlg::OnCommand(int id, int code) {
+    if (id != IDC_APPINFO_BENCHMARK || code != BN_CLICKED) return false;
+    sortbench::RunSortBenchmark({.threshold = app().store.ChgSortAlg});
+    UpdateData(false);
+    return true;
+}
+
+bool COptionAppInfoDlg::Apply(PendingChanges& changes) {
+    if (!UpdateData(true)) return false;
+    SaveGroup(app().store, AppGroup::General);
+    changes.Record(kAppInfoChanged);
+    return true;
+}

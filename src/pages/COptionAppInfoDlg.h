@@ -1,0 +1,17 @@
+// The general page: how the host behaves at large, and the threshold of its list sort with the
+// benchmark that finds the best one on this machine.
+#pragma once
+
+#include "app/OptionPage.h"
+
+class COptionAppInfoDlg : public OptionPage {
+public:
+    explicit COptionAppInfoDlg(AppServices& app);
+
+    bool Apply(PendingChanges& changes) override;
+
+protected:
+    void LoadGroups() override;
+    bool OnCommand(int id, int code) override;
+    void DoDataExchange(ui::DataExchange& exchange) override;
+};

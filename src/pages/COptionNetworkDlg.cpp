@@ -1,0 +1,49 @@
+#include "pages/COptionNetworkDlg.h"
+
+#include "app/AppServices.h"
+#include "resources/resource.h"
+#include "settings/ApplicationGroups.h"
+#include "ui/Button.h"
+#include "ui/DataExchange.h"
+
+namespace {
+
+constexpr uint16_t kNetworkChanged = 49021;
+
+}  // namespace
+
+COptionNetworkDlg::COptionNetworkDlg(AppServices& app) : OptionPage(IDD_OPTION_NETWORK, app) {}
+
+void COptionNetworkDlg::LoadGroups() {
+    LoadGroup(app().store, AppGroup::Network);
+}
+
+void COptionNetworkDlg::DoDataExchange(ui::DataExchange& exchange) {
+    SettingsStore& store = app().store;
+    DDX_Check(exchange, IDC_NETWORK_USE_PING, store.UsePing);
+    DDX_Text(exchange, IDC_NETWORK_TIMEOUT, store.NetworkTimeout);
+    DDV_MinMaxInt(exchange, store.NetworkTimeout, 10, 5000000);
+    DDX_Text(exchange, IDC_NETWORK_RETRY, store.NetworkRetry);
+    DDV_MinMaxInt(exchange, store.NetworkRetry, 1, 100);
+    if (!exchange.saving()) EnablePingFields();
+}
+
+// The time-out and the retries mean something only when the host pings.
+void COptionNetworkDlg::EnablePingFields() const {
+    const bool ping = ui::Button(Item(IDC_NETWORK_USE_PING)).IsChecked();
+    EnableWindow(Item(IDC_NETWORK_TIMEOUT), ping);
+    EnableWindow(Item(IDC_NETWORK_RETRY), ping);
+}
+
+bool COptionNetworkDlg::OnCommand(int id, int code) {
+    if (id != IDC_NETWORK_USE_PING || code != BN_CLICKED) return false;
+    EnablePingFields();
+    return true;
+}
+
+bool COptionNetworkDlg::Apply(PendingChanges& changes) {
+    if (!UpdateData(true)) return false;
+    SaveGroup(app().store, AppGroup::Network);
+    changes.Record(kNetworkChanged);
+    return true;
+}
