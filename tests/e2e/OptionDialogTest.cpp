@@ -177,15 +177,6 @@ namespace {
 
 constexpr wchar_t kAppInfo[] = L"Software\\Tarnwick\\QOR\\Main001\\AppInfo";
 
-// The page of the dialog that holds a control, found among the dialog's child windows.
-HWND PageWith(HWND dialog, int controlId) {
-    for (HWND child = FindWindowExW(dialog, nullptr, nullptr, nullptr); child;
-         child = FindWindowExW(dialog, child, nullptr, nullptr)) {
-        if (GetDlgItem(child, controlId)) return child;
-    }
-    return nullptr;
-}
-
 bool Checked(HWND list, int row) {
     return (SendMessageW(list, LVM_GETITEMSTATE, row, LVIS_STATEIMAGEMASK) >> 12) == 2;
 }
@@ -203,7 +194,7 @@ TEST(OptionDialog, ConfirmationPageStoresItsBitsAndTellsTheHost) {
     ASSERT_TRUE(option);
     HWND dialog = e2e::FindOptionDialog(option.Id());
     ASSERT_NE(nullptr, dialog);
-    HWND confirmations = PageWith(dialog, 1601);
+    HWND confirmations = e2e::PageWith(dialog, 1601);
     ASSERT_NE(nullptr, confirmations);
     HWND list = GetDlgItem(confirmations, 1601);
     ASSERT_EQ(15, SendMessageW(list, LVM_GETITEMCOUNT, 0, 0));
@@ -233,7 +224,7 @@ TEST(OptionDialog, TitleBarFormIsStoredAndOnlyTheBracketsAreSent) {
     ASSERT_TRUE(option);
     HWND dialog = e2e::FindOptionDialog(option.Id());
     ASSERT_NE(nullptr, dialog);
-    HWND style = PageWith(dialog, 1203);
+    HWND style = e2e::PageWith(dialog, 1203);
     ASSERT_NE(nullptr, style);
     EXPECT_EQ(BST_CHECKED, SendMessageW(GetDlgItem(style, 1201), BM_GETCHECK, 0, 0));
 

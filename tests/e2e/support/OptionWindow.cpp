@@ -41,4 +41,12 @@ HWND FindOptionDialog(DWORD processId, DWORD timeoutMs) {
     return FindVisibleWindow(processId, L"オプション", timeoutMs);
 }
 
+HWND PageWith(HWND dialog, int controlId) {
+    for (HWND child = FindWindowExW(dialog, nullptr, nullptr, nullptr); child;
+         child = FindWindowExW(dialog, child, nullptr, nullptr)) {
+        if (GetDlgItem(child, controlId)) return child;
+    }
+    return nullptr;
+}
+
 }  // namespace e2e

@@ -10,5 +10,7 @@ HWND FindVisibleWindow(DWORD processId, const wchar_t* title, DWORD timeoutMs = 
 // The visible top-level dialog titled "オプション" that the process shows; null when none appears in
 // time.
 HWND FindOptionDialog(DWORD processId, DWORD timeoutMs = 10000);
+// The page of the dialog that holds a control, found among the dialog's child windows.
+HWND PageWith(HWND dialog, int controlId);
 
 }  // namespace e2e
