@@ -1,129 +1,25 @@
-// The option dialog with its real templates and windows; registry, files, prompts, launches and host
-// windows are the fakes', so each test starts from a clean slate and sees every message box.
+// The option dialog itself: its tree, its pages made on demand, closing, help.
 #include <gtest/gtest.h>
 #include <windows.h>
-
-#include <commctrl.h>
 
 #include <functional>
 #include <optional>
 #include <string>
 #include <vector>
 
-#include "app/AppServices.h"
-#include "app/COptionDlg.h"
-#include "app/OptionPageTable.h"
-#include "app/Startup.h"
-#include "platform/fake/FakePlatform.h"
-#include "resources/resource.h"
-#include "settings/SettingsStore.h"
-#include "ui/TreeView.h"
+#include "win32/support/OptionDialogFixture.h"
 
 namespace {
 
-constexpr const wchar_t* kProgram = L"C:\\Qor\\command\\Option\\Option.exe";
+using namespace optiontest;
 
-std::wstring TextOf(HWND window) {
-    wchar_t buffer[1024] = {};
-    GetWindowTextW(window, buffer, 1024);
-    return buffer;
-}
-
-HWND Tree(const COptionDlg& dialog) {
-    return dialog.Item(IDC_OPTION_TREE);
-}
-
-// The tree item whose data is id, searched depth first; null when there is none.
-HTREEITEM FindItem(const ui::TreeView& tree, HTREEITEM first, int id) {
-    for (HTREEITEM item = first; item; item = tree.GetNextSiblingItem(item)) {
-        if (tree.GetItemData(item) == id) return item;
-        if (HTREEITEM found = FindItem(tree, tree.GetChildItem(item), id)) return found;
-    }
-    return nullptr;
-}
-
-void Select(const COptionDlg& dialog, int id) {
-    ui::TreeView tree(Tree(dialog));
-    HTREEITEM item = FindItem(tree, tree.GetRootItem(), id);
-    ASSERT_NE(nullptr, item) << "no item " << id;
-    tree.SelectItem(item);
-}
-
-std::wstring SelectedLabel(const COptionDlg& dialog) {
-    ui::TreeView tree(Tree(dialog));
-    HTREEITEM item = tree.GetSelectedItem();
-    return item ? tree.GetItemText(item) : L"<none>";
-}
-
-std::vector<int> OpenedPages(const COptionDlg& dialog) {
-    std::vector<int> ids;
-    auto pages = OptionPages();
-    for (size_t i = 0; i < pages.size(); ++i) {
-        if (dialog.Pages()[i]->opened) ids.push_back(pages[i].id);
-    }
-    return ids;
-}
-
-RECT ScreenRect(HWND window) {
-    RECT rect{};
-    GetWindowRect(window, &rect);
-    return rect;
-}
+class COptionDlgTest : public OptionDialogFixture {};
 
 // A single-line edit put into a page, as a page of its own would have.
 HWND AddEdit(HWND page) {
     return CreateWindowExW(0, L"Edit", L"", WS_CHILD | WS_VISIBLE | WS_TABSTOP, 0, 0, 100, 20, page,
                            reinterpret_cast<HMENU>(100), GetModuleHandleW(nullptr), nullptr);
 }
-
-// Runs the dialog modally; once the modal loop runs, each step gets the dialog's window in turn,
-// the next one after what the one before posted has been handled.
-INT_PTR RunModal(COptionDlg& dialog, std::vector<std::function<void(HWND)>> steps) {
-    static COptionDlg* running;
-    static std::vector<std::function<void(HWND)>>* pending;
-    static size_t next;
-    running = &dialog;
-    pending = &steps;
-    next = 0;
-    UINT_PTR timer = SetTimer(nullptr, 0, 50, [](HWND, UINT, UINT_PTR id, DWORD) {
-        if (next >= pending->size()) return;
-        (*pending)[next++](running->hwnd());
-    });
-    INT_PTR result = dialog.DoModal(nullptr);
-    KillTimer(nullptr, timer);
-    return result;
-}
-
-class COptionDlgTest : public testing::Test {
-protected:
-    void SetUp() override {
-        INITCOMMONCONTROLSEX controls{sizeof(controls), ICC_WIN95_CLASSES};
-        InitCommonControlsEx(&controls);
-        fake_.environment().SetModuleFileName(kProgram);
-        app_.commandOptionRoot = CommandOptionRootPath();
-    }
-
-    std::wstring PageKey() const { return app_.commandOptionRoot + L"\\OptionPage"; }
-
-    void SetStart(std::optional<int> start) {
-        fake_.registry().DeleteKey(PageKey());
-        if (start) DirectWriteInt(PageKey(), L"Start", *start);
-    }
-
-    // A dialog text file for the option dialog in a language other than the templates' own.
-    void Translate(const std::wstring& text) {
-        DirectWriteString(kDirectSettingsPath, L"NLS", L".en-US");
-        std::vector<uint8_t> bytes = {0xFF, 0xFE};
-        for (wchar_t unit : text) {
-            bytes.push_back(static_cast<uint8_t>(unit & 0xFF));
-            bytes.push_back(static_cast<uint8_t>(unit >> 8));
-        }
-        fake_.files().AddFile(L"C:\\Qor\\command\\Option\\.en-US\\Option\\159.txt", bytes);
-    }
-
-    platform::fake::FakePlatform fake_;
-    AppServices app_{96};
-};
 
 TEST_F(COptionDlgTest, OpensOnTheStartItemAndCreatesOnlyWhatItShows) {
     struct Case {
