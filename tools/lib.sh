@@ -66,10 +66,23 @@ stage() {
 }
 
 XVFB_PID=""
+# A display whose server is gone (or a zombie nobody reaps) leaves its lock and socket behind; they
+# would keep the number taken for ever.
+clear_stale_display() {
+  local n=$1 lock="/tmp/.X$1-lock" pid state
+  [ -e "$lock" ] || return 0
+  pid=$(tr -d ' ' <"$lock" 2>/dev/null)
+  state=$(sed -n 's/^State:[[:space:]]*\([A-Z]\).*/\1/p' "/proc/$pid/status" 2>/dev/null)
+  if [ -z "$state" ] || [ "$state" = Z ]; then
+    rm -f "$lock" "/tmp/.X11-unix/X$n" 2>/dev/null || true
+  fi
+}
+
 start_display() {
   if [ -n "${DISPLAY:-}" ] && xdpyinfo >/dev/null 2>&1; then return 0; fi
   local n
-  for n in $(seq 90 120); do
+  for n in $(seq 90 160); do
+    clear_stale_display "$n"
     [ -e "/tmp/.X11-unix/X$n" ] || [ -e "/tmp/.X$n-lock" ] && continue
     Xvfb ":$n" -screen 0 1280x1024x24 -nolisten tcp >/dev/null 2>&1 &
     XVFB_PID=$!
