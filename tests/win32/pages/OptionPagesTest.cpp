@@ -1,0 +1,196 @@
+// The small pages as a user works them in the dialog: what they show of the stored settings, what
+// their buttons do, and what Apply stores and tells the host.
+#include <gtest/gtest.h>
+#include <windows.h>
+
+#include <string>
+#include <vector>
+
+#include "win32/support/OptionDialogFixture.h"
+
+namespace {
+
+using namespace optiontest;
+
+constexpr const wchar_t* kAppInfo = L"Software\\Tarnwick\\QOR\\Main001\\AppInfo";
+constexpr const wchar_t* kSettings = L"Software\\Tarnwick\\QOR\\Main001\\Settings";
+constexpr platform::WindowRef kHost = 0x1234;
+constexpr int kApply = 1301;
+
+class OptionPagesTest : public OptionDialogFixture {
+protected:
+    void SetUp() override {
+        OptionDialogFixture::SetUp();
+        fake_.windows().AddHostWindow(kHost);
+    }
+
+    // The dialog opened on the page, and the page's window.
+    HWND Open(COptionDlg& dialog, int page) {
+        SetStart(page);
+        if (!dialog.Create(nullptr)) return nullptr;
+        return dialog.Page(page) ? dialog.Page(page)->hwnd() : nullptr;
+    }
+
+    // What the host heard, without the brackets of each series.
+    std::vector<uint16_t> Codes() {
+        std::vector<uint16_t> codes;
+        for (const platform::fake::SentCommand& sent : fake_.windows().commands()) {
+            if (sent.id != 48999 && sent.id != 49099) codes.push_back(sent.id);
+        }
+        return codes;
+    }
+
+    std::vector<std::wstring> Messages() {
+        std::vector<std::wstring> texts;
+        for (const platform::fake::ShownMessage& shown : fake_.prompts().shown()) texts.push_back(shown.text);
+        return texts;
+    }
+
+    std::wstring Field(HWND page, int id) const { return TextOf(GetDlgItem(page, id)); }
+    void Type(HWND page, int id, const wchar_t* text) const { SetWindowTextW(GetDlgItem(page, id), text); }
+    bool Checked(HWND page, int id) const { return IsDlgButtonChecked(page, id) == BST_CHECKED; }
+    bool Enabled(HWND page, int id) const { return IsWindowEnabled(GetDlgItem(page, id)) != FALSE; }
+    // As the user's click arrives: the check changes, then the page hears of it.
+    void Click(HWND page, int id) const { SendMessageW(GetDlgItem(page, id), BM_CLICK, 0, 0); }
+    void Apply(COptionDlg& dialog) const { SendMessageW(dialog.hwnd(), WM_COMMAND, MAKEWPARAM(kApply, BN_CLICKED), 0); }
+};
+
+// A field out of range refuses Apply with the framework's words: nothing is stored and the host is
+// told nothing, although the value showed as it was stored.
+TEST_F(OptionPagesTest, OutOfRangeFieldsRefuseApply) {
+    struct Case {
+        const char* what;
+        int page;
+        const wchar_t* section;
+        const wchar_t* name;
+        int32_t stored;
+        int field;
+        const wchar_t* message;
+    };
+    const Case cases[] = {
+        {"sort threshold", 20, kAppInfo, L"ChgSortAlg", 10001, 1003, L"Please enter an integer between 0 and 10000."},
+        {"network time-out", 30, kAppInfo, L"NetworkTimeout", 9, 1001,
+         L"Please enter an integer between 10 and 5000000."},
+        {"network retries", 30, kAppInfo, L"NetworkRetry", 101, 1002, L"Please enter an integer between 1 and 100."},
+    };
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.what);
+        // Every other field valid, and the network fields enabled: a refused field takes the focus.
+        DirectWriteInt(kAppInfo, L"ChgSortAlg", 10);
+        DirectWriteInt(kAppInfo, L"UsePing", 1);
+        DirectWriteInt(kAppInfo, L"NetworkTimeout", 500);
+        DirectWriteInt(kAppInfo, L"NetworkRetry", 3);
+        DirectWriteInt(c.section, c.name, c.stored);
+        COptionDlg dialog(app_);
+        HWND page = Open(dialog, c.page);
+        ASSERT_NE(nullptr, page);
+        EXPECT_EQ(std::to_wstring(c.stored), Field(page, c.field));
+        const size_t shownBefore = fake_.prompts().shown().size();
+        Apply(dialog);
+        ASSERT_EQ(shownBefore + 1, fake_.prompts().shown().size());
+        EXPECT_EQ(c.message, Messages().back());
+        EXPECT_EQ(GetDlgItem(page, c.field), GetFocus());
+        EXPECT_EQ(c.stored, DirectReadInt(c.section, c.name, -1));
+        EXPECT_TRUE(fake_.windows().commands().empty());
+    }
+}
+
+// The general page stores its checks, the threshold and IME in "Settings"; ListReserveVal is only
+// read.
+TEST_F(OptionPagesTest, GeneralPageStoresItsGroupAndImeElsewhere) {
+    DirectWriteInt(kSettings, L"IME", 0);
+    COptionDlg dialog(app_);
+    HWND page = Open(dialog, 20);
+    ASSERT_NE(nullptr, page);
+    EXPECT_TRUE(Checked(page, 1251));
+    EXPECT_FALSE(Checked(page, 1254));
+    EXPECT_EQ(L"10", Field(page, 1003));
+
+    Click(page, 1254);
+    Click(page, 1252);
+    Type(page, 1003, L"0");
+    Apply(dialog);
+    EXPECT_EQ(1, DirectReadInt(kSettings, L"IME", -1));
+    EXPECT_EQ(1, DirectReadInt(kAppInfo, L"DisableAnimation", -1));
+    EXPECT_EQ(0, DirectReadInt(kAppInfo, L"ChgSortAlg", -1));
+    EXPECT_EQ(1, DirectReadInt(kAppInfo, L"UseCompFolder", -1)) << "every value of the group is written";
+    EXPECT_EQ(-1, DirectReadInt(kAppInfo, L"ListReserveVal", -1));
+    EXPECT_EQ(std::vector<uint16_t>{49017}, Codes());
+}
+
+// The benchmark reports in a message box and shows the threshold it found; only Apply stores it.
+TEST_F(OptionPagesTest, BenchmarkShowsItsReportAndTheThresholdItFound) {
+    DirectWriteInt(kAppInfo, L"ChgSortAlg", 777);
+    COptionDlg dialog(app_);
+    HWND page = Open(dialog, 20);
+    ASSERT_NE(nullptr, page);
+    SendMessageW(page, WM_COMMAND, MAKEWPARAM(1301, BN_CLICKED), 0);
+    ASSERT_EQ(1u, fake_.prompts().shown().size());
+    EXPECT_EQ(0u, Messages()[0].rfind(L"Results up to 100-line display.\nValue - time\n000 - ", 0));
+    EXPECT_EQ(std::to_wstring(app_.store.ChgSortAlg), Field(page, 1003));
+    EXPECT_LT(app_.store.ChgSortAlg, 1000);
+    EXPECT_EQ(777, DirectReadInt(kAppInfo, L"ChgSortAlg", -1)) << "nothing stored before Apply";
+}
+
+// The time-out and retries follow the ping check, as loaded and as clicked.
+TEST_F(OptionPagesTest, NetworkFieldsFollowThePingCheck) {
+    DirectWriteInt(kAppInfo, L"UsePing", 1);
+    DirectWriteInt(kAppInfo, L"NoNetwork", 1);
+    COptionDlg dialog(app_);
+    HWND page = Open(dialog, 30);
+    ASSERT_NE(nullptr, page);
+    EXPECT_TRUE(Enabled(page, 1001));
+    EXPECT_TRUE(Enabled(page, 1002));
+    Click(page, 1251);
+    EXPECT_FALSE(Enabled(page, 1001));
+    EXPECT_FALSE(Enabled(page, 1002));
+
+    Type(page, 1002, L"100");
+    Apply(dialog);
+    EXPECT_EQ(0, DirectReadInt(kAppInfo, L"UsePing", -1));
+    EXPECT_EQ(500, DirectReadInt(kAppInfo, L"NetworkTimeout", -1));
+    EXPECT_EQ(100, DirectReadInt(kAppInfo, L"NetworkRetry", -1));
+    EXPECT_EQ(1, DirectReadInt(kAppInfo, L"NoNetwork", -1)) << "the host's own, left alone";
+    EXPECT_EQ(std::vector<uint16_t>{49021}, Codes());
+}
+
+// The last check shows as a date of the user's locale; the reset stores its date at once, and Apply
+// stores the interval and the beta flag only.
+TEST_F(OptionPagesTest, VersionCheckShowsResetsAndStoresTheInterval) {
+    struct Shown {
+        const wchar_t* stored;
+        bool valid;
+    };
+    for (const Shown& c : {Shown{L"45000.5", true}, Shown{L"1e300", false}}) {
+        SCOPED_TRACE(testing::Message() << std::string(c.stored, c.stored + wcslen(c.stored)));
+        DirectWriteString(kAppInfo, L"VersionCheckTime", c.stored);
+        COptionDlg dialog(app_);
+        HWND page = Open(dialog, 34);
+        ASSERT_NE(nullptr, page);
+        const std::wstring text = Field(page, 1401);
+        if (c.valid) {
+            EXPECT_NE(std::wstring::npos, text.find(L"2023")) << std::string(text.begin(), text.end());
+        } else {
+            EXPECT_EQ(L"Invalid DateTime", text);
+        }
+    }
+
+    COptionDlg dialog(app_);
+    HWND page = Open(dialog, 34);
+    ASSERT_NE(nullptr, page);
+    SendMessageW(page, WM_COMMAND, MAKEWPARAM(1301, BN_CLICKED), 0);
+    EXPECT_EQ(L"42005.041667", DirectReadString(kAppInfo, L"VersionCheckTime", L"")) << "stored at once";
+    EXPECT_NE(std::wstring::npos, Field(page, 1401).find(L"2015"));
+    EXPECT_TRUE(fake_.windows().commands().empty());
+
+    DirectWriteString(kAppInfo, L"VersionCheckTime", L"stamped by the host");
+    Type(page, 1004, L"0");
+    Click(page, 1253);
+    Apply(dialog);
+    EXPECT_EQ(0, DirectReadInt(kAppInfo, L"VersionCheckDay", -1));
+    EXPECT_EQ(1, DirectReadInt(kAppInfo, L"VersionCheckBeta", -1));
+    EXPECT_EQ(L"stamped by the host", DirectReadString(kAppInfo, L"VersionCheckTime", L""));
+    EXPECT_EQ(std::vector<uint16_t>{49017}, Codes());
+}
+
+}  // namespace
