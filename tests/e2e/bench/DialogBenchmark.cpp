@@ -125,9 +125,11 @@ int wmain(int argc, wchar_t** argv) {
     int runs = argc > 1 ? _wtoi(argv[1]) : 21;
     if (runs < 1) runs = 1;
     const std::wstring floorProgram = e2e::TestDirectory() + L"\\EmptyDialog.exe";
+    const std::wstring controlsProgram = e2e::TestDirectory() + L"\\EmptyControlsDialog.exe";
     const std::wstring option = e2e::OptionExePath();
 
     Figures floor{"empty dialog (floor)"}, dialog{"option dialog"};
+    Figures controls{"empty dialog with the common controls and a tree view"};
     Figures firstSwitch{"switch to a page never opened"}, againSwitch{"switch to a page already open"};
     Figures firstSelection{"  of which the selection message"}, idle{"waiting for the idle dialog alone"};
     Figures apply{"Apply with every page opened"};
@@ -136,6 +138,11 @@ int wmain(int argc, wchar_t** argv) {
         Shown empty = StartAndTime(floorProgram, L"Empty");
         if (!Close(empty)) {
             std::printf("the empty dialog did not show or did not end\n");
+            return 1;
+        }
+        Shown withControls = StartAndTime(controlsProgram, L"Empty");
+        if (!Close(withControls)) {
+            std::printf("the empty dialog with the common controls did not show or did not end\n");
             return 1;
         }
         Shown shown = StartAndTime(option, L"オプション");
@@ -153,6 +160,7 @@ int wmain(int argc, wchar_t** argv) {
         }
         if (i == 0) continue;
         floor.times.push_back(empty.ms);
+        controls.times.push_back(withControls.ms);
         dialog.times.push_back(shown.ms);
         firstSwitch.times.insert(firstSwitch.times.end(), first.total.begin(), first.total.end());
         firstSelection.times.insert(firstSelection.times.end(), first.selection.begin(), first.selection.end());
@@ -161,7 +169,9 @@ int wmain(int argc, wchar_t** argv) {
         apply.times.insert(apply.times.end(), applies.begin(), applies.end());
     }
     const double floorMs = floor.Print();
+    const double controlsMs = controls.Print();
     const double dialogMs = dialog.Print();
+    std::printf("the common controls alone over the floor: %.1f ms\n", controlsMs - floorMs);
     std::printf("option dialog over the floor: %.1f ms (ratio %.2f, target 1.30 or less)\n", dialogMs - floorMs,
                 dialogMs / floorMs);
     const double switchMs = firstSwitch.Print();
