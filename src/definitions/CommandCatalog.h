@@ -10,14 +10,10 @@
 
 #include "platform/ResourceLibrary.h"
 
-// Identifiers with a meaning of their own; all others are built-in commands.
+// 0 is no command; the external commands are the user-extensible range of the command lists.
 inline constexpr uint16_t kNoCommand = 0;
-inline constexpr uint16_t kFirstBarOperation = 33000;
-inline constexpr uint16_t kLastBarOperation = 33089;
 inline constexpr uint16_t kFirstExternalCommand = 40001;
 inline constexpr uint16_t kLastExternalCommand = 43000;
-inline constexpr uint16_t kFirstBarMenuCommand = 47000;
-inline constexpr uint16_t kLastBarMenuCommand = 47999;
 
 // A range whose unnamed identifiers are shown through a language string with one "%d".
 struct NumberedRange {

@@ -1,7 +1,11 @@
 #include <gtest/gtest.h>
 
+#include <filesystem>
+#include <fstream>
+#include <iterator>
 #include <map>
 
+#include "bindings/DefaultKeyTables.h"
 #include "definitions/CommandCatalog.h"
 #include "definitions/CommandDump.h"
 #include "definitions/CommandListFile.h"
@@ -168,6 +172,28 @@ TEST_F(CommandCatalogTest, ListedCommandsOfARange) {
     EXPECT_EQ((Listed{{42001, L"First"}, {42002, L"Second"}, {42600, L"User"}, {43000, L"Last"}}),
               catalog.ListedCommands(42001, 43000));
     EXPECT_EQ(Listed{}, catalog.ListedCommands(41000, 42000));
+}
+
+// The sample installation's user directory names every external command that a default key of the
+// two listed modes starts, so that a key list written from it shows names and not numbers.
+TEST_F(CommandCatalogTest, TheSampleListsNameTheExternalCommandsOfTheDefaultKeys) {
+    const std::filesystem::path sample = std::filesystem::path(OPTION_SOURCE_DIR) / "sample" / "User";
+    for (const wchar_t* name : kCommandListFiles) {
+        std::ifstream file(sample / std::filesystem::path(name), std::ios::binary);
+        std::string bytes((std::istreambuf_iterator<char>(file)), {});
+        ASSERT_FALSE(bytes.empty()) << testing::PrintToString(std::wstring(name));
+        fake.files().AddFile(std::wstring(kUserDir) + name, bytes);
+    }
+    EXPECT_LT(30, catalog.LoadCommandLists(kUserDir));
+    EXPECT_TRUE(fake.prompts().shown().empty());
+    const KeyTableSet& defaults = DefaultKeyTables();
+    for (int mode = 0; mode < 2; ++mode) {
+        for (uint16_t id : defaults.modes[mode]) {
+            if (id >= kFirstExternalCommand && id <= kLastExternalCommand) {
+                EXPECT_NE(L"", catalog.LookupListedCommand(id)) << id;
+            }
+        }
+    }
 }
 
 TEST(CommandDump, Rows) {
