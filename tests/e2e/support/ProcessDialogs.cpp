@@ -1,5 +1,6 @@
 #include "ProcessDialogs.h"
 
+#include <commctrl.h>
 #include <shlobj.h>
 
 #include <vector>
@@ -38,14 +39,62 @@ HWND FindDialog(DWORD processId, bool wantTree, bool wantText, DWORD timeoutMs) 
     }
 }
 
-// The selection message takes its argument in the browser's own address space.
-bool SendSelection(HANDLE process, HWND browser, BOOL isPath, const void* data, size_t size) {
-    void* remote = VirtualAllocEx(process, nullptr, size, MEM_COMMIT | MEM_RESERVE, PAGE_READWRITE);
-    if (!remote) return false;
-    bool written = WriteProcessMemory(process, remote, data, size, nullptr);
-    if (written) SendMessageW(browser, BFFM_SETSELECTIONW, isPath, reinterpret_cast<LPARAM>(remote));
-    VirtualFreeEx(process, remote, 0, MEM_RELEASE);
-    return written;
+// Memory in another process, for messages whose arguments point into the receiver's address space.
+class RemoteBuffer {
+public:
+    RemoteBuffer(HANDLE process, size_t size)
+        : process_(process), data_(VirtualAllocEx(process, nullptr, size, MEM_COMMIT | MEM_RESERVE, PAGE_READWRITE)) {}
+    ~RemoteBuffer() {
+        if (data_) VirtualFreeEx(process_, data_, 0, MEM_RELEASE);
+    }
+    RemoteBuffer(const RemoteBuffer&) = delete;
+    RemoteBuffer& operator=(const RemoteBuffer&) = delete;
+
+    void* get() const { return data_; }
+    bool Write(const void* data, size_t size, size_t offset = 0) const {
+        return data_ && WriteProcessMemory(process_, static_cast<char*>(data_) + offset, data, size, nullptr);
+    }
+    bool Read(void* data, size_t size, size_t offset = 0) const {
+        return data_ && ReadProcessMemory(process_, static_cast<char*>(data_) + offset, data, size, nullptr);
+    }
+
+private:
+    HANDLE process_;
+    void* data_;
+};
+
+// The text of the tree item the browser has selected.
+std::wstring SelectedName(HANDLE process, HWND browser) {
+    HWND tree = FindWindowExW(browser, nullptr, L"SysTreeView32", nullptr);
+    auto item = reinterpret_cast<HTREEITEM>(SendMessageW(tree, TVM_GETNEXTITEM, TVGN_CARET, 0));
+    if (!item) return L"";
+    constexpr int kChars = 260;
+    RemoteBuffer remote(process, sizeof(TVITEMW) + kChars * sizeof(wchar_t));
+    TVITEMW query = {};
+    query.mask = TVIF_TEXT;
+    query.hItem = item;
+    query.pszText = reinterpret_cast<wchar_t*>(static_cast<char*>(remote.get()) + sizeof(TVITEMW));
+    query.cchTextMax = kChars;
+    wchar_t text[kChars] = {};
+    if (!remote.Write(&query, sizeof query) ||
+        !SendMessageW(tree, TVM_GETITEMW, 0, reinterpret_cast<LPARAM>(remote.get())) ||
+        !remote.Read(text, sizeof text, sizeof(TVITEMW))) {
+        return L"";
+    }
+    text[kChars - 1] = 0;
+    return text;
+}
+
+// Selects until the tree shows name as its selection: the browser may still be filling its tree.
+bool SendSelection(HANDLE process, HWND browser, BOOL isPath, const void* data, size_t size, const std::wstring& name) {
+    RemoteBuffer remote(process, size);
+    if (!remote.Write(data, size)) return false;
+    for (DWORD waited = 0; waited < 10000; waited += 100) {
+        SendMessageW(browser, BFFM_SETSELECTIONW, isPath, reinterpret_cast<LPARAM>(remote.get()));
+        if (SelectedName(process, browser) == name) return true;
+        Sleep(100);
+    }
+    return false;
 }
 
 }  // namespace
@@ -79,13 +128,16 @@ bool Answer(HWND dialog, int button, DWORD timeoutMs) {
 }
 
 bool SelectFolder(HANDLE process, HWND browser, const std::wstring& path) {
-    return SendSelection(process, browser, TRUE, path.c_str(), (path.size() + 1) * sizeof(wchar_t));
+    std::wstring name = path.substr(path.find_last_of(L'\\') + 1);
+    return SendSelection(process, browser, TRUE, path.c_str(), (path.size() + 1) * sizeof(wchar_t), name);
 }
 
 bool SelectMyComputer(HANDLE process, HWND browser) {
     PIDLIST_ABSOLUTE computer = nullptr;
     if (FAILED(SHGetSpecialFolderLocation(nullptr, CSIDL_DRIVES, &computer))) return false;
-    bool sent = SendSelection(process, browser, FALSE, computer, ILGetSize(computer));
+    SHFILEINFOW info = {};
+    SHGetFileInfoW(reinterpret_cast<const wchar_t*>(computer), 0, &info, sizeof info, SHGFI_PIDL | SHGFI_DISPLAYNAME);
+    bool sent = SendSelection(process, browser, FALSE, computer, ILGetSize(computer), info.szDisplayName);
     CoTaskMemFree(computer);
     return sent;
 }
