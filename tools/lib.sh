@@ -53,7 +53,8 @@ build_preset() {
   cmake --build --preset "$preset" "${targets[@]}" -- --no-print-directory -s
 }
 
-# Lays out an installation tree from sample/: the program two folders below the application root.
+# Lays out an installation tree from sample/: the program two folders below the application root,
+# the sample user directory as "User"; the Wine prefix's own user directory gets its command lists.
 stage() {
   mkdir -p "$STAGE/command/Option" "$STAGE/Lang"
   if [ -d "$ROOT/sample" ]; then cp -a "$ROOT/sample/." "$STAGE/"; fi
@@ -62,7 +63,7 @@ stage() {
   for dll in "$BUILD"/win64/sample/Lang/*.dll; do
     [ -e "$dll" ] && cp -a "$dll" "$STAGE/Lang/"
   done
-  return 0
+  seed_user_directory
 }
 
 XVFB_PID=""
@@ -118,6 +119,20 @@ start_wine() {
   fi
   # A server that already runs for this prefix (another tool, a test run) is as good; -p then fails.
   wineserver -p 2>/dev/null || true
+  seed_user_directory
+}
+
+# The program's default user directory (the local application data folder + "Qor") gets the sample
+# command lists it lacks: without them every start would tell of each missing list. Lists already
+# there are left as they are.
+seed_user_directory() {
+  local home="$WINEPREFIX/drive_c/users/$(id -un)" list
+  local dir="$home/AppData/Local/Qor"
+  [ -d "$ROOT/sample/User" ] && [ -d "$home" ] || return 0
+  mkdir -p "$dir"
+  for list in "$ROOT"/sample/User/*.txt; do
+    [ -e "$dir/$(basename "$list")" ] || cp "$list" "$dir/"
+  done
 }
 
 stop_wine() {

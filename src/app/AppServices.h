@@ -7,6 +7,7 @@
 
 #include "app/ApplyChain.h"
 #include "app/HostSwitches.h"
+#include "definitions/CommandCatalog.h"
 #include "platform/ResourceLibrary.h"
 #include "services/DialogLanguage.h"
 #include "services/MessageCatalog.h"
@@ -37,6 +38,8 @@ struct AppServices {
     // The mouse-button and modifier names of the option dialog's hidden labels, empty entries kept.
     std::vector<std::wstring> mouseButtonNames;
     std::vector<std::wstring> modifierNames;
+    // Names of the commands the user's lists define, read at start and emptied at the end.
+    CommandCatalog commands;
     // The language library; null when it could not be loaded.
     std::unique_ptr<platform::ResourceLibrary> resourceModule;
 };

@@ -8,6 +8,7 @@
 
 #include "app/COptionDlg.h"
 #include "app/Startup.h"
+#include "bindings/KeyListWriter.h"
 #include "platform/win32/Win32Platform.h"
 #include "services/HostHandshake.h"
 
@@ -66,10 +67,14 @@ void COptionApp::OpenOptionDialog() {
     dialog.DoModal(reinterpret_cast<HWND>(HostParent(app_->host.windowMode)));
 }
 
-// The editors and writers take their place here as they are built; until then a target that is
-// not there yet ends the run quietly.
+// The editors take their place here as they are built; until then a target that is not there yet
+// ends the run quietly.
 void COptionApp::OpenEditor(int, const std::wstring&) {}
 
-void COptionApp::WriteKeyLists() {}
+void COptionApp::WriteKeyLists() {
+    if (!app_) return;
+    KeyListWriter writer(app_->directories.UserDirectory(), app_->messages, app_->commands, app_->resourceModule.get());
+    writer.Run();
+}
 
 void COptionApp::RunEditorScript(const std::wstring&) {}

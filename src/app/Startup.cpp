@@ -93,6 +93,7 @@ void RunStartup(AppServices& app, StartupTargets& targets, const std::vector<std
     app.userDir = app.store.ReadString(L"UserDir", L"");
     app.commandOptionRoot = CommandOptionRootPath();
     app.messages.SetPath(MessageFilePath(app.directories.ProgramDirectory(), LanguageTag()));
+    app.commands.LoadCommandLists(app.directories.UserDirectory());
 
     CommandLine line = ParseCommandLine(arguments);
     LoadGroup(app.store, AppGroup::StartUp);
@@ -107,6 +108,7 @@ void RunStartup(AppServices& app, StartupTargets& targets, const std::vector<std
     }
 
     app.resourceModule.reset();
+    app.commands.Clear();
     BringHostForward(app);
     presence.reset();
 }

@@ -10,6 +10,13 @@ enum PromptAnswer : int { kAnswerOk = 1, kAnswerCancel = 2, kAnswerYes = 6, kAns
 // The styles the program uses.
 enum PromptStyle : unsigned { kStyleOk = 0, kStyleYesNo = 4 };
 
+// What the folder browser gave back.
+struct FolderChoice {
+    bool confirmed = false;  // false: the user cancelled
+    std::wstring path;       // empty when the folder has no file-system path (a virtual folder)
+    bool operator==(const FolderChoice&) const = default;
+};
+
 class Prompts {
 public:
     Prompts() = default;
@@ -21,6 +28,10 @@ public:
     virtual int ShowMessage(const std::wstring& text, unsigned style) = 0;
     // A message box with a caption of its own, owned by the active window.
     virtual int Ask(const std::wstring& text, const std::wstring& caption, unsigned style) = 0;
+    // The shell's folder browser with title above its tree, start selected when it is not empty;
+    // owned by the active window, or the desktop when there is none. A path of 520 units or more
+    // is not taken: it comes back empty.
+    virtual FolderChoice BrowseForFolder(const std::wstring& title, const std::wstring& start) = 0;
 };
 
 }  // namespace platform

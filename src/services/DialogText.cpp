@@ -11,6 +11,7 @@
 #include "services/PathHelpers.h"
 #include "services/TextFileReader.h"
 #include "services/Tokenizer.h"
+#include "services/WideStream.h"
 
 namespace {
 
@@ -38,13 +39,6 @@ std::wstring Unescape(std::wstring text) {
 
 bool LeftOut(const std::wstring& className) {
     return className == L"SysListView32" || className == L"SysTabControl32" || className == L"Edit";
-}
-
-void AppendUtf16(std::vector<uint8_t>& bytes, std::wstring_view text) {
-    for (wchar_t unit : text) {
-        bytes.push_back(static_cast<uint8_t>(unit & 0xFF));
-        bytes.push_back(static_cast<uint8_t>((unit >> 8) & 0xFF));
-    }
 }
 
 // What one line asks for, given its fields; a line of any other shape asks for nothing.

@@ -38,3 +38,10 @@ bool WideStream::ReadLine(std::wstring& line, size_t bufferChars) {
     if (nul != std::wstring::npos) line.resize(nul);
     return any;
 }
+
+void AppendUtf16(std::vector<uint8_t>& bytes, std::wstring_view text) {
+    for (wchar_t unit : text) {
+        bytes.push_back(static_cast<uint8_t>(unit & 0xFF));
+        bytes.push_back(static_cast<uint8_t>((unit >> 8) & 0xFF));
+    }
+}

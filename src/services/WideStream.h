@@ -2,8 +2,11 @@
 // so a line keeps its "\r\n" and a byte order mark shows up as U+FEFF. Readers remove both themselves.
 #pragma once
 
+#include <cstdint>
 #include <memory>
 #include <string>
+#include <string_view>
+#include <vector>
 
 #include "platform/FileSystem.h"
 
@@ -25,3 +28,6 @@ private:
     size_t filled_ = 0;
     size_t used_ = 0;
 };
+
+// The other way: text as the units a file holds, little-endian, appended to bytes.
+void AppendUtf16(std::vector<uint8_t>& bytes, std::wstring_view text);

@@ -16,4 +16,12 @@ int FakePrompts::Ask(const std::wstring& text, const std::wstring& caption, unsi
     return (style & 0xF) == kStyleYesNo ? kAnswerNo : kAnswerOk;
 }
 
+FolderChoice FakePrompts::BrowseForFolder(const std::wstring& title, const std::wstring& start) {
+    browsed_.push_back({title, start});
+    if (folders_.empty()) return {};
+    FolderChoice choice = folders_.front();
+    folders_.pop_front();
+    return choice;
+}
+
 }  // namespace platform::fake

@@ -3,6 +3,7 @@
 
 #include <deque>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "platform/Prompts.h"
@@ -16,22 +17,37 @@ struct ShownMessage {
     bool operator==(const ShownMessage&) const = default;
 };
 
+// One opening of the folder browser.
+struct FolderBrowse {
+    std::wstring title;
+    std::wstring start;
+    bool operator==(const FolderBrowse&) const = default;
+};
+
 class FakePrompts : public Prompts {
 public:
     int ShowMessage(const std::wstring& text, unsigned style) override;
     int Ask(const std::wstring& text, const std::wstring& caption, unsigned style) override;
+    FolderChoice BrowseForFolder(const std::wstring& title, const std::wstring& start) override;
 
     // Answers given in turn; when none is left a question gets No and a message OK.
     void Answer(int answer) { answers_.push_back(answer); }
     const std::vector<ShownMessage>& shown() const { return shown_; }
+    // Folder choices given in turn; when none is left the browser is cancelled.
+    void ChooseFolder(FolderChoice choice) { folders_.push_back(std::move(choice)); }
+    const std::vector<FolderBrowse>& browsed() const { return browsed_; }
     void Clear() {
         shown_.clear();
         answers_.clear();
+        browsed_.clear();
+        folders_.clear();
     }
 
 private:
     std::vector<ShownMessage> shown_;
     std::deque<int> answers_;
+    std::vector<FolderBrowse> browsed_;
+    std::deque<FolderChoice> folders_;
 };
 
 }  // namespace platform::fake

@@ -1,10 +1,24 @@
 #include "platform/win32/Win32Prompts.h"
 
 #include <windows.h>
+#include <shlobj.h>
 
 #include "platform/win32/Win32Environment.h"
 
 namespace platform::win32 {
+
+namespace {
+
+// The browser takes a path of fewer units than this.
+constexpr DWORD kBrowsePathChars = 520;
+
+// Selects the start folder once the browser is up.
+int CALLBACK SelectStart(HWND window, UINT message, LPARAM, LPARAM start) {
+    if (message == BFFM_INITIALIZED && start) SendMessageW(window, BFFM_SETSELECTIONW, TRUE, start);
+    return 0;
+}
+
+}  // namespace
 
 int Win32Prompts::ShowMessage(const std::wstring& text, unsigned style) {
     // Like the framework's message box: captioned with the program's name.
@@ -13,6 +27,24 @@ int Win32Prompts::ShowMessage(const std::wstring& text, unsigned style) {
 
 int Win32Prompts::Ask(const std::wstring& text, const std::wstring& caption, unsigned style) {
     return MessageBoxW(GetActiveWindow(), text.c_str(), caption.c_str(), style);
+}
+
+FolderChoice Win32Prompts::BrowseForFolder(const std::wstring& title, const std::wstring& start) {
+    HWND owner = GetActiveWindow();
+    wchar_t displayName[MAX_PATH] = {};
+    BROWSEINFOW info = {};
+    info.hwndOwner = owner ? owner : GetDesktopWindow();
+    info.pszDisplayName = displayName;
+    info.lpszTitle = title.c_str();
+    info.lpfn = SelectStart;
+    info.lParam = start.empty() ? 0 : reinterpret_cast<LPARAM>(start.c_str());
+    PIDLIST_ABSOLUTE chosen = SHBrowseForFolderW(&info);
+    if (!chosen) return {};
+    FolderChoice choice{true, L""};
+    wchar_t path[kBrowsePathChars] = {};
+    if (SHGetPathFromIDListEx(chosen, path, kBrowsePathChars, GPFIDL_DEFAULT)) choice.path = path;
+    CoTaskMemFree(chosen);
+    return choice;
 }
 
 }  // namespace platform::win32

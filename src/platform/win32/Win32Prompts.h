@@ -8,6 +8,7 @@ class Win32Prompts : public Prompts {
 public:
     int ShowMessage(const std::wstring& text, unsigned style) override;
     int Ask(const std::wstring& text, const std::wstring& caption, unsigned style) override;
+    FolderChoice BrowseForFolder(const std::wstring& title, const std::wstring& start) override;
 };
 
 }  // namespace platform::win32

@@ -4,6 +4,7 @@
 
 #include "app/SniffDefinitionFile.h"
 #include "app/Startup.h"
+#include "definitions/CommandListFile.h"
 #include "platform/fake/FakePlatform.h"
 #include "unit/Utf16.h"
 
@@ -15,6 +16,7 @@ using platform::fake::ShownMessage;
 constexpr const wchar_t* kProgram = L"C:\\Qor\\command\\Option\\Option.exe";
 constexpr const wchar_t* kLibrary = L"C:\\Qor\\Lang\\Qor.ja-JP.dll";
 constexpr const wchar_t* kMessages = L"C:\\Qor\\Lang\\Msg.ja-JP.txt";
+constexpr const wchar_t* kUserDir = L"C:\\Users\\tester\\AppData\\Local\\Qor\\";
 
 // Records which target start-up handed over to.
 class RecordingTargets : public StartupTargets {
@@ -46,6 +48,9 @@ protected:
         fake.files().AddDirectory(L"C:\\Qor\\Lang");
         fake.files().AddFile(kMessages, Utf16Bytes(L"62538\tno language library\r\n", true));
         fake.system().AddLibrary(kLibrary);
+        for (const wchar_t* name : kCommandListFiles) {
+            fake.files().AddFile(std::wstring(kUserDir) + name, Utf16Bytes(L"", true));
+        }
     }
 
     std::vector<std::wstring> Run(const std::vector<std::wstring>& arguments) {
@@ -133,6 +138,15 @@ TEST_F(StartupTest, LanguageLibraryIsHeldForTheTargetAndFreedAtTheEnd) {
     EXPECT_EQ(0, fake.system().loadedLibraries());
     EXPECT_EQ(L"C:\\Qor\\Lang\\Msg.ja-JP.txt", app.messages.path());
     EXPECT_EQ(L"Software\\Tarnwick\\QOR\\Command\\Option", app.commandOptionRoot);
+}
+
+TEST_F(StartupTest, CommandListsAreReadBeforeTheTargetAndForgottenAfterIt) {
+    fake.files().AddFile(std::wstring(kUserDir) + L"PlugInCommand.txt", Utf16Bytes(L"41501\t\t\tx.dll\tPlug-in\r\n"));
+    std::wstring listed;
+    WhileOpen targets([&] { listed = app.commands.LookupListedCommand(41501); });
+    RunStartup(app, targets, {});
+    EXPECT_EQ(L"Plug-in", listed);
+    EXPECT_EQ(0u, app.commands.size());
 }
 
 TEST_F(StartupTest, SettingsReadAtStart) {

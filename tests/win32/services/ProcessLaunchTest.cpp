@@ -190,6 +190,7 @@ public:
         return answer_;
     }
     int Ask(const std::wstring& text, const std::wstring&, unsigned style) override { return ShowMessage(text, style); }
+    platform::FolderChoice BrowseForFolder(const std::wstring&, const std::wstring&) override { return {}; }
 
     HANDLE process() const { return process_; }
     std::vector<ShownMessage> shown;

@@ -1,0 +1,27 @@
+#include "bindings/KeyListCsv.h"
+
+#include <cstdint>
+
+#include "services/WideStream.h"
+
+std::wstring KeyListCsvText(const std::vector<KeyListRow>& rows) {
+    std::wstring text = L"\uFEFF";
+    for (const KeyListRow& row : rows) text += L"\"" + row.key + L"\",\"" + row.command + L"\"\r\n";
+    return text;
+}
+
+std::vector<KeyListRow> KeyListRows(std::span<const uint16_t, kKeyCount> block, const CommandCatalog& catalog,
+                                    const platform::ResourceLibrary* library) {
+    std::vector<KeyListRow> rows;
+    for (int key = 0; key < kKeyCount; ++key) {
+        rows.push_back({KeyNameTable[key], catalog.GetCommandString(block[key], library)});
+    }
+    return rows;
+}
+
+void WriteKeyListCsv(platform::File& file, std::span<const uint16_t, kKeyCount> block, const CommandCatalog& catalog,
+                     const platform::ResourceLibrary* library) {
+    std::vector<uint8_t> bytes;
+    AppendUtf16(bytes, KeyListCsvText(KeyListRows(block, catalog, library)));
+    file.Write(bytes.data(), bytes.size());
+}

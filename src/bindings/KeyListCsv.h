@@ -1,0 +1,30 @@
+// A key list as text: what "/KEYLIST" and the key page's save button write.
+#pragma once
+
+#include <span>
+#include <string>
+#include <vector>
+
+#include "bindings/KeyNameTable.h"
+#include "definitions/CommandCatalog.h"
+#include "platform/FileSystem.h"
+
+// Behind the base name of a key list file, by modifier; ".csv" follows.
+inline constexpr const wchar_t* kKeyListSuffixes[] = {L"", L" Shift", L" Ctrl", L" Ctrl+Shift"};
+
+struct KeyListRow {
+    std::wstring key;
+    std::wstring command;
+};
+
+// A byte order mark, then one line "key","command" with CR LF per row. Nothing is escaped: a
+// quotation mark in a command text goes out as it stands.
+std::wstring KeyListCsvText(const std::vector<KeyListRow>& rows);
+
+// The 76 keys of one block, each with its command's text ("---" for none).
+std::vector<KeyListRow> KeyListRows(std::span<const uint16_t, kKeyCount> block, const CommandCatalog& catalog,
+                                    const platform::ResourceLibrary* library);
+
+// Writes the block's text to an open file in a single write.
+void WriteKeyListCsv(platform::File& file, std::span<const uint16_t, kKeyCount> block, const CommandCatalog& catalog,
+                     const platform::ResourceLibrary* library);

@@ -1,0 +1,75 @@
+#include "bindings/KeyTableFiles.h"
+
+#include <cstdint>
+
+#include "bindings/DefaultKeyTables.h"
+#include "platform/Platform.h"
+#include "services/Format.h"
+#include "services/LongPath.h"
+
+namespace {
+
+using Bytes = std::array<uint8_t, kKeyMapTableBytes>;
+
+Bytes ToBytes(const KeyMapTable& table) {
+    Bytes bytes;
+    for (size_t i = 0; i < table.size(); ++i) {
+        bytes[2 * i] = static_cast<uint8_t>(table[i] & 0xFF);
+        bytes[2 * i + 1] = static_cast<uint8_t>(table[i] >> 8);
+    }
+    return bytes;
+}
+
+KeyMapTable FromBytes(const Bytes& bytes) {
+    KeyMapTable table;
+    for (size_t i = 0; i < table.size(); ++i) {
+        table[i] = static_cast<uint16_t>(bytes[2 * i] | (bytes[2 * i + 1] << 8));
+    }
+    return table;
+}
+
+// Readers share the file with other readers; writers are kept out while it is open.
+std::unique_ptr<platform::File> OpenKeyFile(const std::wstring& path, platform::FileAccess access) {
+    return platform::Current().files.Open(ToLongPathForm(path), access, true);
+}
+
+}  // namespace
+
+std::wstring KeyFilePath(const std::wstring& userDirectory, int mode) {
+    switch (mode) {
+        case 0:
+            return userDirectory + L"CommandMode.key";
+        case 1:
+            return userDirectory + L"SerchMode.key";
+        default:
+            return crt::Format(L"%sMode%d.key", userDirectory, mode + 1);
+    }
+}
+
+void LoadKeyTables(const std::wstring& userDirectory, KeyTableSet& set) {
+    for (int mode = 0; mode < kKeyModeCount; ++mode) {
+        auto file = OpenKeyFile(KeyFilePath(userDirectory, mode), platform::FileAccess::Read);
+        if (!file) {
+            set.modes[mode] = DefaultKeyTables().modes[mode];
+            continue;
+        }
+        // Whatever the file holds lands over the table's bytes from the start.
+        Bytes bytes = ToBytes(set.modes[mode]);
+        size_t filled = 0;
+        while (filled < bytes.size()) {
+            size_t read = file->Read(bytes.data() + filled, bytes.size() - filled);
+            if (read == 0) break;
+            filled += read;
+        }
+        set.modes[mode] = FromBytes(bytes);
+    }
+}
+
+void SaveKeyTables(const std::wstring& userDirectory, const KeyTableSet& set) {
+    for (int mode = 0; mode < kKeyModeCount; ++mode) {
+        auto file = OpenKeyFile(KeyFilePath(userDirectory, mode), platform::FileAccess::Write);
+        if (!file) continue;
+        Bytes bytes = ToBytes(set.modes[mode]);
+        file->Write(bytes.data(), bytes.size());
+    }
+}

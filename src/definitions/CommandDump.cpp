@@ -1,0 +1,14 @@
+#include "definitions/CommandDump.h"
+
+#include "services/Format.h"
+
+std::wstring CommandDumpRow(CommandDumpForm form, uint16_t id, const std::wstring& treeText,
+                            const std::wstring& commandText) {
+    const wchar_t* format =
+        form == CommandDumpForm::Html ? L"<tr><td>%d</td><td>%s</td><td>%s</td></tr>\r\n" : L"%d\t%s\t%s\r\n";
+    return crt::Format(format, id, treeText, commandText);
+}
+
+std::wstring CommandDumpMissingText(const std::wstring& treeText, uint16_t id) {
+    return crt::Format(L"Cannot get command string.(%s:%d)", treeText, id);
+}

@@ -1,0 +1,197 @@
+// "/KEYLIST" run for real: the folder browser worked from here, the lists read back from disk.
+#include <gtest/gtest.h>
+
+#include <windows.h>
+
+#include <algorithm>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <string>
+#include <vector>
+
+#include "support/Process.h"
+#include "support/ProcessDialogs.h"
+#include "support/Registry.h"
+
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr wchar_t kSettings[] = L"Software\\Tarnwick\\Qor\\Main001\\Settings";
+const wchar_t* const kCommandLists[] = {L"ExternalDefCommand.txt", L"ExternalUserCommand.txt", L"ScriptCommand.txt",
+                                        L"ScriptNaviCommand.txt",  L"UserMenuCommand.txt",     L"PlugInCommand.txt"};
+const wchar_t* const kListNames[] = {
+    L"Command mode.csv", L"Command mode Shift.csv", L"Command mode Ctrl.csv", L"Command mode Ctrl+Shift.csv",
+    L"Search mode.csv",  L"Search mode Shift.csv",  L"Search mode Ctrl.csv",  L"Search mode Ctrl+Shift.csv",
+};
+
+// The lines of a UTF-16 file, each with its line end.
+std::vector<std::wstring> Lines(const fs::path& path) {
+    std::ifstream file(path, std::ios::binary);
+    std::string bytes((std::istreambuf_iterator<char>(file)), {});
+    std::wstring text;
+    for (size_t i = 0; i + 1 < bytes.size(); i += 2) {
+        text.push_back(
+            static_cast<wchar_t>(static_cast<uint8_t>(bytes[i]) | (static_cast<uint8_t>(bytes[i + 1]) << 8)));
+    }
+    std::vector<std::wstring> lines;
+    for (size_t start = 0; start < text.size();) {
+        size_t end = text.find(L"\r\n", start);
+        end = end == std::wstring::npos ? text.size() : end + 2;
+        lines.push_back(text.substr(start, end - start));
+        start = end;
+    }
+    return lines;
+}
+
+std::vector<std::wstring> FilesIn(const fs::path& folder) {
+    std::vector<std::wstring> names;
+    for (const auto& entry : fs::directory_iterator(folder)) names.push_back(entry.path().filename().wstring());
+    std::sort(names.begin(), names.end());
+    return names;
+}
+
+std::vector<std::wstring> AllListNames() {
+    std::vector<std::wstring> names(std::begin(kListNames), std::end(kListNames));
+    std::sort(names.begin(), names.end());
+    return names;
+}
+
+// A key file: 304 words, the given ones set, the rest 0.
+void WriteKeyFile(const fs::path& path, const std::vector<std::pair<int, uint16_t>>& words) {
+    std::vector<char> bytes(608, 0);
+    for (auto [index, word] : words) {
+        bytes[2 * index] = static_cast<char>(word & 0xFF);
+        bytes[2 * index + 1] = static_cast<char>(word >> 8);
+    }
+    std::ofstream(path, std::ios::binary).write(bytes.data(), bytes.size());
+}
+
+// A user directory of its own with the sample command lists, the English language, and an empty
+// output folder.
+class KeyListTest : public testing::Test {
+protected:
+    void SetUp() override {
+        root = fs::temp_directory_path() / ("KeyListTest" + std::to_string(GetCurrentProcessId()));
+        user = root / L"User";
+        out = root / L"Out";
+        fs::remove_all(root);
+        fs::create_directories(user);
+        fs::create_directories(out);
+        for (const wchar_t* list : kCommandLists) {
+            fs::copy_file(fs::path(e2e::StageRoot()) / L"User" / list, user / list);
+        }
+        e2e::registry::WriteDword(kSettings, L"UserDirMode", 2);
+        e2e::registry::WriteString(kSettings, L"UserDir", user.wstring());
+        e2e::registry::WriteString(kSettings, L"NLS", L".en-US");
+    }
+    void TearDown() override { fs::remove_all(root); }
+
+    // Starts "/KEYLIST" and waits for its folder browser.
+    HWND Start() {
+        option = e2e::StartOption({L"/KEYLIST"});
+        if (!option) return nullptr;
+        return e2e::FindFolderBrowser(option.Id());
+    }
+    // Picks the output folder in the browser.
+    void Choose(HWND browser) {
+        ASSERT_TRUE(e2e::SelectFolder(option.Handle(), browser, out.wstring()));
+        ASSERT_TRUE(e2e::Answer(browser, IDOK));
+    }
+
+    e2e::registry::ScopedKey settings{kSettings};
+    fs::path root;
+    fs::path user;
+    fs::path out;
+    e2e::Process option;
+};
+
+TEST_F(KeyListTest, WithoutKeyFilesTheDefaultsAreListed) {
+    HWND browser = Start();
+    ASSERT_NE(nullptr, browser);
+    EXPECT_NE(std::wstring::npos, e2e::DialogText(browser).find(L"Choose the folder to write to"));
+    Choose(browser);
+    EXPECT_EQ(0u, option.WaitOrKill());
+
+    EXPECT_EQ(AllListNames(), FilesIn(out));
+    for (const wchar_t* name : kListNames) {
+        std::vector<std::wstring> lines = Lines(out / name);
+        ASSERT_EQ(76u, lines.size()) << testing::PrintToString(std::wstring(name));
+        EXPECT_TRUE(lines[0].starts_with(L"\uFEFF\"A\",\""));
+        EXPECT_TRUE(lines[55].starts_with(L"\"F11\",\""));
+    }
+    std::vector<std::wstring> command = Lines(out / L"Command mode.csv");
+    EXPECT_EQ(L"\uFEFF\"A\",\"Edit in the text editor\"\r\n", command[0]);
+    EXPECT_EQ(L"\"O\",\"---\"\r\n", command[14]);
+    EXPECT_EQ(L"\"Ent\",\"Open\"\r\n", command[75]);
+    EXPECT_EQ(L"\"Ent\",\"Show in Explorer\"\r\n", Lines(out / L"Command mode Ctrl.csv")[75]);
+    EXPECT_EQ(L"\"N1\",\"---\"\r\n", Lines(out / L"Search mode Ctrl.csv")[36]);
+}
+
+TEST_F(KeyListTest, SavedKeyFilesAreListed) {
+    const int a = 0, shiftA = 76, ctrlShiftEnt = 3 * 76 + 75;
+    WriteKeyFile(user / L"CommandMode.key", {{a, 33000}, {ctrlShiftEnt, 42600}});
+    WriteKeyFile(user / L"SerchMode.key", {{shiftA, 42501}});
+    WriteKeyFile(user / L"SearchMode.key", {{a, 35900}});
+    HWND browser = Start();
+    ASSERT_NE(nullptr, browser);
+    Choose(browser);
+    EXPECT_EQ(0u, option.WaitOrKill());
+
+    EXPECT_EQ(L"\uFEFF\"A\",\"User bar 1 button 1\"\r\n", Lines(out / L"Command mode.csv")[0]);
+    EXPECT_EQ(L"\"Ent\",\"---\"\r\n", Lines(out / L"Command mode.csv")[75]);
+    EXPECT_EQ(L"\"Ent\",\"External command 42600\"\r\n", Lines(out / L"Command mode Ctrl+Shift.csv")[75]);
+    EXPECT_EQ(L"\uFEFF\"A\",\"Open in Paint\"\r\n", Lines(out / L"Search mode Shift.csv")[0]);
+    EXPECT_EQ(L"\uFEFF\"A\",\"---\"\r\n", Lines(out / L"Search mode.csv")[0]);
+}
+
+TEST_F(KeyListTest, NoForOneExistingFileSkipsOnlyThatFile) {
+    for (const wchar_t* name : kListNames) std::ofstream(out / name) << "old";
+    HWND browser = Start();
+    ASSERT_NE(nullptr, browser);
+    Choose(browser);
+    for (const wchar_t* name : kListNames) {
+        HWND box = e2e::FindMessageBox(option.Id());
+        ASSERT_NE(nullptr, box) << testing::PrintToString(std::wstring(name));
+        std::wstring expected = L"Do you want to overwrite it?\n" + (out / name).wstring();
+        EXPECT_NE(std::wstring::npos, e2e::DialogText(box).find(expected))
+            << testing::PrintToString(e2e::DialogText(box));
+        ASSERT_TRUE(e2e::Answer(box, std::wstring(name) == L"Command mode Shift.csv" ? IDNO : IDYES));
+    }
+    EXPECT_EQ(0u, option.WaitOrKill());
+    for (const wchar_t* name : kListNames) {
+        if (std::wstring(name) == L"Command mode Shift.csv") {
+            std::ifstream file(out / name, std::ios::binary);
+            EXPECT_EQ("old", std::string((std::istreambuf_iterator<char>(file)), {}));
+        } else {
+            EXPECT_EQ(76u, Lines(out / name).size()) << testing::PrintToString(std::wstring(name));
+        }
+    }
+}
+
+TEST_F(KeyListTest, CancelWritesNothing) {
+    HWND browser = Start();
+    ASSERT_NE(nullptr, browser);
+    ASSERT_TRUE(e2e::Answer(browser, IDCANCEL));
+    EXPECT_EQ(0u, option.WaitOrKill());
+    EXPECT_TRUE(FilesIn(out).empty());
+}
+
+TEST_F(KeyListTest, AVirtualFolderIsToldAndTheBrowserAsksAgain) {
+    HWND browser = Start();
+    ASSERT_NE(nullptr, browser);
+    ASSERT_TRUE(e2e::SelectMyComputer(option.Handle(), browser));
+    ASSERT_TRUE(e2e::Answer(browser, IDOK));
+    HWND box = e2e::FindMessageBox(option.Id());
+    ASSERT_NE(nullptr, box);
+    EXPECT_NE(std::wstring::npos, e2e::DialogText(box).find(L"It can not be output to this directory."));
+    ASSERT_TRUE(e2e::Answer(box, IDOK));
+    browser = e2e::FindFolderBrowser(option.Id());
+    ASSERT_NE(nullptr, browser);
+    Choose(browser);
+    EXPECT_EQ(0u, option.WaitOrKill());
+    EXPECT_EQ(AllListNames(), FilesIn(out));
+}
+
+}  // namespace

@@ -1,0 +1,107 @@
+// The real folder browser, run on a thread of its own and worked from the test's thread.
+#include <gtest/gtest.h>
+#include <windows.h>
+#include <commctrl.h>
+#include <objbase.h>
+#include <shlobj.h>
+
+#include <filesystem>
+#include <functional>
+#include <future>
+#include <string>
+
+#include "platform/win32/Win32Prompts.h"
+
+namespace {
+
+using platform::FolderChoice;
+
+struct Search {
+    DWORD thread;
+    HWND found = nullptr;
+};
+
+// The browser the thread shows: a dialog holding a tree.
+HWND FindBrowser(DWORD thread) {
+    for (int tries = 0; tries < 200; ++tries) {
+        Search search{thread};
+        EnumThreadWindows(
+            thread,
+            [](HWND window, LPARAM data) -> BOOL {
+                if (!IsWindowVisible(window) || !FindWindowExW(window, nullptr, WC_TREEVIEWW, nullptr)) return TRUE;
+                reinterpret_cast<Search*>(data)->found = window;
+                return FALSE;
+            },
+            reinterpret_cast<LPARAM>(&search));
+        if (search.found) return search.found;
+        Sleep(50);
+    }
+    return nullptr;
+}
+
+std::wstring SelectedName(HWND browser) {
+    HWND tree = FindWindowExW(browser, nullptr, WC_TREEVIEWW, nullptr);
+    wchar_t text[MAX_PATH] = {};
+    TVITEMW item = {};
+    item.mask = TVIF_TEXT;
+    item.hItem = TreeView_GetSelection(tree);
+    item.pszText = text;
+    item.cchTextMax = MAX_PATH;
+    TreeView_GetItem(tree, &item);
+    return text;
+}
+
+bool HasText(HWND dialog, const std::wstring& wanted) {
+    for (HWND child = FindWindowExW(dialog, nullptr, L"Static", nullptr); child;
+         child = FindWindowExW(dialog, child, L"Static", nullptr)) {
+        wchar_t text[256] = {};
+        GetWindowTextW(child, text, 256);
+        if (wanted == text) return true;
+    }
+    return false;
+}
+
+// Opens the browser on a thread with COM, lets work act on it, and gives what the browser returned.
+FolderChoice Browse(const std::wstring& start, const std::function<void(HWND)>& work) {
+    std::promise<DWORD> thread;
+    auto choice = std::async(std::launch::async, [&] {
+        CoInitialize(nullptr);
+        thread.set_value(GetCurrentThreadId());
+        platform::win32::Win32Prompts prompts;
+        FolderChoice result = prompts.BrowseForFolder(L"Where to?", start);
+        CoUninitialize();
+        return result;
+    });
+    HWND browser = FindBrowser(thread.get_future().get());
+    EXPECT_NE(nullptr, browser);
+    if (browser) work(browser);
+    return choice.get();
+}
+
+TEST(Win32Prompts, FolderBrowser) {
+    const std::filesystem::path folder = std::filesystem::temp_directory_path() / L"PromptsTestFolder";
+    std::filesystem::create_directories(folder);
+    const std::wstring path = folder.wstring();
+
+    FolderChoice chosen = Browse(path, [&](HWND browser) {
+        EXPECT_TRUE(HasText(browser, L"Where to?"));
+        EXPECT_EQ(L"PromptsTestFolder", SelectedName(browser));
+        PostMessageW(browser, WM_COMMAND, IDOK, 0);
+    });
+    EXPECT_EQ((FolderChoice{true, path}), chosen);
+
+    EXPECT_EQ(FolderChoice{}, Browse(path, [](HWND browser) { PostMessageW(browser, WM_COMMAND, IDCANCEL, 0); }));
+
+    // "My Computer" has no path of its own.
+    FolderChoice computer = Browse(L"", [](HWND browser) {
+        PIDLIST_ABSOLUTE drives = nullptr;
+        ASSERT_EQ(S_OK, SHGetSpecialFolderLocation(nullptr, CSIDL_DRIVES, &drives));
+        SendMessageW(browser, BFFM_SETSELECTIONW, FALSE, reinterpret_cast<LPARAM>(drives));
+        CoTaskMemFree(drives);
+        PostMessageW(browser, WM_COMMAND, IDOK, 0);
+    });
+    EXPECT_EQ((FolderChoice{true, L""}), computer);
+    std::filesystem::remove_all(folder);
+}
+
+}  // namespace
