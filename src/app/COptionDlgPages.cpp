@@ -5,8 +5,10 @@
 
 #include "app/COptionDlg.h"
 #include "pages/COptionAppInfoDlg.h"
+#include "pages/COptionCommonUIDlg.h"
 #include "pages/COptionMessageDlg.h"
 #include "pages/COptionNetworkDlg.h"
+#include "pages/COptionOtherDlg.h"
 #include "pages/COptionOverallStyleDlg.h"
 #include "pages/COptionVersionCheckDlg.h"
 
@@ -30,7 +32,9 @@ std::unique_ptr<OptionPage> MakeGeneric(const OptionPageInfo& page, AppServices&
 
 const std::vector<PageClass>& PageClasses() {
     static const std::vector<PageClass> classes = {
+        {5, &Make<COptionOtherDlg>},
         {20, &Make<COptionAppInfoDlg>},
+        {24, &Make<COptionCommonUIDlg>},
         {30, &Make<COptionNetworkDlg>},
         {34, &Make<COptionVersionCheckDlg>},
         {37, &Make<COptionOverallStyleDlg>},

@@ -70,6 +70,24 @@
 #define IDC_NETWORK_TIMEOUT 1001
 #define IDC_NETWORK_RETRY 1002
 
+// The other page: the user directory, single start, the tray and the script limit.
+#define IDC_OTHER_USER_DIR_MODE 1201
+#define IDC_OTHER_USER_DIR 1051
+#define IDC_OTHER_BROWSE_USER_DIR 1052
+#define IDC_OTHER_OPEN_USER_DIR 1301
+#define IDC_OTHER_DUP_MUTEX 1251
+#define IDC_OTHER_RESIDENT 1252
+#define IDC_OTHER_MAX_SCRIPT 1001
+#define IDC_OTHER_MAX_SCRIPT_SPIN 1351
+
+// The common operation page: drag and drop, renaming, pasting.
+#define IDC_COMMON_UI_DROP_FOLDER 1251
+#define IDC_COMMON_UI_CAN_DRAG 1252
+#define IDC_COMMON_UI_INPLACE_RENAME 1258
+#define IDC_COMMON_UI_SMART_PASTE 1259
+#define IDC_COMMON_UI_DROP_COPY 1151
+#define IDC_COMMON_UI_DROP_MOVE 1152
+
 // The pages of the option dialog.
 #define IDD_OPTION_SKIN 104
 #define IDD_OPTION_KEYSET 105

@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "unit/Utf16.h"
 #include "win32/support/OptionDialogFixture.h"
 
 namespace {
@@ -191,6 +192,83 @@ TEST_F(OptionPagesTest, VersionCheckShowsResetsAndStoresTheInterval) {
     EXPECT_EQ(1, DirectReadInt(kAppInfo, L"VersionCheckBeta", -1));
     EXPECT_EQ(L"stamped by the host", DirectReadString(kAppInfo, L"VersionCheckTime", L""));
     EXPECT_EQ(std::vector<uint16_t>{49017}, Codes());
+}
+
+int ComboSelection(HWND page, int id) {
+    return static_cast<int>(SendMessageW(GetDlgItem(page, id), CB_GETCURSEL, 0, 0));
+}
+
+// The drop combos offer the user's external commands; a stored command that is gone shows, and is
+// stored, as the waiting shell operation. Without drops the combos are off.
+TEST_F(OptionPagesTest, CommonOperationOffersTheUsersCommandsForDrops) {
+    fake_.files().AddFile(L"C:\\User\\ExternalUserCommand.txt",
+                          Utf16Bytes(L"42001\t\t-\tzip.exe\tPack\r\n42600\t\t-\tmail.exe\tMail\r\n", true));
+    app_.commands.LoadCommandLists(L"C:\\User\\");
+    DirectWriteInt(kAppInfo, L"DropExCommand0", 42600);
+    DirectWriteInt(kAppInfo, L"DropExCommand1", 42999);
+    COptionDlg dialog(app_);
+    HWND page = Open(dialog, 24);
+    ASSERT_NE(nullptr, page);
+    EXPECT_EQ(4, SendMessageW(GetDlgItem(page, 1151), CB_GETCOUNT, 0, 0));
+    EXPECT_EQ(3, ComboSelection(page, 1151));
+    EXPECT_EQ(1, ComboSelection(page, 1152));
+    EXPECT_TRUE(Enabled(page, 1151));
+
+    Click(page, 1251);
+    EXPECT_FALSE(Enabled(page, 1151));
+    EXPECT_FALSE(Enabled(page, 1152));
+    SendMessageW(GetDlgItem(page, 1151), CB_SETCURSEL, 2, 0);
+    Apply(dialog);
+    EXPECT_EQ(0, DirectReadInt(kAppInfo, L"DropFolder", -1));
+    EXPECT_EQ(42001, DirectReadInt(kAppInfo, L"DropExCommand0", -1));
+    EXPECT_EQ(1, DirectReadInt(kAppInfo, L"DropExCommand1", -1));
+    EXPECT_EQ(std::vector<uint16_t>{49020}, Codes());
+}
+
+// The chosen folder is typed or browsed only in its own mode; the open button shows the user
+// directory in force; a script limit out of range showed as stored and refuses Apply.
+TEST_F(OptionPagesTest, OtherPageChoosesTheUserDirectoryAndLimitsScripts) {
+    DirectWriteString(kSettings, L"UserDir", L"D:\\Mine");
+    DirectWriteInt(kSettings, L"MaxScript", 99);
+    DirectWriteInt(kSettings, L"EveryFront", 3);
+    COptionDlg dialog(app_);
+    HWND page = Open(dialog, 5);
+    ASSERT_NE(nullptr, page);
+    EXPECT_TRUE(Checked(page, 1201));
+    EXPECT_FALSE(Enabled(page, 1051));
+    EXPECT_EQ(L"99", Field(page, 1001));
+    int lower = 0, upper = 0;
+    SendMessageW(GetDlgItem(page, 1351), UDM_GETRANGE32, reinterpret_cast<WPARAM>(&lower),
+                 reinterpret_cast<LPARAM>(&upper));
+    EXPECT_EQ(std::make_pair(1, 50), std::make_pair(lower, upper));
+
+    Click(page, 1203);
+    EXPECT_TRUE(Enabled(page, 1051));
+    fake_.prompts().ChooseFolder({true, L"E:\\Chosen"});
+    fake_.prompts().ChooseFolder({true, L""});  // a virtual folder: nothing to put in the field
+    Click(page, 1052);
+    EXPECT_EQ(L"E:\\Chosen", Field(page, 1051));
+    Click(page, 1052);
+    EXPECT_EQ(L"E:\\Chosen", Field(page, 1051));
+    ASSERT_EQ(2u, fake_.prompts().browsed().size());
+    EXPECT_EQ(L"D:\\Mine", fake_.prompts().browsed()[0].start);
+    EXPECT_EQ(L"E:\\Chosen", fake_.prompts().browsed()[1].start);
+
+    Click(page, 1301);
+    ASSERT_EQ(1u, fake_.processes().shellRequests().size());
+    EXPECT_EQ(app_.directories.UserDirectory(), fake_.processes().shellRequests()[0].file);
+
+    Apply(dialog);
+    EXPECT_EQ(L"Please enter an integer between 1 and 50.", Messages().back());
+    EXPECT_EQ(0, DirectReadInt(kSettings, L"UserDirMode", 0)) << "nothing stored";
+    Type(page, 1001, L"50");
+    Apply(dialog);
+    EXPECT_EQ(2, DirectReadInt(kSettings, L"UserDirMode", -1));
+    EXPECT_EQ(L"E:\\Chosen", DirectReadString(kSettings, L"UserDir", L""));
+    EXPECT_EQ(50, DirectReadInt(kSettings, L"MaxScript", -1));
+    EXPECT_EQ(3, DirectReadInt(kSettings, L"EveryFront", -1)) << "written back as it was";
+    EXPECT_EQ(L"<absent>", DirectReadString(kSettings, L"NLS", L"<absent>"));
+    EXPECT_EQ(std::vector<uint16_t>{49011}, Codes());
 }
 
 }  // namespace
