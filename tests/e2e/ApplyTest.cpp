@@ -66,6 +66,7 @@ TEST(Apply, GeneralPageStoresItsValuesAndEveryHostHearsEachSeries) {
     e2e::registry::ScopedKey appInfo(kAppInfo);
     e2e::registry::ScopedKey settings(kSettings);
     e2e::registry::WriteDword(kAppInfo, L"DragHelper", 1);
+    e2e::registry::DeleteValue(kAppInfo, L"ListReserveVal");
     e2e::FakeHost first;
     e2e::FakeHost second({.title = L"Qor 2"});
     ASSERT_TRUE(first.Window());
@@ -98,6 +99,8 @@ TEST(Apply, GeneralPageStoresItsValuesAndEveryHostHearsEachSeries) {
 TEST(Apply, OutOfRangeValueRefusesAndOkStillCloses) {
     e2e::registry::ScopedKey page(kOptionPage);
     e2e::registry::ScopedKey appInfo(kAppInfo);
+    e2e::registry::WriteDword(kAppInfo, L"UsePing", 0);
+    e2e::registry::WriteDword(kAppInfo, L"NetworkTimeout", 500);
     e2e::FakeHost host;
     ASSERT_TRUE(host.Window());
     OpenDialog open(30);
@@ -113,7 +116,7 @@ TEST(Apply, OutOfRangeValueRefusesAndOkStillCloses) {
     PostMessageW(open.dialog, WM_COMMAND, MAKEWPARAM(kApply, BN_CLICKED), 0);
     EXPECT_EQ(L"Please enter an integer between 10 and 5000000.", TakeMessageBox(open.option));
     SendMessageW(open.dialog, WM_NULL, 0, 0);
-    EXPECT_FALSE(e2e::registry::ReadDword(kAppInfo, L"UsePing"));
+    EXPECT_EQ(0u, e2e::registry::ReadDword(kAppInfo, L"UsePing").value_or(99));
     EXPECT_TRUE(host.Commands().empty());
 
     // The root of the tree is selected now; a full pass would make it Start.
@@ -123,7 +126,7 @@ TEST(Apply, OutOfRangeValueRefusesAndOkStillCloses) {
     EXPECT_EQ(L"Please enter an integer between 10 and 5000000.", TakeMessageBox(open.option));
     EXPECT_EQ(0u, open.option.WaitOrKill());
     EXPECT_EQ(30u, e2e::registry::ReadDword(kOptionPage, L"Start").value_or(0));
-    EXPECT_FALSE(e2e::registry::ReadDword(kAppInfo, L"NetworkTimeout"));
+    EXPECT_EQ(500u, e2e::registry::ReadDword(kAppInfo, L"NetworkTimeout").value_or(0));
     EXPECT_TRUE(host.Commands().empty());
 }
 

@@ -16,6 +16,7 @@
 #include "support/OptionTree.h"
 #include "support/OptionWindow.h"
 #include "support/Process.h"
+#include "support/Registry.h"
 
 namespace {
 
@@ -122,6 +123,8 @@ struct Figures {
 }  // namespace
 
 int wmain(int argc, wchar_t** argv) {
+    // Apply stores every opened page's settings; the tests that run later expect the settings they left.
+    e2e::registry::ScopedKey settings(L"Software\\Tarnwick");
     int runs = argc > 1 ? _wtoi(argv[1]) : 21;
     if (runs < 1) runs = 1;
     const std::wstring floorProgram = e2e::TestDirectory() + L"\\EmptyDialog.exe";

@@ -85,6 +85,8 @@ TEST(Win32Prompts, FolderBrowser) {
 
     FolderChoice chosen = Browse(path, [&](HWND browser) {
         EXPECT_TRUE(HasText(browser, L"Where to?"));
+        // The browser may show itself before it has walked its tree down to the start folder.
+        for (int tries = 0; tries < 100 && SelectedName(browser) != L"PromptsTestFolder"; ++tries) Sleep(50);
         EXPECT_EQ(L"PromptsTestFolder", SelectedName(browser));
         PostMessageW(browser, WM_COMMAND, IDOK, 0);
     });
