@@ -132,7 +132,7 @@ int wmain(int argc, wchar_t** argv) {
     const std::wstring option = e2e::OptionExePath();
 
     Figures floor{"empty dialog (floor)"}, dialog{"option dialog"};
-    Figures controls{"empty dialog with the common controls and a tree view"};
+    Figures controls{"empty dialog with the common controls, a tree view and the dialog font"};
     Figures firstSwitch{"switch to a page never opened"}, againSwitch{"switch to a page already open"};
     Figures firstSelection{"  of which the selection message"}, idle{"waiting for the idle dialog alone"};
     Figures apply{"Apply with every page opened"};
@@ -148,6 +148,8 @@ int wmain(int argc, wchar_t** argv) {
             std::printf("the empty dialog with the common controls did not show or did not end\n");
             return 1;
         }
+        // Every run opens as a first opening does, on the group pane, not on the page Apply stored.
+        e2e::registry::DeleteValue(L"Software\\Tarnwick\\QOR\\Command\\Option\\OptionPage", L"Start");
         Shown shown = StartAndTime(option, L"オプション");
         if (!shown.dialog) {
             std::printf("the option dialog did not show\n");
@@ -174,7 +176,8 @@ int wmain(int argc, wchar_t** argv) {
     const double floorMs = floor.Print();
     const double controlsMs = controls.Print();
     const double dialogMs = dialog.Print();
-    std::printf("the common controls alone over the floor: %.1f ms\n", controlsMs - floorMs);
+    std::printf("what the option dialog cannot do without, over the floor: %.1f ms\n", controlsMs - floorMs);
+    std::printf("option dialog over that: %.1f ms (ratio %.2f)\n", dialogMs - controlsMs, dialogMs / controlsMs);
     std::printf("option dialog over the floor: %.1f ms (ratio %.2f, target 1.30 or less)\n", dialogMs - floorMs,
                 dialogMs / floorMs);
     const double switchMs = firstSwitch.Print();
