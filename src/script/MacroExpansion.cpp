@@ -15,8 +15,8 @@ struct DateRow {
 
 // Time with hyphens, so that "?Date?_?Time?" makes a file name.
 constexpr DateRow kDateRows[] = {
-    {L"?Date?", L"%Y-%m-%d"}, {L"?Time?", L"%H-%M-%S"}, {L"?Year?", L"%Y"},     {L"?Month?", L"%m"},
-    {L"?Day?", L"%d"},        {L"?Hour?", L"%H"},       {L"?Minute?", L"%M"},   {L"?Second?", L"%S"},
+    {L"?Date?", L"%Y-%m-%d"}, {L"?Time?", L"%H-%M-%S"}, {L"?Year?", L"%Y"},      {L"?Month?", L"%m"},
+    {L"?Day?", L"%d"},        {L"?Hour?", L"%H"},       {L"?Minute?", L"%M"},    {L"?Second?", L"%S"},
     {L"?Week?", L"%a"},       {L"?WEEK?", L"%A"},       {L"?ShellTime?", L"%c"},
 };
 constexpr size_t kDateBufferChars = 128;
@@ -34,11 +34,11 @@ struct ItemRow {
 
 // Of the selected file the capitalised macro is quoted, of all the others the lower-case one.
 constexpr ItemRow kItemRows[] = {
-    {L"?SelFile?", ItemPart::Path, true},         {L"?selfile?", ItemPart::Path, false},
-    {L"?FileName?", ItemPart::FileName, false},   {L"?Name?", ItemPart::Name, false},
-    {L"?Ext?", ItemPart::Extension, false},       {L"?filename?", ItemPart::FileName, true},
-    {L"?name?", ItemPart::Name, true},            {L"?ext?", ItemPart::Extension, true},
-    {L"?selpath?", ItemPart::Directory, true},    {L"?SelPath?", ItemPart::Directory, false},
+    {L"?SelFile?", ItemPart::Path, true},       {L"?selfile?", ItemPart::Path, false},
+    {L"?FileName?", ItemPart::FileName, false}, {L"?Name?", ItemPart::Name, false},
+    {L"?Ext?", ItemPart::Extension, false},     {L"?filename?", ItemPart::FileName, true},
+    {L"?name?", ItemPart::Name, true},          {L"?ext?", ItemPart::Extension, true},
+    {L"?selpath?", ItemPart::Directory, true},  {L"?SelPath?", ItemPart::Directory, false},
     {L"?SelParent?", ItemPart::Parent, false},
 };
 
@@ -57,12 +57,18 @@ std::wstring PathForPrograms(const std::wstring& path) {
 
 std::wstring ItemValue(const std::wstring& item, const PathParts& parts, ItemPart part) {
     switch (part) {
-    case ItemPart::Path: return PathForPrograms(item);
-    case ItemPart::FileName: return parts.name + parts.extension;
-    case ItemPart::Name: return parts.name;
-    case ItemPart::Extension: return parts.extension;
-    case ItemPart::Directory: return parts.drive + parts.directory;
-    case ItemPart::Parent: return StripSeparator(parts.drive + parts.directory);
+        case ItemPart::Path:
+            return PathForPrograms(item);
+        case ItemPart::FileName:
+            return parts.name + parts.extension;
+        case ItemPart::Name:
+            return parts.name;
+        case ItemPart::Extension:
+            return parts.extension;
+        case ItemPart::Directory:
+            return parts.drive + parts.directory;
+        case ItemPart::Parent:
+            return StripSeparator(parts.drive + parts.directory);
     }
     return std::wstring();
 }

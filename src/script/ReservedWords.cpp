@@ -5,9 +5,9 @@
 namespace {
 
 // "skip" and "stop" do nothing but are kept back all the same.
-constexpr const wchar_t* kReservedWords[] = {L"if",    L"endif", L"var",      L"goto",  L"exit", L"exitall",
-                                             L"for",   L"next",  L"continue", L"break", L"skip", L"stop",
-                                             L"else",  L"while", L"do",       L"debug"};
+constexpr const wchar_t* kReservedWords[] = {L"if",   L"endif", L"var",      L"goto",  L"exit", L"exitall",
+                                             L"for",  L"next",  L"continue", L"break", L"skip", L"stop",
+                                             L"else", L"while", L"do",       L"debug"};
 
 }  // namespace
 

@@ -10,10 +10,17 @@ int32_t ScriptRunner::Run(std::wstring scriptPath, std::wstring nowDirectory, st
                           SelectionList& selection, uint32_t forcedOpenMode, int allowCommandLine,
                           platform::WindowRef hostWindow, int selectionCommandLine, int reserved,
                           VariableTable* variables, RunOptionTable* options) {
-    const ScriptArguments arguments{std::move(scriptPath), std::move(nowDirectory), std::move(targetPath),
-                                    &selection,           forcedOpenMode,         allowCommandLine,
-                                    hostWindow,           selectionCommandLine,   reserved,
-                                    variables,            options};
+    const ScriptArguments arguments{std::move(scriptPath),
+                                    std::move(nowDirectory),
+                                    std::move(targetPath),
+                                    &selection,
+                                    forcedOpenMode,
+                                    allowCommandLine,
+                                    hostWindow,
+                                    selectionCommandLine,
+                                    reserved,
+                                    variables,
+                                    options};
     try {
         return RunFrame(arguments);
     } catch (const ScriptInvalidArgument&) {

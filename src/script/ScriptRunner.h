@@ -23,8 +23,8 @@ public:
     // option "?SelFile?"; reserved is handed on to included scripts. Null tables are made for the run.
     // -1 when the script ended with "exitall", 0 for every other ending, errors included.
     int32_t Run(std::wstring scriptPath, std::wstring nowDirectory, std::wstring targetPath, SelectionList& selection,
-                uint32_t forcedOpenMode, int allowCommandLine, platform::WindowRef hostWindow,
-                int selectionCommandLine, int reserved, VariableTable* variables, RunOptionTable* options);
+                uint32_t forcedOpenMode, int allowCommandLine, platform::WindowRef hostWindow, int selectionCommandLine,
+                int reserved, VariableTable* variables, RunOptionTable* options);
 
     // One frame, for Run and for every script a script includes.
     int32_t RunFrame(const ScriptArguments& arguments);

@@ -11,11 +11,12 @@ struct CivilTime {
     int month;  // 1-12
     int day;    // 1-31
     int hour, minute, second;
-    int weekday;    // 0 Sunday
-    int yearDay;    // 0-365
+    int weekday;  // 0 Sunday
+    int yearDay;  // 0-365
 };
 
-constexpr const wchar_t* kDays[] = {L"Sunday", L"Monday", L"Tuesday", L"Wednesday", L"Thursday", L"Friday", L"Saturday"};
+constexpr const wchar_t* kDays[] = {L"Sunday",   L"Monday", L"Tuesday", L"Wednesday",
+                                    L"Thursday", L"Friday", L"Saturday"};
 constexpr const wchar_t* kMonths[] = {L"January", L"February", L"March",     L"April",   L"May",      L"June",
                                       L"July",    L"August",   L"September", L"October", L"November", L"December"};
 
@@ -58,29 +59,66 @@ std::wstring Number(int64_t value, int width) {
 
 bool Convert(wchar_t conversion, const CivilTime& t, std::wstring& out) {
     switch (conversion) {
-    case L'a': out += std::wstring(kDays[t.weekday], 3); return true;
-    case L'A': out += kDays[t.weekday]; return true;
-    case L'b': out += std::wstring(kMonths[t.month - 1], 3); return true;
-    case L'B': out += kMonths[t.month - 1]; return true;
-    case L'c':
-        Convert(L'x', t, out);
-        out += L' ';
-        return Convert(L'X', t, out);
-    case L'd': out += Number(t.day, 2); return true;
-    case L'H': out += Number(t.hour, 2); return true;
-    case L'I': out += Number(t.hour % 12 == 0 ? 12 : t.hour % 12, 2); return true;
-    case L'j': out += Number(t.yearDay + 1, 3); return true;
-    case L'm': out += Number(t.month, 2); return true;
-    case L'M': out += Number(t.minute, 2); return true;
-    case L'p': out += t.hour < 12 ? L"AM" : L"PM"; return true;
-    case L'S': out += Number(t.second, 2); return true;
-    case L'w': out += Number(t.weekday, 1); return true;
-    case L'x': out += Number(t.month, 2) + L'/' + Number(t.day, 2) + L'/' + Number(t.year % 100, 2); return true;
-    case L'X': out += Number(t.hour, 2) + L':' + Number(t.minute, 2) + L':' + Number(t.second, 2); return true;
-    case L'y': out += Number(t.year % 100, 2); return true;
-    case L'Y': out += Number(t.year, 1); return true;
-    case L'%': out += L'%'; return true;
-    default: return false;
+        case L'a':
+            out += std::wstring(kDays[t.weekday], 3);
+            return true;
+        case L'A':
+            out += kDays[t.weekday];
+            return true;
+        case L'b':
+            out += std::wstring(kMonths[t.month - 1], 3);
+            return true;
+        case L'B':
+            out += kMonths[t.month - 1];
+            return true;
+        case L'c':
+            Convert(L'x', t, out);
+            out += L' ';
+            return Convert(L'X', t, out);
+        case L'd':
+            out += Number(t.day, 2);
+            return true;
+        case L'H':
+            out += Number(t.hour, 2);
+            return true;
+        case L'I':
+            out += Number(t.hour % 12 == 0 ? 12 : t.hour % 12, 2);
+            return true;
+        case L'j':
+            out += Number(t.yearDay + 1, 3);
+            return true;
+        case L'm':
+            out += Number(t.month, 2);
+            return true;
+        case L'M':
+            out += Number(t.minute, 2);
+            return true;
+        case L'p':
+            out += t.hour < 12 ? L"AM" : L"PM";
+            return true;
+        case L'S':
+            out += Number(t.second, 2);
+            return true;
+        case L'w':
+            out += Number(t.weekday, 1);
+            return true;
+        case L'x':
+            out += Number(t.month, 2) + L'/' + Number(t.day, 2) + L'/' + Number(t.year % 100, 2);
+            return true;
+        case L'X':
+            out += Number(t.hour, 2) + L':' + Number(t.minute, 2) + L':' + Number(t.second, 2);
+            return true;
+        case L'y':
+            out += Number(t.year % 100, 2);
+            return true;
+        case L'Y':
+            out += Number(t.year, 1);
+            return true;
+        case L'%':
+            out += L'%';
+            return true;
+        default:
+            return false;
     }
 }
 

@@ -46,8 +46,11 @@ public:
     void AddHostWindow(WindowRef window) { windows_.push_back(window); }
     // A window of another class that a title finds; 0 takes it away again.
     void SetTitledWindow(const std::wstring& title, WindowRef window) {
-        if (window) titled_[title] = window;
-        else titled_.erase(title);
+        if (window) {
+            titled_[title] = window;
+        } else {
+            titled_.erase(title);
+        }
     }
     // Windows given by SetForeground, and those forced forward, in turn.
     const std::vector<WindowRef>& foreground() const { return foreground_; }

@@ -47,8 +47,8 @@ TEST_F(MacroExpansionTest, Places) {
         std::wstring expected;
     };
     const Case cases[] = {
-        {"no now-directory: all six vanish", L"", L"D:\\x\\y.txt", L"a?Drive??Dir??NowDir??nowdir??TargetDir??TargetDrive?b",
-         L"ab"},
+        {"no now-directory: all six vanish", L"", L"D:\\x\\y.txt",
+         L"a?Drive??Dir??NowDir??nowdir??TargetDir??TargetDrive?b", L"ab"},
         {"with a now-directory", L"C:\\Work\\", L"D:\\dir\\file.txt", L"?Drive?|?Dir?|?NowDir?|?nowdir?|?TargetDir?",
          L"D:|\\dir\\|\"C:\\Work\"|C:\\Work|"},
         {"a drive root keeps its separator", L"C:\\", L"", L"?NowDir??nowdir?", L"\"C:\\\"C:\\"},
@@ -70,7 +70,8 @@ TEST_F(MacroExpansionTest, ItemMacros) {
         std::wstring text;
         std::wstring expected;
     };
-    const std::wstring all = L"?SelFile?|?selfile?|?FileName?|?Name?|?Ext?|?filename?|?name?|?ext?|?selpath?|?SelPath?|?SelParent?";
+    const std::wstring all =
+        L"?SelFile?|?selfile?|?FileName?|?Name?|?Ext?|?filename?|?name?|?ext?|?selpath?|?SelPath?|?SelParent?";
     const Case cases[] = {
         {"all eleven", L"C:\\Data\\report.txt", all,
          L"\"C:\\Data\\report.txt\"|C:\\Data\\report.txt|report.txt|report|.txt|\"report.txt\"|\"report\"|\".txt\"|"

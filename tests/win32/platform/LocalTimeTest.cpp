@@ -14,16 +14,17 @@ using differential::Generator;
 using differential::Mismatches;
 using differential::Narrow;
 
-constexpr const wchar_t* kFormats[] = {L"%Y-%m-%d", L"%H-%M-%S", L"%a", L"%A", L"%c", L"%b %B %d %I %j %p %w %x %X %y %%"};
+constexpr const wchar_t* kFormats[] = {L"%Y-%m-%d", L"%H-%M-%S", L"%a",
+                                       L"%A",       L"%c",       L"%b %B %d %I %j %p %w %x %X %y %%"};
 
-std::wstring RuntimeFormat(const struct tm& time, const wchar_t* format, size_t bufferChars = 128) {
-    std::vector<wchar_t> buffer(bufferChars, 0);
+std::wstring RuntimeFormat(const struct tm& time, const wchar_t* format) {
+    std::vector<wchar_t> buffer(128, 0);
     size_t length = wcsftime(buffer.data(), buffer.size(), format, &time);
     return std::wstring(buffer.data(), length);
 }
 
 TEST(LocalTime, TheCLocaleFormatsMatchTheRuntime) {
-    std::vector<int64_t> instants = {0,          86399,      951782400,  951868799, 978307199,
+    std::vector<int64_t> instants = {0,          86399,      951782400,  951868799,  978307199,
                                      1709647629, 4107542400, 4102444799, 32503679999};
     Generator g(20241122);
     for (int i = 0; i < 3000; ++i) instants.push_back(static_cast<int64_t>(g.engine()() % 32503680000ull));
@@ -53,7 +54,6 @@ TEST(LocalTime, TheRealEnvironmentIsTheRuntimesLocalTime) {
         ASSERT_EQ(0, _localtime64_s(&local, &before));
         for (const wchar_t* format : kFormats)
             EXPECT_EQ(RuntimeFormat(local, format), environment.FormatLocalTime(now, format, 128)) << Narrow(format);
-        EXPECT_EQ(L"", environment.FormatLocalTime(now, L"%A", 3)) << "too long for the buffer";
         EXPECT_EQ(L"", environment.FormatLocalTime(now, L"", 128));
         return;
     }

@@ -81,7 +81,7 @@ protected:
     platform::fake::FakePlatform fake_;
     platform::win32::Win32HostWindows windows_;
     platform::win32::Win32Environment environment_;
-    platform::Platform platform_{fake_.registry(), fake_.files(), environment_, fake_.prompts(),
+    platform::Platform platform_{fake_.registry(), fake_.files(), environment_,         fake_.prompts(),
                                  fake_.system(),   windows_,      fake_.sharedMemory(), fake_.processes()};
     platform::Installed installed_{platform_};
     UserDirectories directories_;
@@ -109,7 +109,8 @@ TEST_F(ScriptOnRealWindows, WithoutADebugLineTheWindowHearsNothing) {
 }
 
 TEST_F(ScriptOnRealWindows, DateMacrosAreTheRuntimesLocalTime) {
-    const std::wstring script = AddScript(L"C:\\s\\date.txt", L"include = C:\\?Date?_?Time? ?Week? ?WEEK? ?ShellTime?\r\n");
+    const std::wstring script =
+        AddScript(L"C:\\s\\date.txt", L"include = C:\\?Date?_?Time? ?Week? ?WEEK? ?ShellTime?\r\n");
     for (int attempt = 0; attempt < 3; ++attempt) {
         fake_.prompts().Clear();
         const __time64_t before = _time64(nullptr);
