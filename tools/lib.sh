@@ -26,11 +26,23 @@ PACKAGES=(
   "fonts-noto-cjk:/usr/share/fonts/opentype/noto/NotoSansCJK-Regular.ttc"
 )
 
+# What tools/fuzz needs beyond that: clang with libFuzzer, and the OpenMP runtime clang links against.
+FUZZ_PACKAGES=(
+  "clang:/usr/bin/clang++"
+  "libclang-rt-dev:/usr/lib/llvm-14/lib/clang/14.0.6/lib/linux/libclang_rt.fuzzer-x86_64.a"
+  "libomp-dev:/usr/lib/llvm-14/lib/libomp.so"
+)
+
 log() { printf '%s\n' "$*" >&2; }
 
 bootstrap() {
+  install_missing "${PACKAGES[@]}"
+}
+
+# install_missing PACKAGE:PROOF...: installs the packages whose proof is not on the disk.
+install_missing() {
   local missing=() entry
-  for entry in "${PACKAGES[@]}"; do
+  for entry in "$@"; do
     [ -e "${entry#*:}" ] || missing+=("${entry%%:*}")
   done
   [ ${#missing[@]} -eq 0 ] && return 0

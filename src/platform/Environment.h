@@ -1,6 +1,8 @@
 // Process environment: variables and the program's own place.
 #pragma once
 
+#include <cstddef>
+#include <cstdint>
 #include <string>
 
 #include "platform/LogFont.h"
@@ -24,6 +26,11 @@ public:
     virtual bool UserName(std::wstring& name) = 0;
     // The font of icon titles (SPI_GETICONTITLELOGFONT): the default of every font setting.
     virtual LogFont IconTitleFont() = 0;
+    // _time64: seconds since 1970-01-01 00:00 UTC.
+    virtual int64_t CurrentTime() = 0;
+    // wcsftime of the local time at `time` into a buffer of bufferChars characters, in the C runtime's
+    // locale of the moment; empty when the format yields nothing or the result does not fit.
+    virtual std::wstring FormatLocalTime(int64_t time, const std::wstring& format, size_t bufferChars) = 0;
 };
 
 }  // namespace platform

@@ -19,6 +19,8 @@ public:
 
     // The first top-level window of the host's class that the system returns, or 0.
     virtual WindowRef FindHostWindow() = 0;
+    // FindWindowW by title alone: a top-level window of any class with that title, or 0.
+    virtual WindowRef FindWindowByTitle(const std::wstring& title) = 0;
     // Every top-level window of the host's class, in the order the system returns them.
     virtual std::vector<WindowRef> AllHostWindows() = 0;
     // SetForegroundWindow and nothing more.

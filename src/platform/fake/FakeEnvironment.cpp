@@ -1,6 +1,7 @@
 #include "platform/fake/FakeEnvironment.h"
 
 #include "platform/fake/CaseFold.h"
+#include "platform/fake/CLocaleTime.h"
 
 namespace platform::fake {
 
@@ -21,6 +22,10 @@ void FakeEnvironment::SetVariable(const std::wstring& name, const std::wstring& 
 
 void FakeEnvironment::RemoveVariable(const std::wstring& name) {
     variables_.erase(UpperCase(name));
+}
+
+std::wstring FakeEnvironment::FormatLocalTime(int64_t time, const std::wstring& format, size_t bufferChars) {
+    return FormatCLocaleTime(time + utcOffset_, format, bufferChars);
 }
 
 }  // namespace platform::fake

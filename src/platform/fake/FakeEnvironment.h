@@ -15,6 +15,9 @@ public:
     LogFont IconTitleFont() override { return iconTitleFont_; }
     bool LocalAppDataFolder(std::wstring& path) override { return Give(localAppData_, path); }
     bool UserName(std::wstring& name) override { return Give(userName_, name); }
+    int64_t CurrentTime() override { return currentTime_; }
+    // In the "C" locale, with local time the fixed offset from UTC.
+    std::wstring FormatLocalTime(int64_t time, const std::wstring& format, size_t bufferChars) override;
 
     // Names ignore case; the name keeps the spelling it was first set with.
     void SetVariable(const std::wstring& name, const std::wstring& value);
@@ -24,6 +27,9 @@ public:
     // An empty text makes the call fail.
     void SetLocalAppDataFolder(const std::wstring& path) { localAppData_ = path; }
     void SetUserName(const std::wstring& name) { userName_ = name; }
+    // The clock stands still at what it was set to.
+    void SetCurrentTime(int64_t time) { currentTime_ = time; }
+    void SetUtcOffset(int32_t seconds) { utcOffset_ = seconds; }
 
 private:
     static bool Give(const std::wstring& value, std::wstring& out) {
@@ -40,6 +46,8 @@ private:
     LogFont iconTitleFont_;
     std::wstring localAppData_ = L"C:\\Users\\tester\\AppData\\Local";
     std::wstring userName_ = L"tester";
+    int64_t currentTime_ = 1709647629;  // 2024-03-05 14:07:09 UTC, a Tuesday
+    int32_t utcOffset_ = 0;
 };
 
 }  // namespace platform::fake

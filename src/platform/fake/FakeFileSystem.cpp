@@ -352,8 +352,17 @@ bool FakeFileSystem::FullPathName(const std::wstring& path, size_t bufferChars, 
     return true;
 }
 
-// Walks the text name by name so that everything but short names stays as the caller wrote it.
 bool FakeFileSystem::LongPathName(const std::wstring& path, std::wstring& longPath) {
+    return ConvertNames(path, false, longPath);
+}
+
+bool FakeFileSystem::ShortPathName(const std::wstring& path, std::wstring& shortPath) {
+    return ConvertNames(path, true, shortPath);
+}
+
+// Walks the text name by name so that everything but the names converted stays as the caller wrote
+// it: toShort puts in each 8.3 name there is, otherwise short names become long ones.
+bool FakeFileSystem::ConvertNames(const std::wstring& path, bool toShort, std::wstring& converted) {
     std::wstring_view text = path;
     std::wstring result;
     if (IsVerbatim(text)) {
@@ -387,14 +396,18 @@ bool FakeFileSystem::LongPathName(const std::wstring& path, std::wstring& longPa
             if (!node->IsDirectory()) return false;
             std::shared_ptr<Node> child = node->Child(name);
             if (!child) return false;
-            if (!EqualNoCase(child->name, name)) name = child->name;
+            if (toShort) {
+                if (!child->shortName.empty()) name = child->shortName;
+            } else if (!EqualNoCase(child->name, name)) {
+                name = child->name;
+            }
             node = child;
         }
         result += name;
         if (end < text.size()) result += text[end];
         i = end + 1;
     }
-    longPath = result;
+    converted = result;
     return true;
 }
 

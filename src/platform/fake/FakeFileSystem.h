@@ -24,6 +24,7 @@ public:
     std::vector<FindData> FindAll(const std::wstring& pattern, FindStyle style) override;
     bool FullPathName(const std::wstring& path, size_t bufferChars, std::wstring& full) override;
     bool LongPathName(const std::wstring& path, std::wstring& longPath) override;
+    bool ShortPathName(const std::wstring& path, std::wstring& shortPath) override;
     int CreateDirectoryTree(const std::wstring& path) override;
     int ShellVersion() override { return shellVersion_; }
     std::unique_ptr<File> Open(const std::wstring& path, FileAccess access, bool denyWrite) override;
@@ -51,6 +52,7 @@ public:
 private:
     class OpenFile;
     std::shared_ptr<Node> Lookup(const std::wstring& path);
+    bool ConvertNames(const std::wstring& path, bool toShort, std::wstring& converted);
     std::shared_ptr<Node> Add(const std::wstring& path, bool directory);
     int CreateOneDirectory(const std::wstring& path);
     std::vector<FindData> Find(const std::wstring& pattern, FindStyle style, bool firstOnly);

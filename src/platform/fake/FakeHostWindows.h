@@ -1,6 +1,7 @@
 // Host windows for tests: the windows that exist, and everything said to them.
 #pragma once
 
+#include <map>
 #include <string>
 #include <vector>
 
@@ -26,6 +27,10 @@ struct SentCopyData {
 class FakeHostWindows : public HostWindows {
 public:
     WindowRef FindHostWindow() override { return windows_.empty() ? 0 : windows_.front(); }
+    WindowRef FindWindowByTitle(const std::wstring& title) override {
+        auto found = titled_.find(title);
+        return found == titled_.end() ? 0 : found->second;
+    }
     std::vector<WindowRef> AllHostWindows() override { return windows_; }
     void SetForeground(WindowRef window) override { foreground_.push_back(window); }
     void ForceForeground(WindowRef window) override { forced_.push_back(window); }
@@ -39,6 +44,14 @@ public:
 
     // Host windows in the order the system returns them.
     void AddHostWindow(WindowRef window) { windows_.push_back(window); }
+    // A window of another class that a title finds; 0 takes it away again.
+    void SetTitledWindow(const std::wstring& title, WindowRef window) {
+        if (window) {
+            titled_[title] = window;
+        } else {
+            titled_.erase(title);
+        }
+    }
     // Windows given by SetForeground, and those forced forward, in turn.
     const std::vector<WindowRef>& foreground() const { return foreground_; }
     const std::vector<WindowRef>& forced() const { return forced_; }
@@ -47,6 +60,7 @@ public:
 
 private:
     std::vector<WindowRef> windows_;
+    std::map<std::wstring, WindowRef> titled_;
     std::vector<WindowRef> foreground_;
     std::vector<WindowRef> forced_;
     std::vector<SentCommand> commands_;

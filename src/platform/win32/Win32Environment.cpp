@@ -4,6 +4,7 @@
 #include <shlobj.h>
 
 #include <algorithm>
+#include <ctime>
 #include <iterator>
 #include <vector>
 
@@ -69,6 +70,19 @@ bool Win32Environment::UserName(std::wstring& name) {
     if (!GetUserNameW(buffer, &length)) return false;
     name = buffer;
     return true;
+}
+
+int64_t Win32Environment::CurrentTime() {
+    return _time64(nullptr);
+}
+
+std::wstring Win32Environment::FormatLocalTime(int64_t time, const std::wstring& format, size_t bufferChars) {
+    const __time64_t value = time;
+    struct tm local = {};
+    if (_localtime64_s(&local, &value) != 0 || bufferChars == 0) return std::wstring();
+    std::vector<wchar_t> buffer(bufferChars, 0);
+    size_t length = wcsftime(buffer.data(), buffer.size(), format.c_str(), &local);
+    return std::wstring(buffer.data(), length);
 }
 
 std::wstring ProgramName() {

@@ -11,6 +11,8 @@ public:
     LogFont IconTitleFont() override;
     bool LocalAppDataFolder(std::wstring& path) override;
     bool UserName(std::wstring& name) override;
+    int64_t CurrentTime() override;
+    std::wstring FormatLocalTime(int64_t time, const std::wstring& format, size_t bufferChars) override;
 };
 
 // The running program's file name without directory and extension ("Option").

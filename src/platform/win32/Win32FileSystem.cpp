@@ -102,17 +102,31 @@ bool Win32FileSystem::FullPathName(const std::wstring& path, size_t bufferChars,
     return true;
 }
 
-bool Win32FileSystem::LongPathName(const std::wstring& path, std::wstring& longPath) {
+namespace {
+
+// GetLongPathNameW and GetShortPathNameW alike: grows the buffer until the result fits.
+bool ConvertPathName(DWORD(WINAPI* convert)(LPCWSTR, LPWSTR, DWORD), const std::wstring& path,
+                     std::wstring& converted) {
     std::vector<wchar_t> buffer(MAX_PATH);
     for (;;) {
-        DWORD length = GetLongPathNameW(path.c_str(), buffer.data(), static_cast<DWORD>(buffer.size()));
+        DWORD length = convert(path.c_str(), buffer.data(), static_cast<DWORD>(buffer.size()));
         if (length == 0) return false;
         if (length < buffer.size()) {
-            longPath.assign(buffer.data(), length);
+            converted.assign(buffer.data(), length);
             return true;
         }
         buffer.resize(length);
     }
+}
+
+}  // namespace
+
+bool Win32FileSystem::LongPathName(const std::wstring& path, std::wstring& longPath) {
+    return ConvertPathName(GetLongPathNameW, path, longPath);
+}
+
+bool Win32FileSystem::ShortPathName(const std::wstring& path, std::wstring& shortPath) {
+    return ConvertPathName(GetShortPathNameW, path, shortPath);
 }
 
 int Win32FileSystem::CreateDirectoryTree(const std::wstring& path) {

@@ -22,6 +22,10 @@ WindowRef Win32HostWindows::FindHostWindow() {
     return reinterpret_cast<WindowRef>(FindWindowW(kHostClassName, nullptr));
 }
 
+WindowRef Win32HostWindows::FindWindowByTitle(const std::wstring& title) {
+    return reinterpret_cast<WindowRef>(FindWindowW(nullptr, title.c_str()));
+}
+
 std::vector<WindowRef> Win32HostWindows::AllHostWindows() {
     std::vector<WindowRef> windows;
     HWND window = nullptr;

@@ -10,6 +10,7 @@ constexpr const wchar_t* kHostClassName = L"{0F04AF43-7B85-46A5-A0A7-6D323A84AD7
 class Win32HostWindows : public HostWindows {
 public:
     WindowRef FindHostWindow() override;
+    WindowRef FindWindowByTitle(const std::wstring& title) override;
     std::vector<WindowRef> AllHostWindows() override;
     void SetForeground(WindowRef window) override;
     void ForceForeground(WindowRef window) override;

@@ -331,6 +331,21 @@ TEST_P(FileSystemContract, LongPathNamesExpandShortNames) {
     EXPECT_EQ("x", ReadFile(shortDirectory + L"\\inner.txt")) << "the short name reaches the file";
 }
 
+TEST_P(FileSystemContract, ShortPathNamesUseEightDotThreeNamesWhereThereAreSome) {
+    std::wstring longDirectory = At(L"Long Directory Name");
+    ASSERT_EQ(0, files().CreateDirectoryTree(longDirectory));
+    ASSERT_TRUE(WriteFile(longDirectory + L"\\inner.txt", "x"));
+    std::wstring shortPath;
+    EXPECT_FALSE(files().ShortPathName(At(L"missing"), shortPath));
+    std::wstring shortDirectory = harness_->ShortForm(longDirectory);
+    if (shortDirectory.empty()) GTEST_SKIP() << "no 8.3 names on this volume";
+    std::wstring shortRoot;
+    ASSERT_TRUE(files().ShortPathName(root_, shortRoot));
+    EXPECT_TRUE(files().ShortPathName(longDirectory + L"\\inner.txt", shortPath));
+    EXPECT_EQ(shortRoot + shortDirectory.substr(root_.size()) + L"\\inner.txt", shortPath)
+        << "a name that is 8.3 already stays";
+}
+
 TEST_P(FileSystemContract, ShellVersionIsAVersionNumber) {
     int version = files().ShellVersion();
     EXPECT_GE(version, 500);

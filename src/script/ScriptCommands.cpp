@@ -1,0 +1,39 @@
+#include "script/ScriptCommands.h"
+
+#include "script/ScriptRunner.h"
+#include "script/ScriptTrace.h"
+#include "services/Format.h"
+
+namespace {
+
+// Runs another script at this point. It shares the variables, the run options and the selection
+// and has everything else of its own, its labels and loops, and no item of ours.
+LineOutcome RunInclude(ScriptFrame& frame, const ScriptLine& line) {
+    ScriptArguments child = frame.arguments;
+    child.scriptPath = frame.Expand(line.value, true);
+    if (frame.runner.RunFrame(child) == -1) return LineOutcome::EndAll;
+    ReportTrace(frame.TraceWindow, kTraceScriptPath, frame.arguments.scriptPath);
+    ReportTrace(frame.TraceWindow, kTraceLineNumber, crt::Format(L"%d", frame.reader.GetLineNumber()));
+    frame.ReadRunOptions();
+    return LineOutcome::Next;
+}
+
+struct Command {
+    const wchar_t* word;
+    LineOutcome (*run)(ScriptFrame& frame, const ScriptLine& line);
+};
+
+const Command kCommands[] = {
+    {L"include", RunInclude},
+};
+
+}  // namespace
+
+bool RunCommand(ScriptFrame& frame, const ScriptLine& line, LineOutcome& outcome) {
+    for (const Command& command : kCommands) {
+        if (line.word != command.word) continue;
+        outcome = command.run(frame, line);
+        return true;
+    }
+    return false;
+}

@@ -1,0 +1,74 @@
+// The state of one run of a script file. An included script has a frame of its own and shares only
+// the tables and the selection its parent hands on.
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <unordered_map>
+#include <vector>
+
+#include "platform/HostWindows.h"
+#include "script/RunOptions.h"
+#include "script/SelectionList.h"
+#include "script/VariableTable.h"
+#include "services/TextFileReader.h"
+
+class ScriptRunner;
+
+// A longer line is taken for the end of the file.
+constexpr uint32_t kScriptLineLimit = 32767;
+
+// What the caller gives a run. The runner fills in what it was left to find or make.
+struct ScriptArguments {
+    std::wstring scriptPath;
+    std::wstring nowDirectory;
+    std::wstring targetPath;
+    SelectionList* selection = nullptr;
+    // -1: the script chooses its open mode; anything else overrides it.
+    uint32_t forcedOpenMode = static_cast<uint32_t>(-1);
+    int allowCommandLine = 0;
+    platform::WindowRef hostWindow = 0;
+    int selectionCommandLine = 0;
+    int reserved = 0;
+    VariableTable* variables = nullptr;
+    RunOptionTable* options = nullptr;
+};
+
+// Label text, with its case, to the offset of its line.
+using LabelTable = std::unordered_map<std::wstring, uint32_t>;
+
+class ScriptFrame {
+public:
+    // Keeps the arguments, finds the host window when none was given, makes the tables the caller
+    // left out, reads the run options and takes the selection's count.
+    ScriptFrame(ScriptRunner& runner, const ScriptArguments& arguments);
+    ScriptFrame(const ScriptFrame&) = delete;
+    ScriptFrame& operator=(const ScriptFrame&) = delete;
+
+    // The next line into the line buffer; false at the end of the file or at an overlong line.
+    bool ReadLine();
+    const wchar_t* line() const { return lineBuffer_.data(); }
+    // ExpandScriptText with this frame's tables, directories, selection and item.
+    std::wstring Expand(std::wstring text, bool trim) const;
+    // The record of run options as the shared table holds them now.
+    void ReadRunOptions() { runOptions = ::ReadRunOptions(*arguments.options); }
+
+    ScriptRunner& runner;
+    // With the host window looked up and the tables in use, owned or not: an include hands them on.
+    ScriptArguments arguments;
+    TextFileReader reader;
+    LabelTable labels;
+    RunOptions runOptions;
+    // "?SelectedCount?" stays the count at the start, whatever the script does to the list.
+    std::wstring selectedCountText;
+    int64_t selectedCountAtStart = 0;
+    // The item of the running "for" loop; -1 outside.
+    int32_t ItemIndex = -1;
+    platform::WindowRef TraceWindow = 0;
+
+private:
+    std::unique_ptr<VariableTable> ownVariables_;
+    std::unique_ptr<RunOptionTable> ownOptions_;
+    std::vector<wchar_t> lineBuffer_;
+};

@@ -1,0 +1,54 @@
+// A script engine on the fake platform: fixed directories, a fixed clock, script files in memory.
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+#include "platform/fake/FakePlatform.h"
+#include "script/ScriptRunner.h"
+#include "settings/UserDirectories.h"
+#include "unit/Utf16.h"
+
+class ScriptFixture : public testing::Test {
+protected:
+    static constexpr const wchar_t* kScriptDirectory = L"C:\\Users\\tester\\AppData\\Local\\Qor\\Script\\";
+
+    ScriptFixture() {
+        fake.environment().SetModuleFileName(L"C:\\Qor\\command\\Option\\Option.exe");
+        fake.files().AddDirectory(L"C:\\Qor\\command\\Option");
+        fake.files().AddDirectory(kScriptDirectory);
+    }
+
+    // A script of these lines, each ended by CR LF, behind a byte order mark; returns its path.
+    std::wstring AddScript(const std::wstring& name, const std::vector<std::wstring>& lines) {
+        std::wstring text;
+        for (const std::wstring& line : lines) text += line + L"\r\n";
+        const std::wstring path = kScriptDirectory + name;
+        fake.files().AddFile(path, Utf16Bytes(text, true));
+        return path;
+    }
+
+    // Byte offset of a line of such a script.
+    static uint32_t OffsetOfLine(const std::vector<std::wstring>& lines, size_t index) {
+        uint32_t offset = 2;
+        for (size_t i = 0; i < index; ++i) offset += static_cast<uint32_t>(lines[i].size() + 2) * 2;
+        return offset;
+    }
+
+    int32_t Run(const std::wstring& path, VariableTable* variables = nullptr, RunOptionTable* options = nullptr) {
+        return runner.Run(path, L"", L"", selection, static_cast<uint32_t>(-1), 1, 0, 0, 1, variables, options);
+    }
+
+    std::vector<std::wstring> Messages() {
+        std::vector<std::wstring> texts;
+        for (const auto& shown : fake.prompts().shown()) texts.push_back(shown.text);
+        return texts;
+    }
+
+    platform::fake::FakePlatform fake;
+    UserDirectories directories;
+    ScriptRunner runner{directories};
+    SelectionList selection;
+};
