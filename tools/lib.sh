@@ -84,8 +84,8 @@ XVFB_PID=""
 clear_stale_display() {
   local n=$1 lock="/tmp/.X$1-lock" pid state
   [ -e "$lock" ] || return 0
-  pid=$(tr -d ' ' <"$lock" 2>/dev/null)
-  state=$(sed -n 's/^State:[[:space:]]*\([A-Z]\).*/\1/p' "/proc/$pid/status" 2>/dev/null)
+  pid=$(tr -d ' ' <"$lock" 2>/dev/null || true)
+  state=$(sed -n 's/^State:[[:space:]]*\([A-Z]\).*/\1/p' "/proc/$pid/status" 2>/dev/null || true)
   if [ -z "$state" ] || [ "$state" = Z ]; then
     rm -f "$lock" "/tmp/.X11-unix/X$n" 2>/dev/null || true
   fi
