@@ -1,7 +1,7 @@
 #include "definitions/CommandListFile.h"
 
 #include "services/CRuntime.h"
-#include "services/Tokenizer.h"
+#include "services/TabLine.h"
 #include "services/WideStream.h"
 
 namespace {
@@ -16,15 +16,13 @@ bool ReadCommandList(const std::wstring& path, std::vector<CommandListEntry>& en
     if (!stream.Open(path)) return false;
     std::wstring line;
     while (stream.ReadLine(line, kLineBuffer)) {
-        crt::Replace(line, L"\uFEFF", L"");
-        crt::Replace(line, L"\r\n", L"");
         // The trim comes before the split: an empty comment takes its tab along and the line
         // then reads as the four-field form.
-        line = crt::Trim(line);
-        if (line.starts_with(L"//")) continue;
-        if (line == L"EOF") break;
         std::vector<std::wstring> fields;
-        int count = Tokenize(fields, line, L'\t', false, true);
+        const TabLineKind kind = SplitTabLine(line, fields);
+        if (kind == TabLineKind::Comment) continue;
+        if (kind == TabLineKind::End) break;
+        const size_t count = fields.size();
         if (count == 5) {
             entries.push_back({crt::Wtoi(fields[0]), fields[1], fields[2], fields[3], fields[4]});
         } else if (count == 4) {

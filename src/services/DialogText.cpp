@@ -10,7 +10,7 @@
 #include "services/LongPath.h"
 #include "services/PathHelpers.h"
 #include "services/TextFileReader.h"
-#include "services/Tokenizer.h"
+#include "services/TabLine.h"
 #include "services/WideStream.h"
 
 namespace {
@@ -76,14 +76,10 @@ bool ReadDialogText(const std::wstring& path, std::vector<DialogTextOperation>& 
     std::vector<wchar_t> buffer(kLineLimit + 2, 0);
     bool first = true;
     while (reader.ReadLine(buffer.data(), kLineLimit)) {
-        std::wstring line = buffer.data();
-        crt::Replace(line, L"\uFEFF", L"");
-        crt::Replace(line, L"\r\n", L"");
-        line = crt::Trim(line);
-        if (line.starts_with(L"//")) continue;
-        if (line == L"EOF") break;
         std::vector<std::wstring> fields;
-        Tokenize(fields, line, L'\t', false, true);
+        const TabLineKind kind = SplitTabLine(buffer.data(), fields);
+        if (kind == TabLineKind::Comment) continue;
+        if (kind == TabLineKind::End) break;
         ParseLine(fields, std::exchange(first, false), operations);
     }
     return true;

@@ -7,7 +7,7 @@
 #include "services/CRuntime.h"
 #include "services/MessageIds.h"
 #include "services/PathHelpers.h"
-#include "services/Tokenizer.h"
+#include "services/TabLine.h"
 #include "services/WideStream.h"
 
 namespace {
@@ -29,15 +29,11 @@ int MessageCatalog::Load() {
     }
     std::wstring line;
     while (stream.ReadLine(line, kLineBuffer)) {
-        crt::Replace(line, L"\uFEFF", L"");
-        crt::Replace(line, L"\r\n", L"");
-        // The escape goes before the trim, so a line break at either end of a text is lost.
-        crt::Replace(line, L"\\n", L"\n");
-        line = crt::Trim(line);
-        if (line.starts_with(L"//")) continue;
-        if (line == L"EOF") break;
         std::vector<std::wstring> fields;
-        if (Tokenize(fields, line, L'\t', false, true) != 2) continue;
+        const TabLineKind kind = SplitTabLine(line, fields, LineFeedEscapes::Unescaped);
+        if (kind == TabLineKind::Comment) continue;
+        if (kind == TabLineKind::End) break;
+        if (fields.size() != 2) continue;
         texts_.emplace(static_cast<uint16_t>(crt::Wtoi(fields[0])), fields[1]);
     }
     return texts_.empty() ? 0 : 1;
