@@ -38,6 +38,8 @@ public:
     // The main window of the calling thread: the one dialog the program shows, 0 on other threads
     // and before the dialog exists.
     virtual WindowRef MainWindow() = 0;
+    // GetKeyState of a virtual key: true while it is held down.
+    virtual bool IsKeyDown(int virtualKey) = 0;
     virtual void SetMainWindow(WindowRef window) = 0;
 };
 

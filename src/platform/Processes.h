@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <string>
 #include <vector>
@@ -69,6 +70,9 @@ public:
     // ShellExecuteExW; the result is not looked at by anyone.
     virtual void ExecuteShell(const ShellRequest& request) = 0;
 
+    // A thread of its own with the given stack that runs work and ends with its result as exit code;
+    // nobody waits for it, and it ends with the process if it is not done by then.
+    virtual void StartThread(std::function<uint32_t()> work, uint32_t stackBytes) = 0;
     // GetTickCount64 and Sleep, so that the waits of a launch can be followed in tests.
     virtual uint64_t Ticks() = 0;
     virtual void Sleep(uint32_t milliseconds) = 0;

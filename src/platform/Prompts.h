@@ -2,6 +2,7 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 namespace platform {
 
@@ -15,6 +16,14 @@ struct FolderChoice {
     bool confirmed = false;  // false: the user cancelled
     std::wstring path;       // empty when the folder has no file-system path (a virtual folder)
     bool operator==(const FolderChoice&) const = default;
+};
+
+// A task dialog that offers one command link per choice, and Cancel.
+struct ChoiceRequest {
+    std::wstring instruction;
+    std::wstring content;
+    std::vector<std::wstring> choices;
+    bool operator==(const ChoiceRequest&) const = default;
 };
 
 class Prompts {
@@ -32,6 +41,9 @@ public:
     // owned by the active window, or the desktop when there is none. A path of 520 units or more
     // is not taken: it comes back empty.
     virtual FolderChoice BrowseForFolder(const std::wstring& title, const std::wstring& start) = 0;
+    // Captioned with the program's name and owned by the active window. The index of the choice
+    // taken; -1 when the user cancelled.
+    virtual int ChooseOne(const ChoiceRequest& request) = 0;
 };
 
 }  // namespace platform

@@ -1,6 +1,7 @@
 #include "script/MacroExpansion.h"
 
 #include <cstddef>
+#include <iterator>
 
 #include "platform/Platform.h"
 #include "services/CRuntime.h"
@@ -128,6 +129,22 @@ void ExpandItemMacros(const std::wstring& item, std::wstring& text) {
         const std::wstring value = ItemValue(item, parts, row.part);
         crt::Replace(text, row.macro, row.quoted ? L"\"" + value + L"\"" : value);
     }
+}
+
+void ExpandJoinedItemMacros(const SelectionList& items, std::wstring& text) {
+    std::wstring totals[std::size(kItemRows)];
+    for (const std::wstring& item : items) {
+        const PathParts parts = SplitItemPath(item);
+        for (size_t i = 0; i < std::size(kItemRows); ++i) {
+            const std::wstring value = ItemValue(item, parts, kItemRows[i].part);
+            totals[i] += (kItemRows[i].quoted ? L"\"" + value + L"\"" : value) + L" ";
+        }
+    }
+    for (size_t i = 0; i < std::size(kItemRows); ++i) crt::Replace(text, kItemRows[i].macro, totals[i]);
+}
+
+void RemoveItemMacros(std::wstring& text) {
+    for (const ItemRow& row : kItemRows) crt::Replace(text, row.macro, L"");
 }
 
 bool ContainsItemMacro(const std::wstring& text) {

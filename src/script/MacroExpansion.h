@@ -28,6 +28,11 @@ void ExpandDateMacros(std::wstring& text);
 void ExpandPlaceMacros(const std::wstring& nowDirectory, const std::wstring& targetPath, std::wstring& text);
 // The eleven macros of one item: its path, name and extension, directory, quoted or bare.
 void ExpandItemMacros(const std::wstring& item, std::wstring& text);
+// One start for all items: each item macro becomes its values of every item in turn, each followed
+// by one blank.
+void ExpandJoinedItemMacros(const SelectionList& items, std::wstring& text);
+// The item macros taken out of the text, for a start without items.
+void RemoveItemMacros(std::wstring& text);
 // True when the text holds any of the eleven item macros.
 bool ContainsItemMacro(const std::wstring& text);
 

@@ -2,7 +2,10 @@
 #pragma once
 
 #include <map>
+#include <map>
+#include <set>
 #include <string>
+#include <thread>
 #include <vector>
 
 #include "platform/HostWindows.h"
@@ -39,8 +42,19 @@ public:
                       uint32_t cbData) override {
         copies_.push_back({window, sender, code, text, cbData});
     }
-    WindowRef MainWindow() override { return main_; }
-    void SetMainWindow(WindowRef window) override { main_ = window; }
+    // Each thread has its own main window, as in the real program; a new thread has none.
+    WindowRef MainWindow() override {
+        auto found = main_.find(std::this_thread::get_id());
+        return found == main_.end() ? 0 : found->second;
+    }
+    void SetMainWindow(WindowRef window) override { main_[std::this_thread::get_id()] = window; }
+    bool IsKeyDown(int virtualKey) override { return keysDown_.count(virtualKey) != 0; }
+    void SetKeyDown(int virtualKey, bool down) {
+        if (down)
+            keysDown_.insert(virtualKey);
+        else
+            keysDown_.erase(virtualKey);
+    }
 
     // Host windows in the order the system returns them.
     void AddHostWindow(WindowRef window) { windows_.push_back(window); }
@@ -65,7 +79,8 @@ private:
     std::vector<WindowRef> forced_;
     std::vector<SentCommand> commands_;
     std::vector<SentCopyData> copies_;
-    WindowRef main_ = 0;
+    std::map<std::thread::id, WindowRef> main_;
+    std::set<int> keysDown_;
 };
 
 }  // namespace platform::fake

@@ -1,5 +1,7 @@
 #include "platform/fake/FakeProcesses.h"
 
+#include <thread>
+
 namespace platform::fake {
 
 namespace {
@@ -52,6 +54,12 @@ WindowRef FakeProcesses::FindVisibleWindow(uint32_t processId) {
 
 void FakeProcesses::PostDropFiles(WindowRef window, const std::vector<uint8_t>& block) {
     drops_.push_back({window, block});
+}
+
+void FakeProcesses::StartThread(std::function<uint32_t()> work, uint32_t stackBytes) {
+    uint32_t exitCode = 0;
+    std::thread([&] { exitCode = work(); }).join();
+    threads_.emplace_back(stackBytes, exitCode);
 }
 
 std::wstring FakeProcesses::ErrorText(uint32_t error) {

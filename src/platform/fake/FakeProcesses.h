@@ -35,6 +35,8 @@ public:
     WindowRef FindVisibleWindow(uint32_t processId) override;
     void PostDropFiles(WindowRef window, const std::vector<uint8_t>& block) override;
     void ExecuteShell(const ShellRequest& request) override { shellRequests_.push_back(request); }
+    // Runs the work on a thread of its own and waits for it, so that tests see what it did.
+    void StartThread(std::function<uint32_t()> work, uint32_t stackBytes) override;
     uint64_t Ticks() override { return ticks_; }
     void Sleep(uint32_t milliseconds) override { ticks_ += milliseconds; }
     std::wstring ErrorText(uint32_t error) override;
@@ -49,6 +51,8 @@ public:
     // "wait <ms>", "idle <ms>", "terminate <code>", "close" for each started process, in turn.
     const std::vector<std::wstring>& events() const { return *events_; }
     int walks() const { return walks_; }
+    // The stack size asked for and the exit code of each thread, in turn.
+    const std::vector<std::pair<uint32_t, uint32_t>>& threads() const { return threads_; }
 
 private:
     FakeProgram program_;
@@ -58,6 +62,7 @@ private:
     std::shared_ptr<std::vector<std::wstring>> events_ = std::make_shared<std::vector<std::wstring>>();
     std::map<uint32_t, std::wstring> errorTexts_;
     uint64_t ticks_ = 1000000;
+    std::vector<std::pair<uint32_t, uint32_t>> threads_;
     int walks_ = 0;
 };
 

@@ -24,4 +24,12 @@ FolderChoice FakePrompts::BrowseForFolder(const std::wstring& title, const std::
     return choice;
 }
 
+int FakePrompts::ChooseOne(const ChoiceRequest& request) {
+    offered_.push_back(request);
+    if (choices_.empty()) return -1;
+    int index = choices_.front();
+    choices_.pop_front();
+    return index;
+}
+
 }  // namespace platform::fake

@@ -29,6 +29,7 @@ public:
     int ShowMessage(const std::wstring& text, unsigned style) override;
     int Ask(const std::wstring& text, const std::wstring& caption, unsigned style) override;
     FolderChoice BrowseForFolder(const std::wstring& title, const std::wstring& start) override;
+    int ChooseOne(const ChoiceRequest& request) override;
 
     // Answers given in turn; when none is left a question gets No and a message OK.
     void Answer(int answer) { answers_.push_back(answer); }
@@ -36,11 +37,16 @@ public:
     // Folder choices given in turn; when none is left the browser is cancelled.
     void ChooseFolder(FolderChoice choice) { folders_.push_back(std::move(choice)); }
     const std::vector<FolderBrowse>& browsed() const { return browsed_; }
+    // Choices taken in turn, by index; when none is left the task dialog is cancelled.
+    void Choose(int index) { choices_.push_back(index); }
+    const std::vector<ChoiceRequest>& offered() const { return offered_; }
     void Clear() {
         shown_.clear();
         answers_.clear();
         browsed_.clear();
         folders_.clear();
+        offered_.clear();
+        choices_.clear();
     }
 
 private:
@@ -48,6 +54,8 @@ private:
     std::deque<int> answers_;
     std::vector<FolderBrowse> browsed_;
     std::deque<FolderChoice> folders_;
+    std::vector<ChoiceRequest> offered_;
+    std::deque<int> choices_;
 };
 
 }  // namespace platform::fake

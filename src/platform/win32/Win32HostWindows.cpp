@@ -72,6 +72,10 @@ void Win32HostWindows::SendCopyData(WindowRef window, WindowRef sender, uint32_t
     SendMessageW(Handle(window), WM_COPYDATA, static_cast<WPARAM>(sender), reinterpret_cast<LPARAM>(&copy));
 }
 
+bool Win32HostWindows::IsKeyDown(int virtualKey) {
+    return GetKeyState(virtualKey) < 0;
+}
+
 WindowRef Win32HostWindows::MainWindow() {
     return mainWindow;
 }

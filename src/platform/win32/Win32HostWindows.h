@@ -18,6 +18,7 @@ public:
     void SendCopyData(WindowRef window, WindowRef sender, uint32_t code, const std::wstring& text,
                       uint32_t cbData) override;
     WindowRef MainWindow() override;
+    bool IsKeyDown(int virtualKey) override;
     void SetMainWindow(WindowRef window) override;
 };
 

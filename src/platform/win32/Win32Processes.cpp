@@ -5,6 +5,7 @@
 #include <shellapi.h>
 
 #include <cstring>
+#include <memory>
 
 namespace platform::win32 {
 
@@ -98,6 +99,25 @@ void Win32Processes::ExecuteShell(const ShellRequest& request) {
 
 uint64_t Win32Processes::Ticks() {
     return GetTickCount64();
+}
+
+namespace {
+
+DWORD WINAPI RunThreadWork(void* parameter) {
+    std::unique_ptr<std::function<uint32_t()>> work(static_cast<std::function<uint32_t()>*>(parameter));
+    return (*work)();
+}
+
+}  // namespace
+
+void Win32Processes::StartThread(std::function<uint32_t()> work, uint32_t stackBytes) {
+    auto* owned = new std::function<uint32_t()>(std::move(work));
+    HANDLE thread = CreateThread(nullptr, stackBytes, RunThreadWork, owned, 0, nullptr);
+    if (!thread) {
+        delete owned;
+        return;
+    }
+    CloseHandle(thread);
 }
 
 void Win32Processes::Sleep(uint32_t milliseconds) {

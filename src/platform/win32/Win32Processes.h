@@ -10,6 +10,7 @@ public:
     WindowRef FindVisibleWindow(uint32_t processId) override;
     void PostDropFiles(WindowRef window, const std::vector<uint8_t>& block) override;
     void ExecuteShell(const ShellRequest& request) override;
+    void StartThread(std::function<uint32_t()> work, uint32_t stackBytes) override;
     uint64_t Ticks() override;
     void Sleep(uint32_t milliseconds) override;
     std::wstring ErrorText(uint32_t error) override;

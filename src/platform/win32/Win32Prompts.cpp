@@ -2,6 +2,9 @@
 
 #include <windows.h>
 #include <shlobj.h>
+#include <commctrl.h>
+
+#include <vector>
 
 #include "platform/win32/Win32Environment.h"
 
@@ -45,6 +48,30 @@ FolderChoice Win32Prompts::BrowseForFolder(const std::wstring& title, const std:
     if (SHGetPathFromIDListEx(chosen, path, kBrowsePathChars, GPFIDL_DEFAULT)) choice.path = path;
     CoTaskMemFree(chosen);
     return choice;
+}
+
+int Win32Prompts::ChooseOne(const ChoiceRequest& request) {
+    constexpr int kFirstChoiceId = 201;
+    std::vector<TASKDIALOG_BUTTON> buttons;
+    for (size_t i = 0; i < request.choices.size(); ++i) {
+        buttons.push_back({kFirstChoiceId + static_cast<int>(i), request.choices[i].c_str()});
+    }
+    const std::wstring title = ProgramName();
+    TASKDIALOGCONFIG config{};
+    config.cbSize = sizeof(config);
+    config.hwndParent = GetActiveWindow();
+    config.dwFlags = TDF_ENABLE_HYPERLINKS | TDF_USE_COMMAND_LINKS;
+    config.dwCommonButtons = TDCBF_CANCEL_BUTTON;
+    config.pszWindowTitle = title.c_str();
+    config.pszMainInstruction = request.instruction.c_str();
+    config.pszContent = request.content.c_str();
+    config.cButtons = static_cast<UINT>(buttons.size());
+    config.pButtons = buttons.data();
+    config.nDefaultButton = 0;
+    int pressed = IDCANCEL;
+    if (FAILED(TaskDialogIndirect(&config, &pressed, nullptr, nullptr))) return -1;
+    if (pressed < kFirstChoiceId || pressed >= kFirstChoiceId + static_cast<int>(buttons.size())) return -1;
+    return pressed - kFirstChoiceId;
 }
 
 }  // namespace platform::win32

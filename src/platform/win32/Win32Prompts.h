@@ -9,6 +9,7 @@ public:
     int ShowMessage(const std::wstring& text, unsigned style) override;
     int Ask(const std::wstring& text, const std::wstring& caption, unsigned style) override;
     FolderChoice BrowseForFolder(const std::wstring& title, const std::wstring& start) override;
+    int ChooseOne(const ChoiceRequest& request) override;
 };
 
 }  // namespace platform::win32

@@ -191,6 +191,7 @@ public:
     }
     int Ask(const std::wstring& text, const std::wstring&, unsigned style) override { return ShowMessage(text, style); }
     platform::FolderChoice BrowseForFolder(const std::wstring&, const std::wstring&) override { return {}; }
+    int ChooseOne(const platform::ChoiceRequest&) override { return -1; }
 
     HANDLE process() const { return process_; }
     std::vector<ShownMessage> shown;

@@ -1,0 +1,174 @@
+// What a "run" line and an "exrun" entry ask of the system: which programs start, with which
+// arguments and how, for which items.
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+#include "platform/fake/FakePlatform.h"
+#include "script/LaunchQueue.h"
+#include "script/LaunchRun.h"
+
+namespace {
+
+constexpr const wchar_t* kViewer = L"C:\\Tools\\view.exe";
+constexpr const wchar_t* kWorkDir = L"C:\\Work";
+const SelectionList kThreeItems = {L"C:\\Data\\a.txt", L"C:\\Data\\b b.txt", L"C:\\Data\\c.log"};
+
+class LaunchRunTest : public testing::Test {
+protected:
+    // The argument texts of the shell starts, in turn.
+    std::vector<std::wstring> ShellArguments() {
+        std::vector<std::wstring> arguments;
+        for (const platform::ShellRequest& request : fake.processes().shellRequests()) {
+            arguments.push_back(request.parameters);
+        }
+        return arguments;
+    }
+    static constexpr uint64_t kStartTicks = 1000000;
+    platform::fake::FakePlatform fake;
+};
+
+TEST_F(LaunchRunTest, ArgumentTextsDecideHowManyStarts) {
+    struct Case {
+        const char* what;
+        SelectionList selection;
+        std::wstring arguments;
+        bool multi;
+        bool shiftDown;
+        std::vector<std::wstring> started;  // the argument text of each start
+    };
+    const Case cases[] = {
+        {"one start per item", kThreeItems, L"/v ?SelFile?", false, false,
+         {L"/v \"C:\\Data\\a.txt\"", L"/v \"C:\\Data\\b b.txt\"", L"/v \"C:\\Data\\c.log\""}},
+        {"one start for all, a blank behind each", kThreeItems, L"/v ?SelFile?", true, false,
+         {L"/v \"C:\\Data\\a.txt\" \"C:\\Data\\b b.txt\" \"C:\\Data\\c.log\" "}},
+        {"joined names", kThreeItems, L"?name?|?Ext?", true, false, {L"\"a\" \"b b\" \"c\" |.txt .txt .log "}},
+        {"no item macro: one start", kThreeItems, L"/new", false, false, {L"/new"}},
+        {"no items: the macros go", {}, L"/v ?SelFile? ?ext?", false, false, {L"/v  "}},
+        {"no arguments: one start", kThreeItems, L"", false, false, {L""}},
+        {"Shift held: no arguments, one start", kThreeItems, L"/v ?SelFile?", false, true, {L""}},
+        {"a line feed alone starts nothing", kThreeItems, L"\n", false, false, {}},
+    };
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.what);
+        platform::fake::FakePlatform fresh;
+        fresh.windows().SetKeyDown(16, c.shiftDown);
+        LaunchRun(kViewer, c.selection, kWorkDir, true, c.arguments, c.multi, {});
+        std::vector<std::wstring> started;
+        for (const platform::ShellRequest& request : fresh.processes().shellRequests()) {
+            EXPECT_EQ(kViewer, request.file);
+            EXPECT_EQ(kWorkDir, request.directory);
+            started.push_back(request.parameters);
+        }
+        EXPECT_EQ(c.started, started);
+    }
+}
+
+// Shift is looked at only when the line asks for it.
+TEST_F(LaunchRunTest, ShiftKeepsTheArgumentsWithoutShiftSilence) {
+    fake.windows().SetKeyDown(16, true);
+    LaunchRun(kViewer, kThreeItems, kWorkDir, false, L"/v", false, {});
+    EXPECT_EQ(std::vector<std::wstring>{L"/v"}, ShellArguments());
+}
+
+TEST_F(LaunchRunTest, LaunchModesWaitPauseOrStopAsTheySay) {
+    struct Case {
+        const char* what;
+        int32_t mode;
+        bool firstFails;
+        size_t shellStarts;
+        size_t processStarts;
+        uint32_t shellMask;  // of the shell starts
+        uint64_t slept;      // 300 of it is the line's wait time
+    };
+    const Case cases[] = {
+        {"shell, no wait", 0, false, 2, 0, 512, 300},
+        {"shell, waiting", 1, false, 2, 0, 768, 300},
+        {"shell, 200 ms behind each", 2, false, 2, 0, 768, 700},
+        {"shell, 500 ms behind each", 3, false, 2, 0, 768, 1300},
+        {"one after another", 5, false, 0, 2, 0, 300},
+        {"one after another, the first fails", 5, true, 0, 1, 0, 300},
+        {"an unknown mode starts nothing and still waits", 7, false, 0, 0, 0, 300},
+    };
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.what);
+        platform::fake::FakePlatform fresh;
+        platform::fake::FakeProgram program;
+        program.starts = !c.firstFails;
+        fresh.processes().SetProgram(program);
+        LaunchRun(kViewer, {L"C:\\a.txt", L"C:\\b.txt"}, kWorkDir, true, L"?selfile?", false,
+                  {.mode = c.mode, .show = 1, .timeout = 5000, .waitTime = 300});
+        EXPECT_EQ(c.shellStarts, fresh.processes().shellRequests().size());
+        for (const platform::ShellRequest& request : fresh.processes().shellRequests()) {
+            EXPECT_EQ(c.shellMask, request.mask);
+        }
+        EXPECT_EQ(c.processStarts, fresh.processes().starts().size());
+        EXPECT_EQ(c.slept, fresh.processes().Ticks() - kStartTicks);
+    }
+}
+
+// The background mode hands a copy to a thread of its own, whose shell starts have no owner.
+TEST_F(LaunchRunTest, BackgroundModeStartsFromItsOwnThread) {
+    fake.windows().SetMainWindow(0x777);
+    LaunchQueue queue;
+    queue.Add(4, L"C:\\Tools\\a.exe", L"1", kWorkDir, 1, 0);
+    queue.Add(4, L"C:\\Tools\\b.exe", L"2", kWorkDir, 1, 0);
+    RunLaunchQueue(queue);
+    EXPECT_TRUE(queue.empty());
+    ASSERT_EQ(1u, fake.processes().threads().size());
+    EXPECT_EQ(std::make_pair(16384u, kBackgroundLaunchExitCode), fake.processes().threads()[0]);
+    ASSERT_EQ(2u, fake.processes().shellRequests().size());
+    EXPECT_EQ(0u, fake.processes().shellRequests()[0].owner);
+    EXPECT_EQ(L"2", fake.processes().shellRequests()[1].parameters);
+}
+
+TEST_F(LaunchRunTest, ExRunEntriesTakeTheItemsTheirFilterAndArgumentsAllow) {
+    struct Case {
+        const char* what;
+        std::wstring program;
+        std::wstring item;
+        std::wstring arguments;
+        std::wstring filter;
+        std::vector<int> choices;  // scripted answers of the task dialog
+        bool dealt;
+        std::wstring started;  // the program started, empty for none
+    };
+    const Case cases[] = {
+        {"started for its item", L"edit.exe", L"C:\\D\\a.txt", L"?SelFile?", L"", {}, true, L"edit.exe"},
+        {"no argument text", L"edit.exe", L"C:\\D\\a.txt", L"", L"", {}, false, L""},
+        {"arguments without an item macro", L"edit.exe", L"C:\\D\\a.txt", L"/x", L"", {}, false, L""},
+        {"a line feed as arguments", L"edit.exe", L"C:\\D\\a.txt", L"\n", L"", {}, false, L""},
+        {"filter in another case", L"edit.exe", L"C:\\D\\A.TXT", L"?SelFile?", L"txt", {}, true, L"edit.exe"},
+        {"filter and no extension", L"edit.exe", L"C:\\D\\README", L"?SelFile?", L"txt", {}, false, L""},
+        {"the second alternative chosen", L"one.exe | two.exe", L"C:\\D\\a.txt", L"?SelFile?", L"", {1}, true,
+         L"two.exe"},
+        {"the choice cancelled", L"one.exe|two.exe", L"C:\\D\\a.txt", L"?SelFile?", L"", {}, true, L""},
+        {"one alternative asks nothing", L" one.exe |", L"C:\\D\\a.txt", L"?SelFile?", L"", {}, true, L"one.exe"},
+        {"the host's preview bar", L"PreviewBar", L"C:\\D\\a.txt", L"?SelFile?", L"", {}, false, L""},
+    };
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.what);
+        platform::fake::FakePlatform fresh;
+        for (int choice : c.choices) fresh.prompts().Choose(choice);
+        EXPECT_EQ(c.dealt, LaunchExRunEntry(c.program, c.item, kWorkDir, c.arguments, c.filter, {.waitTime = 50}));
+        const auto& requests = fresh.processes().shellRequests();
+        if (c.started.empty()) {
+            EXPECT_TRUE(requests.empty());
+        } else {
+            ASSERT_EQ(1u, requests.size());
+            EXPECT_EQ(c.started, requests[0].file);
+            EXPECT_EQ(L"\"" + c.item + L"\"", requests[0].parameters);
+            EXPECT_EQ(50u, fresh.processes().Ticks() - kStartTicks);
+        }
+    }
+}
+
+TEST_F(LaunchRunTest, AlternativesAreOfferedWithTheItemsFileName) {
+    LaunchExRunEntry(L"one.exe|two.exe", L"C:\\Data\\Report.txt", kWorkDir, L"?SelFile?", L"", {});
+    ASSERT_EQ(1u, fake.prompts().offered().size());
+    EXPECT_EQ((platform::ChoiceRequest{L"Please select an application.", L"Report.txt", {L"one.exe", L"two.exe"}}),
+              fake.prompts().offered()[0]);
+}
+
+}  // namespace
