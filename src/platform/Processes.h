@@ -39,6 +39,9 @@ public:
     // WaitForInputIdle; on kWaitFailed error holds the system's code.
     virtual uint32_t WaitForIdle(uint32_t timeoutMs, uint32_t& error) = 0;
     virtual void Terminate(uint32_t exitCode) = 0;
+    // GetExitCodeProcess: false on failure, with the system's code in error. A process that still
+    // runs gives 259.
+    virtual bool ExitCode(uint32_t& code, uint32_t& error) = 0;
 };
 
 // The SHELLEXECUTEINFOW fields the program sets; the verb and item list stay null.

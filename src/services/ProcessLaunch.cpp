@@ -10,7 +10,6 @@
 namespace {
 
 constexpr uint32_t kKilledExitCode = 999;
-constexpr uint32_t kNormalPriorityClass = 32;
 constexpr uint32_t kDropWaitMs = 10000;
 constexpr uint32_t kWindowPollMs = 50;
 // SEE_MASK_DOENVSUBST, and SEE_MASK_NOASYNC with it when the caller waits.
@@ -49,9 +48,15 @@ bool WaitedLaunch(const std::wstring& program, const std::wstring& arguments, co
     auto process = os.processes.Start(start, error);
     if (!process) return false;
     if (process->Wait(timeoutMs) != platform::kWaitTimeout) return true;
-    if (os.prompts.ShowMessage(kKillQuestion, platform::kStyleYesNo) == platform::kAnswerYes)
-        process->Terminate(kKilledExitCode);
+    AskToEndProgram(*process);
     return false;
+}
+
+bool AskToEndProgram(platform::StartedProcess& process) {
+    if (platform::Current().prompts.ShowMessage(kKillQuestion, platform::kStyleYesNo) != platform::kAnswerYes)
+        return false;
+    process.Terminate(kKilledExitCode);
+    return true;
 }
 
 void DropLaunch(const std::wstring& program, const std::vector<std::wstring>& files, MessageCatalog& messages) {

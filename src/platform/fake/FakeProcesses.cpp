@@ -25,6 +25,12 @@ public:
         return program_.idleResult;
     }
     void Terminate(uint32_t exitCode) override { events_->push_back(L"terminate " + std::to_wstring(exitCode)); }
+    bool ExitCode(uint32_t& code, uint32_t& error) override {
+        events_->push_back(L"exit code");
+        code = program_.exitCode;
+        error = program_.exitCodeError;
+        return program_.exitCodeError == 0;
+    }
 
 private:
     std::shared_ptr<std::vector<std::wstring>> events_;

@@ -21,6 +21,8 @@ struct FakeProgram {
     // Walks of the window list that find nothing before its window shows; -1: it never shows one.
     int walksBeforeWindow = 0;
     WindowRef window = 0x5150;
+    uint32_t exitCode = 0;
+    uint32_t exitCodeError = 0;  // not 0: reading the exit code fails with it
 };
 
 struct PostedDrop {
@@ -48,7 +50,7 @@ public:
     const std::vector<ProcessStart>& starts() const { return starts_; }
     const std::vector<ShellRequest>& shellRequests() const { return shellRequests_; }
     const std::vector<PostedDrop>& drops() const { return drops_; }
-    // "wait <ms>", "idle <ms>", "terminate <code>", "close" for each started process, in turn.
+    // "wait <ms>", "idle <ms>", "terminate <code>", "exit code", "close" for each started process, in turn.
     const std::vector<std::wstring>& events() const { return *events_; }
     int walks() const { return walks_; }
     // The stack size asked for and the exit code of each thread, in turn.

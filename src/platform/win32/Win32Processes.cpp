@@ -33,6 +33,15 @@ public:
         return result;
     }
     void Terminate(uint32_t exitCode) override { TerminateProcess(info_.hProcess, exitCode); }
+    bool ExitCode(uint32_t& code, uint32_t& error) override {
+        DWORD exitCode = 0;
+        if (!GetExitCodeProcess(info_.hProcess, &exitCode)) {
+            error = GetLastError();
+            return false;
+        }
+        code = exitCode;
+        return true;
+    }
 
 private:
     PROCESS_INFORMATION info_;

@@ -13,6 +13,7 @@
 #include <string>
 #include <vector>
 
+#include "script/ScriptCall.h"
 #include "services/MessageCatalog.h"
 #include "win32/support/RealHostPlatform.h"
 
@@ -247,6 +248,17 @@ TEST(WaitedLaunchOnWindows, SucceedsWhenTheProgramEndsInTimeAndFailsSilentlyWhen
     EXPECT_FALSE(WaitedLaunch(L"C:\\NoSuchProgram.exe", L"", L"", SW_HIDE, 10000));
     EXPECT_FALSE(WaitedLaunch(program, L"0 3", L"C:\\NoSuchDirectory", SW_HIDE, 10000));
     EXPECT_TRUE(platform.fake().prompts().shown().empty());
+}
+
+// "call" and "exec" with real processes: the exit code of a program that ended, 259 of one that
+// still runs.
+TEST(ScriptCallOnWindows, CallGivesTheExitCodeAndExecDoesNotWait) {
+    testing_support::RealHostPlatform platform;
+    const std::wstring program = L"\"" + HelperPath(L"ExitLater.exe") + L"\"";
+    EXPECT_EQ(L"3", CallProgram(CallKind::Call, program + L" 0 3", {.show = SW_HIDE}).value_or(L"none"));
+    EXPECT_EQ(L"259", CallProgram(CallKind::Exec, program + L" 2000 4", {.show = SW_HIDE}).value_or(L"none"));
+    EXPECT_FALSE(CallProgram(CallKind::Exec, L"C:\\NoSuchProgram.exe", {}));
+    ASSERT_EQ(1u, platform.fake().prompts().shown().size()) << "the system's reason";
 }
 
 }  // namespace

@@ -1,0 +1,83 @@
+// "call" and "exec" as the system sees them: the process started, the waits, the question, the
+// result text.
+#include <gtest/gtest.h>
+
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "platform/fake/FakePlatform.h"
+#include "script/ScriptCall.h"
+
+namespace {
+
+using platform::fake::FakePlatform;
+using platform::fake::FakeProgram;
+
+TEST(ScriptCall, WaitsAsTheKindSaysAndGivesTheExitCode) {
+    struct Case {
+        const char* what;
+        CallKind kind;
+        FakeProgram program;
+        std::vector<int> answers;
+        std::optional<std::wstring> result;
+        std::vector<std::wstring> events;
+        size_t questions;
+    };
+    FakeProgram ends;
+    ends.exitCode = 7;
+    FakeProgram negative;
+    negative.exitCode = 0xFFFFFFFF;
+    FakeProgram outlives;
+    outlives.waitResult = platform::kWaitTimeout;
+    outlives.exitCode = 259;
+    FakeProgram noCode;
+    noCode.exitCodeError = 6;
+    FakeProgram cannotStart;
+    cannotStart.starts = false;
+    const Case cases[] = {
+        {"call of a program that ends", CallKind::Call, ends, {}, L"7", {L"wait 4000", L"exit code", L"close"}, 0},
+        {"exit codes are signed", CallKind::Call, negative, {}, L"-1", {L"wait 4000", L"exit code", L"close"}, 0},
+        {"exec does not wait", CallKind::Exec, outlives, {}, L"259", {L"exit code", L"close"}, 0},
+        {"time-out, No: the code as it is then", CallKind::Call, outlives, {7}, L"259",
+         {L"wait 4000", L"exit code", L"close"}, 1},
+        {"time-out, Yes: ended with 999", CallKind::Call, outlives, {6}, L"259",
+         {L"wait 4000", L"terminate 999", L"close"}, 1},
+        {"the exit code cannot be read", CallKind::Call, noCode, {}, std::nullopt,
+         {L"wait 4000", L"exit code", L"close"}, 1},
+        {"cannot start", CallKind::Call, cannotStart, {}, std::nullopt, {}, 1},
+    };
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.what);
+        FakePlatform fake;
+        fake.processes().SetProgram(c.program);
+        for (int answer : c.answers) fake.prompts().Answer(answer);
+        const uint64_t before = fake.processes().Ticks();
+        EXPECT_EQ(c.result, CallProgram(c.kind, L"tool.exe /x",
+                                        {.bootDirectory = L"", .nowDirectory = L"C:\\Now", .show = 0, .timeout = 4000,
+                                         .runWait = 30}));
+        EXPECT_EQ(c.events, fake.processes().events());
+        EXPECT_EQ(c.questions, fake.prompts().shown().size());
+        ASSERT_EQ(1u, fake.processes().starts().size());
+        EXPECT_EQ((platform::ProcessStart{L"tool.exe /x", L"C:\\Now", true, 0, 32}), fake.processes().starts()[0]);
+        EXPECT_EQ(c.program.starts ? 30u : 0u, fake.processes().Ticks() - before) << "runwait after a start";
+    }
+}
+
+// bootdir goes as it stands, "1" too; without it the now-directory; without both none.
+TEST(ScriptCall, StartsInBootDirectoryOrNowDirectory) {
+    struct Case {
+        std::wstring bootDirectory;
+        std::wstring nowDirectory;
+        std::wstring used;
+    };
+    for (const Case& c : {Case{L"D:\\Boot", L"C:\\Now", L"D:\\Boot"}, Case{L"1", L"C:\\Now", L"1"},
+                          Case{L"", L"C:\\Now", L"C:\\Now"}, Case{L"", L"", L""}}) {
+        FakePlatform fake;
+        CallProgram(CallKind::Exec, L"tool.exe", {.bootDirectory = c.bootDirectory, .nowDirectory = c.nowDirectory});
+        ASSERT_EQ(1u, fake.processes().starts().size());
+        EXPECT_EQ(c.used, fake.processes().starts()[0].directory);
+    }
+}
+
+}  // namespace
