@@ -74,6 +74,8 @@ public:
     // As GetShortPathNameW: names that have an 8.3 form take it, the others stay; false when the
     // path does not exist.
     virtual bool ShortPathName(const std::wstring& path, std::wstring& shortPath) = 0;
+    // A path of the shell's name space ("::{...}"): true when its parent folder says it is a folder.
+    virtual bool IsShellFolder(const std::wstring& path) = 0;
     // As SHCreateDirectory: creates the directory and every missing parent; returns its Win32 code:
     // 0 created, 183 already there (a file too), 161 a relative path, 3 a parent is a file.
     virtual int CreateDirectoryTree(const std::wstring& path) = 0;

@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <map>
 #include <memory>
+#include <set>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -25,6 +26,9 @@ public:
     bool FullPathName(const std::wstring& path, size_t bufferChars, std::wstring& full) override;
     bool LongPathName(const std::wstring& path, std::wstring& longPath) override;
     bool ShortPathName(const std::wstring& path, std::wstring& shortPath) override;
+    bool IsShellFolder(const std::wstring& path) override { return shellFolders_.count(path) != 0; }
+    // A name-space path the shell knows as a folder.
+    void AddShellFolder(const std::wstring& path) { shellFolders_.insert(path); }
     int CreateDirectoryTree(const std::wstring& path) override;
     int ShellVersion() override { return shellVersion_; }
     std::unique_ptr<File> Open(const std::wstring& path, FileAccess access, bool denyWrite) override;
@@ -50,6 +54,7 @@ public:
     struct Node;
 
 private:
+    std::set<std::wstring> shellFolders_;
     class OpenFile;
     std::shared_ptr<Node> Lookup(const std::wstring& path);
     bool ConvertNames(const std::wstring& path, bool toShort, std::wstring& converted);

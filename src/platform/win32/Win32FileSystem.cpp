@@ -125,6 +125,21 @@ bool Win32FileSystem::LongPathName(const std::wstring& path, std::wstring& longP
     return ConvertPathName(GetLongPathNameW, path, longPath);
 }
 
+bool Win32FileSystem::IsShellFolder(const std::wstring& path) {
+    PIDLIST_ABSOLUTE item = ILCreateFromPathW(path.c_str());
+    if (!item) return false;
+    IShellFolder* parent = nullptr;
+    PCUITEMID_CHILD child = nullptr;
+    SFGAOF attributes = SFGAO_FOLDER;
+    bool folder = false;
+    if (SUCCEEDED(SHBindToParent(item, IID_IShellFolder, reinterpret_cast<void**>(&parent), &child))) {
+        folder = SUCCEEDED(parent->GetAttributesOf(1, &child, &attributes)) && (attributes & SFGAO_FOLDER);
+        parent->Release();
+    }
+    ILFree(item);
+    return folder;
+}
+
 bool Win32FileSystem::ShortPathName(const std::wstring& path, std::wstring& shortPath) {
     return ConvertPathName(GetShortPathNameW, path, shortPath);
 }

@@ -36,6 +36,7 @@ public:
     bool FullPathName(const std::wstring& path, size_t bufferChars, std::wstring& full) override;
     bool LongPathName(const std::wstring& path, std::wstring& longPath) override;
     bool ShortPathName(const std::wstring& path, std::wstring& shortPath) override;
+    bool IsShellFolder(const std::wstring& path) override;
     int CreateDirectoryTree(const std::wstring& path) override;
     int ShellVersion() override;
     std::unique_ptr<File> Open(const std::wstring& path, FileAccess access, bool denyWrite) override;
