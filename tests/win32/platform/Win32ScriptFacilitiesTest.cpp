@@ -1,10 +1,12 @@
-// The one thread the program starts: it runs on its own, with its own (empty) main window, and
-// ends with the exit code its work gives.
+// What the script engine asks of the system beyond the other facilities: a thread of its own, with
+// its own (empty) main window, and the folders of the shell's name space.
 #include <gtest/gtest.h>
+#include <objbase.h>
 #include <windows.h>
 
 #include <atomic>
 
+#include "platform/win32/Win32FileSystem.h"
 #include "platform/win32/Win32HostWindows.h"
 #include "platform/win32/Win32Processes.h"
 
@@ -30,6 +32,19 @@ TEST(Win32Processes, StartThreadRunsTheWorkOnAThreadOfItsOwn) {
     EXPECT_EQ(0u, mainWindow.load());
     EXPECT_EQ(0x1234u, windows.MainWindow());
     CloseHandle(done);
+}
+
+}  // namespace
+
+namespace {
+
+// Paths of the shell's name space: "My Computer" is a folder; a file's path is no name-space path.
+TEST(Win32FileSystem, ShellFoldersOfTheNameSpace) {
+    CoInitialize(nullptr);
+    platform::win32::Win32FileSystem files;
+    EXPECT_TRUE(files.IsShellFolder(L"::{20D04FE0-3AEA-1069-A2D8-08002B30309D}"));
+    EXPECT_FALSE(files.IsShellFolder(L"::{00000000-0000-0000-0000-000000000000}"));
+    CoUninitialize();
 }
 
 }  // namespace
