@@ -64,8 +64,10 @@ std::optional<WorkedOutAssignment> WorkOutAssignment(ScriptFrame& frame, const s
     WorkedOutAssignment assignment{name, {}, {}, false};
     const std::wstring old = *frame.arguments.variables->Find(name);
     const size_t equals = line.spaced.find(L'=');
-    const std::wstring rawRight = equals == std::wstring::npos ? std::wstring() : line.spaced.substr(equals + 1);
-    const std::wstring right = crt::Trim(frame.Expand(rawRight, false));
+    // Expanded but untrimmed: an append keeps the blanks behind its "&".
+    const std::wstring rawRight =
+        frame.Expand(equals == std::wstring::npos ? std::wstring() : line.spaced.substr(equals + 1), false);
+    const std::wstring right = crt::Trim(rawRight);
 
     std::wstring result = CompoundResult(old, right, rawRight);
     bool raw = false;
