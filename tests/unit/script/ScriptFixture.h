@@ -42,10 +42,11 @@ protected:
     }
 
     // Runs the lines as a script of their own with a fresh variable table, kept for the checks, and
-    // fresh run options.
+    // fresh run options; questions get the answers in turn.
     int32_t RunLines(const std::vector<std::wstring>& lines) {
         variables = VariableTable();
         fake.prompts().Clear();
+        for (int answer : answers) fake.prompts().Answer(answer);
         return Run(AddScript(L"case.txt", lines), &variables);
     }
 
@@ -66,4 +67,5 @@ protected:
     ScriptRunner runner{directories};
     SelectionList selection;
     VariableTable variables;
+    std::vector<int> answers;
 };
