@@ -1,15 +1,17 @@
 #include "script/ExpressionEvaluator.h"
 
 #include <cmath>
+#include <iterator>
 
 #include "services/CRuntime.h"
 #include "services/Format.h"
 
 namespace {
 
-// Rows of three, loosest binding first; a row that starts with zero ends the levels. The blank never
+// Rows of three, loosest binding first, then the final zero. The blank never
 // comes as a token, but it belongs to the alphabet the table also stands for.
 constexpr wchar_t kOperators[] = L"+- */%";
+constexpr int kLevels = static_cast<int>((std::size(kOperators) - 1) / 3);
 constexpr int32_t kSyntaxError = 1;
 constexpr int32_t kDivisionByZero = 2;
 
@@ -50,7 +52,7 @@ bool ExpressionEvaluator::InRow(int row) const {
 }
 
 double ExpressionEvaluator::Level(int row) {
-    if (kOperators[row * 3] == 0) return Factor();
+    if (row == kLevels) return Factor();
     double value = Level(row + 1);
     while (InRow(row)) {
         const int32_t op = token_;
