@@ -5,6 +5,7 @@
 #include "platform/Platform.h"
 #include "script/ScriptCommands.h"
 #include "script/ScriptControlFlow.h"
+#include "script/ScriptRunner.h"
 #include "script/ScriptStatement.h"
 #include "script/ScriptTrace.h"
 #include "services/CRuntime.h"
@@ -82,6 +83,9 @@ bool TakenBySkip(ScriptFrame& frame, const ScriptLine& line, const std::wstring&
 LineOutcome RunMainLoop(ScriptFrame& frame) {
     frame.reader.ReadPosition = 0;
     while (frame.ReadLine()) {
+#ifdef OPTION_SCRIPT_STEP_LIMIT
+        if (++frame.runner.steps > OPTION_SCRIPT_STEP_LIMIT) return LineOutcome::EndAll;
+#endif
         const LineOutcome outcome = RunLine(frame, MakeScriptLine(frame, frame.line()));
         if (outcome != LineOutcome::Next) return outcome;
     }
