@@ -100,6 +100,7 @@ void ExpandCommonMacros(const std::wstring& nowDirectory, const std::wstring& ta
 }
 
 void ExpandDateMacros(std::wstring& text) {
+    if (text.find(L'?') == std::wstring::npos) return;
     platform::Environment& environment = platform::Current().environment;
     const int64_t now = environment.CurrentTime();
     for (const DateRow& row : kDateRows) {
@@ -109,7 +110,8 @@ void ExpandDateMacros(std::wstring& text) {
 }
 
 void ExpandPlaceMacros(const std::wstring& nowDirectory, const std::wstring& targetPath, std::wstring& text) {
-    if (text.empty()) return;
+    // Every macro here is written between question marks.
+    if (text.find(L'?') == std::wstring::npos) return;
     if (!nowDirectory.empty()) {
         const PathParts target = SplitItemPath(targetPath);
         crt::Replace(text, L"?Drive?", target.drive);
@@ -122,7 +124,7 @@ void ExpandPlaceMacros(const std::wstring& nowDirectory, const std::wstring& tar
 }
 
 void ExpandItemMacros(const std::wstring& item, std::wstring& text) {
-    if (text.empty()) return;
+    if (text.find(L'?') == std::wstring::npos) return;
     const PathParts parts = SplitItemPath(item);
     for (const ItemRow& row : kItemRows) {
         if (text.find(row.macro) == std::wstring::npos) continue;

@@ -3,6 +3,7 @@
 #include <variant>
 
 #include "services/CRuntime.h"
+#include "services/Format.h"
 
 namespace {
 
@@ -36,6 +37,14 @@ struct Reader {
     void operator()(bool RunOptions::*member) const { options.*member = crt::Wtoi(text) == 1; }
 };
 
+// The text the table keeps for a value read from text.
+struct Normaliser {
+    const std::wstring& text;
+    std::wstring operator()(std::wstring RunOptions::*) const { return text; }
+    std::wstring operator()(int32_t RunOptions::*) const { return crt::Format(L"%d", crt::Wtoi(text)); }
+    std::wstring operator()(bool RunOptions::*) const { return crt::Wtoi(text) == 1 ? L"1" : L"0"; }
+};
+
 }  // namespace
 
 void FillRunOptionDefaults(RunOptionTable& table) {
@@ -49,4 +58,15 @@ RunOptions ReadRunOptions(const RunOptionTable& table) {
         std::visit(Reader{options, text ? *text : std::wstring()}, row.member);
     }
     return options;
+}
+
+bool SetRunOption(RunOptionTable& table, RunOptions& options, const std::wstring& key, const std::wstring& text) {
+    for (const OptionRow& row : kOptionRows) {
+        if (key != row.key) continue;
+        const std::wstring kept = std::visit(Normaliser{text}, row.member);
+        table.Set(row.key, kept);
+        std::visit(Reader{options, kept}, row.member);
+        return true;
+    }
+    return false;
 }

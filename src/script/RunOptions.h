@@ -30,3 +30,6 @@ struct RunOptions {
 void FillRunOptionDefaults(RunOptionTable& table);
 // The record of what the table holds; a missing key reads as the empty text.
 RunOptions ReadRunOptions(const RunOptionTable& table);
+// Sets one option in the table and in the record: numbers are read with _wtoi and kept as "%d",
+// flags are "1" only for exactly 1. False when the key is no option.
+bool SetRunOption(RunOptionTable& table, RunOptions& options, const std::wstring& key, const std::wstring& text);

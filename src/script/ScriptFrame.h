@@ -35,6 +35,17 @@ struct ScriptArguments {
     RunOptionTable* options = nullptr;
 };
 
+// The states of an open "if": which branch the lines are in and whether they run.
+enum IfState : uint32_t {
+    kIfElseOfFalse = 0,    // runs
+    kIfThenOfTrue = 1,     // runs
+    kIfThenOfFalse = 2,    // skipped
+    kIfElseOfTrue = 3,     // skipped, and so is every "if" inside
+    kIfInsideSkipped = 4,  // an "if" inside a skipped then branch: skipped
+};
+
+enum LoopKind : int32_t { kLoopFor = 1, kLoopDo = 2 };
+
 // Label text, with its case, to the offset of its line.
 using LabelTable = std::unordered_map<std::wstring, uint32_t>;
 
@@ -63,8 +74,19 @@ public:
     // "?SelectedCount?" stays the count at the start, whatever the script does to the list.
     std::wstring selectedCountText;
     int64_t selectedCountAtStart = 0;
-    // The item of the running "for" loop; -1 outside.
+    // The item of the running "for" loop; -1 outside. Nested loops share it and its return point.
     int32_t ItemIndex = -1;
+    uint32_t ForReturnOffset = 0;
+    // Lines are read on and passed over up to the "next" or the "while" that ends the loop.
+    bool SkipToNext = false;
+    bool SkipToWhile = false;
+    // Backward gotos of the whole run, held against the exitloopcount option.
+    int32_t BackJumpCount = 0;
+    // One state per open "if", see IfState.
+    std::vector<uint32_t> IfStack;
+    // kLoopFor or kLoopDo per open loop, and where each "do" goes back to.
+    std::vector<int32_t> LoopKindStack;
+    std::vector<uint32_t> DoReturnStack;
     platform::WindowRef TraceWindow = 0;
 
 private:

@@ -31,6 +31,11 @@ public:
 
     UserDirectories& directories() const { return directories_; }
 
+#ifdef OPTION_SCRIPT_STEP_LIMIT
+    // Lines read in this run, included scripts too.
+    uint64_t steps = 0;
+#endif
+
 private:
     UserDirectories& directories_;
 };

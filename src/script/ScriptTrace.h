@@ -10,6 +10,7 @@
 enum TraceCode : uint32_t {
     kTraceScriptPath = 1,
     kTraceLineNumber = 2,
+    kTraceVariable = 10,  // name, tab, value
 };
 
 // The trace window of the moment, or 0.

@@ -58,6 +58,8 @@ constexpr const wchar_t* kEnvironmentNames[] = {
 }  // namespace
 
 std::wstring ExpandDirectoryMacros(const std::wstring& text, UserDirectories& directories) {
+    // Every token and every variable is written between percent signs; scripts expand most lines.
+    if (text.find(L'%') == std::wstring::npos) return text;
     std::wstring expanded = ExpandEnvironment(text);
     for (const Row& row : TokenRows(directories)) crt::Replace(expanded, row.first, row.second);
     return expanded;

@@ -1,6 +1,7 @@
 // libFuzzer target: arbitrary bytes as a script file, through the first pass, the cutting of lines
-// and every macro group, with each line also as an item path and as patterns for the matchers.
-// Includes are not followed: a script including itself is meant to run until the stack ends.
+// and every macro group, with each line also as an item path and as patterns for the matchers; then
+// the whole script is run, for a selection of two items. The fuzz build ends a run after a fixed
+// number of lines, so loops and a script including itself stop.
 #include <cstddef>
 #include <cstdint>
 #include <vector>
@@ -63,5 +64,10 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
         selection.assign(1, line.statement);
         ExpandLine(frame, line);
     }
+
+    VariableTable shared;
+    selection = {L"C:\\dir\\one.txt", L"two"};
+    runner.Run(kScript, L"C:\\dir\\", L"C:\\dir\\one.txt", selection, static_cast<uint32_t>(-1), 1, 0, 0, 1,
+               &shared, nullptr);
     return 0;
 }

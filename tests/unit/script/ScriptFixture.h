@@ -41,6 +41,21 @@ protected:
         return runner.Run(path, L"", L"", selection, static_cast<uint32_t>(-1), 1, 0, 0, 1, variables, options);
     }
 
+    // Runs the lines as a script of their own with a fresh variable table, kept for the checks, and
+    // fresh run options; questions get the answers in turn.
+    int32_t RunLines(const std::vector<std::wstring>& lines) {
+        variables = VariableTable();
+        fake.prompts().Clear();
+        for (int answer : answers) fake.prompts().Answer(answer);
+        return Run(AddScript(L"case.txt", lines), &variables);
+    }
+
+    // A variable's value, or "<none>" when it was never declared.
+    std::wstring Value(const std::wstring& name) const {
+        const std::wstring* value = variables.Find(name);
+        return value ? *value : L"<none>";
+    }
+
     std::vector<std::wstring> Messages() {
         std::vector<std::wstring> texts;
         for (const auto& shown : fake.prompts().shown()) texts.push_back(shown.text);
@@ -51,4 +66,6 @@ protected:
     UserDirectories directories;
     ScriptRunner runner{directories};
     SelectionList selection;
+    VariableTable variables;
+    std::vector<int> answers;
 };

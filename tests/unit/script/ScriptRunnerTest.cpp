@@ -89,7 +89,8 @@ TEST_F(ScriptRunnerTest, TheTraceWindowHearsOfEachScriptAndWhereTheParentGoesOn)
     auto report = [](uint32_t code, const std::wstring& text) {
         return SentCopyData{0x51, 0, code, text, static_cast<uint32_t>(text.size() * 8 + 8)};
     };
-    EXPECT_EQ((std::vector<SentCopyData>{report(1, parent), report(1, child), report(1, parent), report(2, L"3")}),
+    EXPECT_EQ((std::vector<SentCopyData>{report(1, parent), report(2, L"3"), report(1, child), report(1, parent),
+                                         report(2, L"3")}),
               fake.windows().copies());
 }
 

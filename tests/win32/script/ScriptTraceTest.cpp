@@ -93,12 +93,15 @@ protected:
 TEST_F(ScriptOnRealWindows, TheTraceWindowHearsEachScript) {
     OpenTraceWindow();
     const std::wstring child = AddScript(L"C:\\s\\child.txt", L"debug\r\n");
-    const std::wstring parent = AddScript(L"C:\\s\\parent.txt", L"debug\r\n\r\ninclude = C:\\s\\child.txt\r\n");
+    const std::wstring parent =
+        AddScript(L"C:\\s\\parent.txt", L"debug\r\n\r\ninclude = C:\\s\\child.txt\r\nvar v = 0x1\r\n");
     EXPECT_EQ(0, Run(parent));
     auto report = [](ULONG_PTR code, const std::wstring& text) {
         return Report{code, static_cast<DWORD>(text.size() * 8 + 8), text};
     };
-    EXPECT_EQ((std::vector<Report>{report(1, parent), report(1, child), report(1, parent), report(2, L"3")}), reports);
+    EXPECT_EQ((std::vector<Report>{report(1, parent), report(2, L"3"), report(1, child), report(1, parent),
+                                   report(2, L"3"), report(2, L"4"), report(10, L"v\t"), report(10, L"v\t1")}),
+              reports);
 }
 
 TEST_F(ScriptOnRealWindows, WithoutADebugLineTheWindowHearsNothing) {

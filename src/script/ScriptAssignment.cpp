@@ -1,0 +1,115 @@
+#include "script/ScriptAssignment.h"
+
+#include <vector>
+
+#include "platform/Platform.h"
+#include "script/ExpressionEvaluator.h"
+#include "script/ScriptFunctions.h"
+#include "script/ScriptNumbers.h"
+#include "script/ScriptTrace.h"
+#include "services/CRuntime.h"
+#include "services/Format.h"
+#include "services/Tokenizer.h"
+
+namespace {
+
+// A function that wants its variable empty returns this, since an empty result means "the arguments".
+constexpr const wchar_t* kEmptyText = L"\t空文字\n\r置換\t";
+
+constexpr int32_t kDivisionByZero = 2;
+
+// x = +2 adds 2 to x, x = &abc appends; x = -5 therefore subtracts. Empty when the form doesn't apply.
+std::wstring CompoundResult(const std::wstring& old, const std::wstring& right, const std::wstring& rawRight) {
+    if (right.size() < 2) return std::wstring();
+    const wchar_t form = right[0];
+    if (form == L'&') {
+        const size_t amp = rawRight.find(L'&');
+        return old + rawRight.substr(amp == std::wstring::npos ? 0 : amp + 1);
+    }
+    const std::wstring rest = right.substr(1);
+    if (!IsScriptNumber(rest)) return std::wstring();
+    // Wrapping as the machine does, without the undefined behaviour of signed overflow.
+    const uint64_t a = static_cast<uint64_t>(ScriptInteger(old));
+    const int64_t b = ScriptInteger(rest);
+    int64_t value = 0;
+    switch (form) {
+    case L'+': value = static_cast<int64_t>(a + static_cast<uint64_t>(b)); break;
+    case L'-': value = static_cast<int64_t>(a - static_cast<uint64_t>(b)); break;
+    case L'*': value = static_cast<int64_t>(a * static_cast<uint64_t>(b)); break;
+    case L'/':
+    case L'%':
+        if (b == 0) value = 0;
+        else if (b == -1) value = form == L'/' ? static_cast<int64_t>(0 - a) : 0;
+        else value = form == L'/' ? static_cast<int64_t>(a) / b : static_cast<int64_t>(a) % b;
+        break;
+    default: return std::wstring();
+    }
+    return crt::Format(L"%lld", value);
+}
+
+}  // namespace
+
+std::optional<std::wstring> AssignedName(const ScriptFrame& frame, const std::wstring& statement) {
+    const size_t equals = statement.find(L'=');
+    if (equals == std::wstring::npos) return std::nullopt;
+    std::wstring name = crt::Trim(std::wstring_view(statement).substr(0, equals));
+    const VariableName split = SplitVariableName(name);
+    if (!split.index.empty()) name = crt::Format(L"%s[%s]", split.base, frame.Expand(split.index, true));
+    if (!frame.arguments.variables->Find(name)) return std::nullopt;
+    return name;
+}
+
+std::optional<WorkedOutAssignment> WorkOutAssignment(ScriptFrame& frame, const std::wstring& name,
+                                                     const ScriptLine& line) {
+    WorkedOutAssignment assignment{name, {}, {}, false};
+    const std::wstring old = *frame.arguments.variables->Find(name);
+    const size_t equals = line.spaced.find(L'=');
+    // Expanded but untrimmed: an append keeps the blanks behind its "&".
+    const std::wstring rawRight =
+        frame.Expand(equals == std::wstring::npos ? std::wstring() : line.spaced.substr(equals + 1), false);
+    const std::wstring right = crt::Trim(rawRight);
+
+    std::wstring result = CompoundResult(old, right, rawRight);
+    bool raw = false;
+    std::wstring arguments;
+    if (result.empty()) {
+        std::vector<std::wstring> fields;
+        Tokenize(fields, right, L',', false, true);
+        const std::wstring function = fields.empty() ? std::wstring() : crt::MakeLower(crt::Trim(fields[0]));
+        const ScriptFunction* found =
+            fields.size() >= 2 || function == L"getclipboardtext" ? FindScriptFunction(function) : nullptr;
+        if (found) {
+            const size_t comma = right.find(L',');
+            arguments = comma == std::wstring::npos ? std::wstring() : right.substr(comma + 1);
+            FunctionResult made = found->run(frame, arguments);
+            if (made.dropped) return WorkedOutAssignment{name, {}, {}, true};
+            result = std::move(made.text);
+            raw = made.raw;
+            if (result.empty() && !raw) result = arguments;
+        }
+    }
+    if (result.empty() && !raw) result = right;
+    if (result == kEmptyText) result.clear();
+    if (!raw) {
+        RewriteHexNumbers(result);
+        result = crt::Trim(result);
+        if (!result.empty() && IsExpressionText(result)) {
+            const ComputedText computed = ExpressionEvaluator(result).Compute();
+            if (computed.error != 0) {
+                const wchar_t* what = computed.error == kDivisionByZero ? L"Division by zero.\n" : L"Syntax error!\n";
+                platform::Current().prompts.ShowMessage(what + line.statement, platform::kStyleOk);
+                return std::nullopt;
+            }
+            result = computed.value;
+        }
+    }
+    assignment.traced = raw ? arguments : result;
+    assignment.value = std::move(result);
+    return assignment;
+}
+
+void StoreAssignment(ScriptFrame& frame, const WorkedOutAssignment& assignment) {
+    if (assignment.dropped) return;
+    frame.arguments.variables->Set(assignment.name, assignment.value);
+    ReportTrace(frame.TraceWindow, kTraceVariable, assignment.name + L"\t" + assignment.traced);
+}

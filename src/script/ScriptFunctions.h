@@ -1,0 +1,23 @@
+// Functions: a name and arguments behind the equals sign of an assignment, such as x = left,2,abc.
+#pragma once
+
+#include <string>
+
+#include "script/ScriptFrame.h"
+
+struct FunctionResult {
+    std::wstring text;
+    // Raw text is stored as it is, empty or not: no hexadecimal rewriting, no computing.
+    bool raw = false;
+    // The function reported a fault: nothing is stored.
+    bool dropped = false;
+};
+
+struct ScriptFunction {
+    const wchar_t* name;  // lower case; the script may write it in any case
+    // arguments: the right side behind its first comma, untrimmed.
+    FunctionResult (*run)(ScriptFrame& frame, const std::wstring& arguments);
+};
+
+// The function of that lowered name, or null.
+const ScriptFunction* FindScriptFunction(const std::wstring& name);
