@@ -7,4 +7,10 @@
 
 #include "platform/HostWindows.h"
 
+// The byte count a script's copy data claims: four times what the text takes. Receivers go by the
+// terminator, so the count stays as it always was.
+inline uint32_t CopyDataByteCount(const std::wstring& text) {
+    return static_cast<uint32_t>(text.size()) * 8 + 8;
+}
+
 void SendHostText(platform::WindowRef hostWindow, uint32_t code, const std::wstring& text);

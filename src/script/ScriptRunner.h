@@ -11,9 +11,13 @@
 #include "script/VariableTable.h"
 #include "settings/UserDirectories.h"
 
+class MessageCatalog;
+
 class ScriptRunner {
 public:
-    explicit ScriptRunner(UserDirectories& directories) : directories_(directories) {}
+    // The messages serve the launches that tell the user why a program did not take a drop.
+    ScriptRunner(UserDirectories& directories, MessageCatalog& messages)
+        : directories_(directories), messages_(messages) {}
     ScriptRunner(const ScriptRunner&) = delete;
     ScriptRunner& operator=(const ScriptRunner&) = delete;
 
@@ -30,6 +34,7 @@ public:
     int32_t RunFrame(const ScriptArguments& arguments);
 
     UserDirectories& directories() const { return directories_; }
+    MessageCatalog& messages() const { return messages_; }
 
 #ifdef OPTION_SCRIPT_STEP_LIMIT
     // Lines read in this run, included scripts too.
@@ -38,4 +43,5 @@ public:
 
 private:
     UserDirectories& directories_;
+    MessageCatalog& messages_;
 };

@@ -4,6 +4,7 @@
 #include "script/ScriptAssignment.h"
 #include "script/ScriptCommands.h"
 #include "script/ScriptControlFlow.h"
+#include "script/ScriptLaunchWords.h"
 #include "script/ScriptOptionLine.h"
 #include "services/CRuntime.h"
 #include "services/Format.h"
@@ -55,9 +56,11 @@ LineOutcome RunStatement(ScriptFrame& frame, const ScriptLine& line) {
     // A command word wins over a variable of the same name: its assignment is lost.
     LineOutcome outcome = LineOutcome::Next;
     if (RunCommand(frame, line, outcome)) return outcome;
+    const bool called = RunCallStatement(frame, line);
     if (assignment) {
         StoreAssignment(frame, *assignment);
         return LineOutcome::Next;
     }
+    if (called || RunTargetStatement(frame, line)) return LineOutcome::Next;
     return RunUnknown(frame, line);
 }

@@ -1,6 +1,7 @@
 #include "script/ScriptTrace.h"
 
 #include "platform/Platform.h"
+#include "script/HostText.h"
 
 namespace {
 
@@ -16,7 +17,5 @@ void ReportTrace(platform::WindowRef traceWindow, TraceCode code, const std::wst
     if (!traceWindow) return;
     const platform::WindowRef window = FindTraceWindow();
     if (!window) return;
-    // Four times what the text takes; receivers go by the terminator, so the count stays as it always was.
-    const uint32_t byteCount = static_cast<uint32_t>(text.size()) * 8 + 8;
-    platform::Current().windows.SendCopyData(window, 0, code, text, byteCount);
+    platform::Current().windows.SendCopyData(window, 0, code, text, CopyDataByteCount(text));
 }

@@ -18,6 +18,7 @@
 
 #include "platform/fake/FakePlatform.h"
 #include "script/ScriptRunner.h"
+#include "services/MessageCatalog.h"
 #ifdef _WIN32
 #include "platform/win32/Win32Platform.h"
 #endif
@@ -81,7 +82,8 @@ std::optional<Options> ParseArguments(int argc, char** argv) {
 
 int32_t RunOnce(const std::wstring& path, const std::vector<std::wstring>& items, VariableTable& variables) {
     UserDirectories directories;
-    ScriptRunner runner(directories);
+    MessageCatalog messages;
+    ScriptRunner runner(directories, messages);
     SelectionList selection = items;
     return runner.Run(path, L"", L"", selection, static_cast<uint32_t>(-1), 1, 0, 0, 1, &variables, nullptr);
 }

@@ -12,6 +12,7 @@
 #include "script/ScriptLine.h"
 #include "script/ScriptMatchers.h"
 #include "script/ScriptRunner.h"
+#include "services/MessageCatalog.h"
 
 namespace {
 
@@ -44,7 +45,8 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
     fake.windows().SetTitledWindow(L"Script trace Qor", 0x51);
 
     UserDirectories directories;
-    ScriptRunner runner(directories);
+    MessageCatalog messages;
+    ScriptRunner runner(directories, messages);
     SelectionList selection;
     VariableTable variables;
     variables.Set(L"i", L"2");

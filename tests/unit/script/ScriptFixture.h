@@ -8,6 +8,7 @@
 
 #include "platform/fake/FakePlatform.h"
 #include "script/ScriptRunner.h"
+#include "services/MessageCatalog.h"
 #include "settings/UserDirectories.h"
 #include "unit/Utf16.h"
 
@@ -64,7 +65,8 @@ protected:
 
     platform::fake::FakePlatform fake;
     UserDirectories directories;
-    ScriptRunner runner{directories};
+    MessageCatalog messages;
+    ScriptRunner runner{directories, messages};
     SelectionList selection;
     VariableTable variables;
     std::vector<int> answers;

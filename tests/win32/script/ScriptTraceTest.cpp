@@ -11,6 +11,7 @@
 #include "platform/win32/Win32Environment.h"
 #include "platform/win32/Win32HostWindows.h"
 #include "script/ScriptRunner.h"
+#include "services/MessageCatalog.h"
 #include "unit/Utf16.h"
 
 namespace {
@@ -85,7 +86,8 @@ protected:
                                  fake_.system(),   windows_,      fake_.sharedMemory(), fake_.processes()};
     platform::Installed installed_{platform_};
     UserDirectories directories_;
-    ScriptRunner runner_{directories_};
+    MessageCatalog messages_;
+    ScriptRunner runner_{directories_, messages_};
     SelectionList selection_{L"C:\\one.txt"};
     HWND trace_ = nullptr;
 };
