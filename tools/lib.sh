@@ -135,16 +135,14 @@ start_wine() {
 }
 
 # The program's default user directory (the local application data folder + "Qor") gets the sample
-# command lists it lacks: without them every start would tell of each missing list. Lists already
-# there are left as they are.
+# files it lacks: the command lists (without them every start would tell of each missing list) and
+# the editor script. Files already there are left as they are.
 seed_user_directory() {
-  local home="$WINEPREFIX/drive_c/users/$(id -un)" list
+  local home="$WINEPREFIX/drive_c/users/$(id -un)"
   local dir="$home/AppData/Local/Qor"
   [ -d "$ROOT/sample/User" ] && [ -d "$home" ] || return 0
   mkdir -p "$dir"
-  for list in "$ROOT"/sample/User/*.txt; do
-    [ -e "$dir/$(basename "$list")" ] || cp "$list" "$dir/"
-  done
+  cp -rn "$ROOT/sample/User/." "$dir/"
 }
 
 stop_wine() {

@@ -10,6 +10,7 @@
 #include "app/Startup.h"
 #include "bindings/KeyListWriter.h"
 #include "platform/win32/Win32Platform.h"
+#include "script/ScriptRunner.h"
 #include "services/HostHandshake.h"
 
 namespace {
@@ -77,4 +78,11 @@ void COptionApp::WriteKeyLists() {
     writer.Run();
 }
 
-void COptionApp::RunEditorScript(const std::wstring&) {}
+// The user's editor script opens the file; an unreadable script is told by the runner.
+void COptionApp::RunEditorScript(const std::wstring& file) {
+    if (!app_) return;
+    ScriptRunner runner(app_->directories, app_->messages);
+    SelectionList selection{file};
+    runner.Run(app_->directories.UserDirectory() + L"Script\\Editor.txt", L"", L"", selection,
+               static_cast<uint32_t>(-1), 1, 0, 0, 1, nullptr, nullptr);
+}
