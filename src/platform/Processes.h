@@ -22,6 +22,7 @@ struct ProcessStart {
     bool useShowWindow = false;  // STARTF_USESHOWWINDOW with show
     int show = 0;
     uint32_t creationFlags = 0;
+    bool inheritHandles = false;
     bool operator==(const ProcessStart&) const = default;
 };
 

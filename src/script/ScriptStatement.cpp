@@ -6,11 +6,30 @@
 #include "script/ScriptControlFlow.h"
 #include "script/ScriptLaunchWords.h"
 #include "script/ScriptOptionLine.h"
+#include "script/ScriptRunner.h"
 #include "services/CRuntime.h"
 #include "services/Format.h"
+#include "services/MessageCatalog.h"
+#include "services/MessageIds.h"
 #include "services/Tokenizer.h"
 
 namespace {
+
+// The checkgrammar option, when it is neither "0" nor "1", is the command line of the user's editor:
+// it opens the script at the line not understood. The script is closed first so the editor may write it.
+void OpenScriptInEditor(ScriptFrame& frame, const std::wstring& editor) {
+    const std::wstring lineNumber = crt::Format(L"%d", frame.reader.GetLineNumber());
+    frame.reader.Close();
+    std::wstring commandLine = editor;
+    crt::Replace(commandLine, L"?ErrorLine?", lineNumber);
+    platform::Platform& os = platform::Current();
+    platform::ProcessStart start{commandLine, L"", false, 0, 0, true};
+    uint32_t error = 0;
+    if (!os.processes.Start(start, error)) {
+        os.prompts.ShowMessage(frame.runner.messages().Get(kMsgCannotStartProgram) + L"\n" + editor,
+                               platform::kStyleOk);
+    }
+}
 
 // A label line is known to the first pass; anything else unclaimed is asked about only when the
 // checkgrammar option is on.
@@ -24,8 +43,9 @@ LineOutcome RunUnknown(ScriptFrame& frame, const ScriptLine& line) {
     const std::wstring question =
         crt::Format(L"This is the line that I do not understand.\nDo you want to continue?\n%d:%s",
                     frame.reader.GetLineNumber(), statement);
-    if (platform::Current().prompts.ShowMessage(question, platform::kStyleYesNo) == platform::kAnswerYes)
-        return LineOutcome::Next;
+    platform::Platform& os = platform::Current();
+    if (os.prompts.ShowMessage(question, platform::kStyleYesNo) == platform::kAnswerYes) return LineOutcome::Next;
+    if (grammar != L"1") OpenScriptInEditor(frame, grammar);
     return LineOutcome::Exit;
 }
 

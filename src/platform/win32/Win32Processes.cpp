@@ -63,7 +63,7 @@ std::unique_ptr<StartedProcess> Win32Processes::Start(const ProcessStart& start,
     // CreateProcessW may write into its command line.
     std::wstring commandLine = start.commandLine;
     PROCESS_INFORMATION info{};
-    if (!CreateProcessW(nullptr, commandLine.data(), nullptr, nullptr, FALSE, start.creationFlags, nullptr,
+    if (!CreateProcessW(nullptr, commandLine.data(), nullptr, nullptr, start.inheritHandles, start.creationFlags, nullptr,
                         OrNull(start.directory), &startup, &info)) {
         error = GetLastError();
         return nullptr;

@@ -63,4 +63,45 @@ TEST_F(ScriptLaunchTest, CallAndExecStatements) {
               fake.processes().events());
 }
 
+// An unknown line answered No ends the run; a checkgrammar option other than "1" is the user's
+// editor, started at that line with handles inherited, or the reason it could not start.
+TEST_F(ScriptLaunchTest, UnknownLineAnsweredNoOpensTheEditorAtIt) {
+    struct Case {
+        const char* what;
+        std::wstring grammar;
+        bool starts;
+        std::vector<std::wstring> started;
+    };
+    const Case cases[] = {
+        {"only asked", L"1", true, {}},
+        {"the editor at the line", L"edit.exe /l:?ErrorLine?", true, {L"edit.exe /l:3"}},
+        {"an editor that cannot start", L"edit.exe /l:?ErrorLine?", false, {L"edit.exe /l:3"}},
+    };
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.what);
+        const size_t before = fake.processes().starts().size();
+        platform::fake::FakeProgram program;
+        program.starts = c.starts;
+        fake.processes().SetProgram(program);
+        answers = {7};
+        RunLines({L"checkgrammar = " + c.grammar, L"var x = a", L"frobnicate", L"x = &b"});
+        EXPECT_EQ(L"a", Value(L"x")) << "the run ended at the line";
+        std::vector<std::wstring> started;
+        for (size_t i = before; i < fake.processes().starts().size(); ++i) {
+            const platform::ProcessStart& start = fake.processes().starts()[i];
+            EXPECT_TRUE(start.inheritHandles);
+            started.push_back(start.commandLine);
+        }
+        EXPECT_EQ(c.started, started);
+        // The question, and when the editor cannot start the catalogue's reason behind the option.
+        ASSERT_FALSE(Messages().empty());
+        EXPECT_EQ(0u, Messages()[0].rfind(L"This is the line that I do not understand.", 0));
+        if (c.starts) {
+            EXPECT_EQ(1u, Messages().size());
+        } else {
+            EXPECT_TRUE(Messages().back().ends_with(L"\n" + c.grammar));
+        }
+    }
+}
+
 }  // namespace
