@@ -8,6 +8,7 @@
 #include <string>
 
 #include "support/FakeHostProcess.h"
+#include "support/Files.h"
 #include "support/HostHandshake.h"
 #include "support/OptionWindow.h"
 #include "support/Process.h"
@@ -122,24 +123,6 @@ namespace {
 
 constexpr wchar_t kSettings[] = L"Software\\Tarnwick\\Qor\\Main001\\Settings";
 
-std::wstring ReadUtf16File(const std::wstring& path) {
-    HANDLE file = CreateFileW(path.c_str(), GENERIC_READ, FILE_SHARE_READ, nullptr, OPEN_EXISTING, 0, nullptr);
-    if (file == INVALID_HANDLE_VALUE) return L"";
-    std::wstring text(GetFileSize(file, nullptr) / 2, L'\0');
-    DWORD read = 0;
-    ReadFile(file, text.data(), static_cast<DWORD>(text.size() * 2), &read, nullptr);
-    CloseHandle(file);
-    return text;
-}
-
-void WriteUtf16File(const std::wstring& path, const std::wstring& text) {
-    HANDLE file = CreateFileW(path.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, 0, nullptr);
-    ASSERT_NE(INVALID_HANDLE_VALUE, file);
-    DWORD written = 0;
-    WriteFile(file, text.data(), static_cast<DWORD>(text.size() * 2), &written, nullptr);
-    CloseHandle(file);
-}
-
 // With LangOut on, the first opening writes the dialog's text file for translators; a translated
 // file is what the next opening shows.
 TEST(OptionDialog, WritesItsTextFileAndReadsATranslation) {
@@ -155,11 +138,11 @@ TEST(OptionDialog, WritesItsTextFileAndReadsATranslation) {
     HWND dialog = e2e::FindOptionDialog(first.Id());
     ASSERT_NE(nullptr, dialog);
     EXPECT_EQ(0u, Cancel(first, dialog));
-    std::wstring text = ReadUtf16File(file);
+    std::wstring text = e2e::ReadUtf16File(file);
     ASSERT_TRUE(text.starts_with(L"\uFEFFオプション\r\n")) << "no dialog text file written";
     EXPECT_NE(std::wstring::npos, text.find(L"1301\tButton\t適用\r\n"));
 
-    WriteUtf16File(file, L"\uFEFFOptions\r\n1301\tButton\tApply\r\n");
+    ASSERT_TRUE(e2e::WriteUtf16File(file, L"\uFEFFOptions\r\n1301\tButton\tApply\r\n"));
     e2e::Process second = e2e::StartOption();
     ASSERT_TRUE(second);
     HWND translated = e2e::FindVisibleWindow(second.Id(), L"Options");

@@ -1,5 +1,7 @@
 #include "Process.h"
 
+#include "Files.h"
+
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -12,13 +14,6 @@ namespace {
 std::wstring Upper(std::wstring text) {
     std::transform(text.begin(), text.end(), text.begin(), [](wchar_t c) { return std::towupper(c); });
     return text;
-}
-
-std::string Narrow(const std::wstring& text) {
-    int size = WideCharToMultiByte(CP_UTF8, 0, text.c_str(), -1, nullptr, 0, nullptr, nullptr);
-    std::string out(size > 0 ? size - 1 : 0, '\0');
-    if (size > 1) WideCharToMultiByte(CP_UTF8, 0, text.c_str(), -1, out.data(), size, nullptr, nullptr);
-    return out;
 }
 
 std::wstring StripFileName(const std::wstring& path) {
@@ -55,7 +50,7 @@ std::wstring StageRoot() {
     if (length > 0 && length < 4096) {
         std::wstring root(value, length);
         // Set by the Unix side, so normally a Unix path; a Windows path is taken as it stands.
-        return root.front() == L'/' ? WinePath(Narrow(root)) : root;
+        return root.front() == L'/' ? WinePath(Utf8(root)) : root;
     }
     // build/win64/tests/e2e/e2e_tests.exe -> build/stage
     return StripFileName(StripFileName(StripFileName(TestDirectory()))) + L"\\stage";
@@ -129,7 +124,7 @@ Process Process::Start(const std::wstring& program, const std::vector<std::wstri
                         environment.data(), nullptr, &startup, &info)) {
         DWORD error = GetLastError();
         ADD_FAILURE_AT(where.file_name(), where.line())
-            << "cannot start " << Narrow(commandLine) << " (error " << error << ")";
+            << "cannot start " << Utf8(commandLine) << " (error " << error << ")";
         return process;
     }
     CloseHandle(info.hThread);

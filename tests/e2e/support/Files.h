@@ -1,0 +1,19 @@
+// Files as the tests prepare and read them: raw bytes, UTF-16 units as the program writes them, and
+// UTF-8 as the test programs log.
+#pragma once
+
+#include <string>
+
+namespace e2e {
+
+// The whole file; empty when it cannot be read.
+std::string ReadFileBytes(const std::wstring& path);
+// Creates or replaces the file; false when it cannot be written.
+bool WriteFileBytes(const std::wstring& path, const std::string& bytes);
+// The file's 16-bit units, a byte-order mark included when there is one.
+std::wstring ReadUtf16File(const std::wstring& path);
+// Writes the units as they stand: a byte-order mark only when the text starts with one.
+bool WriteUtf16File(const std::wstring& path, const std::wstring& text);
+std::string Utf8(const std::wstring& text);
+
+}  // namespace e2e
