@@ -59,36 +59,38 @@ std::optional<std::wstring> AssignedName(const ScriptFrame& frame, const std::ws
     return name;
 }
 
-std::optional<WorkedOutAssignment> WorkOutAssignment(ScriptFrame& frame, const std::wstring& name,
-                                                     const ScriptLine& line) {
-    WorkedOutAssignment assignment{name, {}, {}, false};
-    const std::wstring old = *frame.arguments.variables->Find(name);
+AssignmentRight ReadAssignmentRight(ScriptFrame& frame, const std::wstring& name, const ScriptLine& line) {
+    AssignmentRight read;
+    read.name = name;
+    read.old = *frame.arguments.variables->Find(name);
+    read.statement = line.statement;
     const size_t equals = line.spaced.find(L'=');
-    // Expanded but untrimmed: an append keeps the blanks behind its "&".
-    const std::wstring rawRight =
+    read.rawRight =
         frame.Expand(equals == std::wstring::npos ? std::wstring() : line.spaced.substr(equals + 1), false);
-    const std::wstring right = crt::Trim(rawRight);
+    read.right = crt::Trim(read.rawRight);
+    if (!CompoundResult(read.old, read.right, read.rawRight).empty()) return read;
+    std::vector<std::wstring> fields;
+    Tokenize(fields, read.right, L',', false, true);
+    if (fields.empty()) return read;
+    const ScriptFunction* function = FindScriptFunction(crt::MakeLower(crt::Trim(fields[0])));
+    if (!function || fields.size() < function->fewestFields || fields.size() > function->mostFields) return read;
+    read.function = function;
+    const size_t comma = read.right.find(L',');
+    if (comma != std::wstring::npos) read.arguments = read.right.substr(comma + 1);
+    return read;
+}
 
-    std::wstring result = CompoundResult(old, right, rawRight);
+std::optional<WorkedOutAssignment> WorkOutAssignment(ScriptFrame& frame, const AssignmentRight& read) {
+    std::wstring result = CompoundResult(read.old, read.right, read.rawRight);
     bool raw = false;
-    std::wstring arguments;
-    if (result.empty()) {
-        std::vector<std::wstring> fields;
-        Tokenize(fields, right, L',', false, true);
-        const std::wstring function = fields.empty() ? std::wstring() : crt::MakeLower(crt::Trim(fields[0]));
-        const ScriptFunction* found =
-            fields.size() >= 2 || function == L"getclipboardtext" ? FindScriptFunction(function) : nullptr;
-        if (found) {
-            const size_t comma = right.find(L',');
-            arguments = comma == std::wstring::npos ? std::wstring() : right.substr(comma + 1);
-            FunctionResult made = found->run(frame, arguments);
-            if (made.dropped) return WorkedOutAssignment{name, {}, {}, true};
-            result = std::move(made.text);
-            raw = made.raw;
-            if (result.empty() && !raw) result = arguments;
-        }
+    if (result.empty() && read.function) {
+        FunctionResult made = read.function->run(frame, read.arguments);
+        if (made.dropped) return WorkedOutAssignment{read.name, {}, {}, true};
+        result = std::move(made.text);
+        raw = made.raw;
+        if (result.empty() && !raw) result = read.arguments;
     }
-    if (result.empty() && !raw) result = right;
+    if (result.empty() && !raw) result = read.right;
     if (result == kEmptyText) result.clear();
     if (!raw) {
         RewriteHexNumbers(result);
@@ -97,14 +99,14 @@ std::optional<WorkedOutAssignment> WorkOutAssignment(ScriptFrame& frame, const s
             const ComputedText computed = ExpressionEvaluator(result).Compute();
             if (computed.error != 0) {
                 const wchar_t* what = computed.error == kDivisionByZero ? L"Division by zero.\n" : L"Syntax error!\n";
-                platform::Current().prompts.ShowMessage(what + line.statement, platform::kStyleOk);
+                platform::Current().prompts.ShowMessage(what + read.statement, platform::kStyleOk);
                 return std::nullopt;
             }
             result = computed.value;
         }
     }
-    assignment.traced = raw ? arguments : result;
-    assignment.value = std::move(result);
+    WorkedOutAssignment assignment{read.name, std::move(result), {}, false};
+    assignment.traced = raw ? read.arguments : assignment.value;
     return assignment;
 }
 

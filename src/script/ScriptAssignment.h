@@ -7,6 +7,7 @@
 #include <string>
 
 #include "script/ScriptFrame.h"
+#include "script/ScriptFunctions.h"
 #include "script/ScriptLine.h"
 
 struct WorkedOutAssignment {
@@ -20,8 +21,23 @@ struct WorkedOutAssignment {
 // The declared variable that statement assigns to, its index expanded; nothing when the text left of
 // the first equals sign names no declared variable.
 std::optional<std::wstring> AssignedName(const ScriptFrame& frame, const std::wstring& statement);
-// The value for name from the right side of the spaced line. Nothing when the computation failed:
-// that was reported and ends the run.
-std::optional<WorkedOutAssignment> WorkOutAssignment(ScriptFrame& frame, const std::wstring& name,
-                                                     const ScriptLine& line);
+// The right side of an assignment, expanded, and the function it names, if any.
+struct AssignmentRight {
+    std::wstring name;
+    std::wstring old;
+    // Expanded but untrimmed: an append keeps the blanks behind its "&".
+    std::wstring rawRight;
+    std::wstring right;
+    const ScriptFunction* function = nullptr;
+    // The right side behind its first comma.
+    std::wstring arguments;
+    std::wstring statement;
+    // Message boxes and programs are worked out only once the commands have had the line.
+    bool afterCommands() const { return function && function->afterCommands; }
+};
+
+AssignmentRight ReadAssignmentRight(ScriptFrame& frame, const std::wstring& name, const ScriptLine& line);
+// The value for the name: the compound form, the function's result or the right side, computed when
+// it is arithmetic. Nothing when the computation failed: that was reported and ends the run.
+std::optional<WorkedOutAssignment> WorkOutAssignment(ScriptFrame& frame, const AssignmentRight& right);
 void StoreAssignment(ScriptFrame& frame, const WorkedOutAssignment& assignment);

@@ -8,6 +8,7 @@
 #include <unordered_map>
 #include <vector>
 
+#include "platform/FileSystem.h"
 #include "platform/HostWindows.h"
 #include "script/RunOptions.h"
 #include "script/SelectionList.h"
@@ -45,6 +46,15 @@ enum IfState : uint32_t {
 };
 
 enum LoopKind : int32_t { kLoopFor = 1, kLoopDo = 2 };
+
+// One "exrun" line: what it starts, for which items, and how.
+struct ExRunEntry {
+    std::wstring programs;  // one program, or alternatives separated by "|"
+    std::wstring filter;
+    std::wstring argumentText;
+    std::wstring directory;
+    int32_t launchMode = 0;
+};
 
 // Label text, with its case, to the offset of its line.
 using LabelTable = std::unordered_map<std::wstring, uint32_t>;
@@ -88,6 +98,16 @@ public:
     std::vector<int32_t> LoopKindStack;
     std::vector<uint32_t> DoReturnStack;
     platform::WindowRef TraceWindow = 0;
+    // The file "fileopen" opened, closed at the latest with the frame. The next open empties the file
+    // when truncateNextOpen is set; the next "filewritew" puts a byte order mark first when
+    // writeByteOrderMark is.
+    std::unique_ptr<platform::File> outputFile;
+    bool truncateNextOpen = false;
+    bool writeByteOrderMark = false;
+    // The file "fileread" and "fileallread" read; another path reopens it at its top.
+    TextFileReader dataReader;
+    // The "exrun" lines, started for each item once the script has ended.
+    std::vector<ExRunEntry> exRuns;
 
 private:
     std::unique_ptr<VariableTable> ownVariables_;

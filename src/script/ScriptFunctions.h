@@ -1,6 +1,8 @@
 // Functions: a name and arguments behind the equals sign of an assignment, such as x = left,2,abc.
 #pragma once
 
+#include <cstddef>
+#include <cstdint>
 #include <string>
 
 #include "script/ScriptFrame.h"
@@ -17,6 +19,13 @@ struct ScriptFunction {
     const wchar_t* name;  // lower case; the script may write it in any case
     // arguments: the right side behind its first comma, untrimmed.
     FunctionResult (*run)(ScriptFrame& frame, const std::wstring& arguments);
+    // Message boxes and programs wait for the line's commands: a command of the variable's name
+    // wins, and then the box is never shown and the program never started.
+    bool afterCommands = false;
+    // The fields of the right side, the name included, the function needs; with fewer or more the
+    // right side is no function and stands as text.
+    size_t fewestFields = 2;
+    size_t mostFields = SIZE_MAX;
 };
 
 // The function of that lowered name, or null.

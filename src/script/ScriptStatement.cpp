@@ -68,14 +68,22 @@ LineOutcome RunVar(ScriptFrame& frame, const ScriptLine& line) {
 
 LineOutcome RunStatement(ScriptFrame& frame, const ScriptLine& line) {
     if (RunOptionLine(frame, line)) return LineOutcome::Next;
+    std::optional<AssignmentRight> right;
     std::optional<WorkedOutAssignment> assignment;
     if (const auto name = AssignedName(frame, line.statement)) {
-        assignment = WorkOutAssignment(frame, *name, line);
-        if (!assignment) return LineOutcome::EndOfScript;
+        right = ReadAssignmentRight(frame, *name, line);
+        if (!right->afterCommands()) {
+            assignment = WorkOutAssignment(frame, *right);
+            if (!assignment) return LineOutcome::EndOfScript;
+        }
     }
     // A command word wins over a variable of the same name: its assignment is lost.
     LineOutcome outcome = LineOutcome::Next;
     if (RunCommand(frame, line, outcome)) return outcome;
+    if (right && right->afterCommands()) {
+        assignment = WorkOutAssignment(frame, *right);
+        if (!assignment) return LineOutcome::EndOfScript;
+    }
     const bool called = RunCallStatement(frame, line);
     if (assignment) {
         StoreAssignment(frame, *assignment);
