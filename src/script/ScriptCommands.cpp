@@ -3,6 +3,7 @@
 #include "script/ScriptRunner.h"
 #include "script/ScriptTrace.h"
 #include "services/Format.h"
+#include "services/Tokenizer.h"
 
 namespace {
 
@@ -28,6 +29,20 @@ const Command kCommands[] = {
 };
 
 }  // namespace
+
+std::wstring CommandValue(const ScriptFrame& frame, const ScriptLine& line, ValueForm form) {
+    switch (form) {
+    case ValueForm::Expanded: return frame.Expand(line.value, true);
+    case ValueForm::Variables: {
+        std::wstring value = line.value;
+        ExpandVariables(*frame.arguments.variables, value);
+        return value;
+    }
+    case ValueForm::Raw: return line.value;
+    case ValueForm::RawLine: return frame.Expand(RightOfSeparator(line.raw, L'=', true), true);
+    }
+    return line.value;
+}
 
 bool RunCommand(ScriptFrame& frame, const ScriptLine& line, LineOutcome& outcome) {
     for (const Command& command : kCommands) {

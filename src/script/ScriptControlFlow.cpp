@@ -120,8 +120,12 @@ LineOutcome If(ScriptFrame& frame, const ScriptLine& line) {
 
 void ShowScriptMessage(const std::wstring& text) { platform::Current().prompts.ShowMessage(text, platform::kStyleOk); }
 
-LineOutcome EndWithSyntaxError(const ScriptLine& line) {
+void ReportSyntaxError(const ScriptLine& line) {
     ShowScriptMessage(L"Syntax error!\n" + line.statement);
+}
+
+LineOutcome EndWithSyntaxError(const ScriptLine& line) {
+    ReportSyntaxError(line);
     return LineOutcome::Exit;
 }
 

@@ -13,5 +13,7 @@ std::optional<LineOutcome> RunControlWord(ScriptFrame& frame, const ScriptLine& 
 
 // A message box with one OK button.
 void ShowScriptMessage(const std::wstring& text);
+// "Syntax error!" and the statement; the script goes on unless the caller ends it.
+void ReportSyntaxError(const ScriptLine& line);
 // "Syntax error!" and the statement; the script ends at once.
 LineOutcome EndWithSyntaxError(const ScriptLine& line);
