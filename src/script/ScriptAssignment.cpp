@@ -2,8 +2,8 @@
 
 #include <vector>
 
-#include "platform/Platform.h"
 #include "script/ExpressionEvaluator.h"
+#include "script/ScriptControlFlow.h"
 #include "script/ScriptFunctions.h"
 #include "script/ScriptNumbers.h"
 #include "script/ScriptTrace.h"
@@ -47,6 +47,10 @@ std::wstring CompoundResult(const std::wstring& old, const std::wstring& right, 
     return crt::Format(L"%lld", value);
 }
 
+void ReportComputeError(int32_t error, const std::wstring& statement) {
+    ShowScriptMessage((error == kDivisionByZero ? L"Division by zero.\n" : L"Syntax error!\n") + statement);
+}
+
 }  // namespace
 
 std::optional<std::wstring> AssignedName(const ScriptFrame& frame, const std::wstring& statement) {
@@ -85,6 +89,16 @@ std::optional<WorkedOutAssignment> WorkOutAssignment(ScriptFrame& frame, const A
     bool raw = false;
     if (result.empty() && read.function) {
         FunctionResult made = read.function->run(frame, read.arguments);
+        switch (made.fault) {
+        case FunctionFault::None: break;
+        case FunctionFault::SyntaxError:
+            ShowScriptMessage(L"Syntax error!\n" + read.rawRight);
+            return WorkedOutAssignment{read.name, {}, {}, true};
+        case FunctionFault::IllegalCall:
+            ShowScriptMessage(L"Illegal Function Call!\n" + read.right);
+            return WorkedOutAssignment{read.name, {}, {}, true};
+        case FunctionFault::Computation: ReportComputeError(made.computeError, read.statement); return std::nullopt;
+        }
         if (made.dropped) return WorkedOutAssignment{read.name, {}, {}, true};
         result = std::move(made.text);
         raw = made.raw;
@@ -98,8 +112,7 @@ std::optional<WorkedOutAssignment> WorkOutAssignment(ScriptFrame& frame, const A
         if (!result.empty() && IsExpressionText(result)) {
             const ComputedText computed = ExpressionEvaluator(result).Compute();
             if (computed.error != 0) {
-                const wchar_t* what = computed.error == kDivisionByZero ? L"Division by zero.\n" : L"Syntax error!\n";
-                platform::Current().prompts.ShowMessage(what + read.statement, platform::kStyleOk);
+                ReportComputeError(computed.error, read.statement);
                 return std::nullopt;
             }
             result = computed.value;

@@ -7,12 +7,22 @@
 
 #include "script/ScriptFrame.h"
 
+// What went wrong in a function, reported by the assignment, which knows the line.
+enum class FunctionFault {
+    None,
+    SyntaxError,  // too few fields: "Syntax error!" and the right side; nothing is stored
+    IllegalCall,  // an argument out of range: "Illegal Function Call!" and the right side; nothing is stored
+    Computation,  // the evaluator failed with the code in computeError: the run ends
+};
+
 struct FunctionResult {
     std::wstring text;
     // Raw text is stored as it is, empty or not: no hexadecimal rewriting, no computing.
     bool raw = false;
     // The function reported a fault: nothing is stored.
     bool dropped = false;
+    FunctionFault fault = FunctionFault::None;
+    int32_t computeError = 0;
 };
 
 struct ScriptFunction {
