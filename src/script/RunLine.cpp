@@ -20,8 +20,6 @@ enum OpenMode : int32_t {
 };
 
 constexpr uint32_t kFirstHostFolderCode = 100;
-// A bootdir of "1" starts the program in its own directory.
-constexpr wchar_t kProgramsOwnDirectory[] = L"1";
 
 bool IsDirectory(uint32_t attributes) {
     return (attributes & platform::kAttributeDirectory) != 0;
@@ -41,7 +39,7 @@ void RunTargetLine(RunWord word, const std::wstring& value, RunOptions& options,
     uint32_t attributes = os.files.GetAttributes(text);
     if (options.openMode == kDecideByFirstTarget) {
         if (text.find(L"::") != std::wstring::npos)
-            attributes = os.files.IsShellFolder(text) ? platform::kAttributeDirectory : 0;
+            attributes = os.files.IsShellFolder(text) ? uint32_t{platform::kAttributeDirectory} : 0u;
         options.openMode = IsDirectory(attributes) ? 3 : kStartProgram;
     }
     if (options.openMode >= kHostFolderFirst && options.openMode <= kHostFolderLast) {

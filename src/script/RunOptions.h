@@ -7,6 +7,9 @@
 
 #include "script/TextMap.h"
 
+// A bootdir of "1" starts a program in its own directory.
+constexpr wchar_t kProgramsOwnDirectory[] = L"1";
+
 // Option key to its text: numbers as "%d", flags as "1" or "0".
 class RunOptionTable : public TextMap {};
 

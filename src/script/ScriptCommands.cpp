@@ -1,6 +1,7 @@
 #include "script/ScriptCommands.h"
 
 #include "script/ScriptRunner.h"
+#include "script/ScriptSelectionCommands.h"
 #include "script/ScriptTrace.h"
 #include "services/Format.h"
 #include "services/Tokenizer.h"
@@ -26,20 +27,27 @@ struct Command {
 
 const Command kCommands[] = {
     {L"include", RunInclude},
+    {L"appendselectitem", RunAppendSelectItem},
+    {L"appendcsvselectitem", RunAppendCsvSelectItem},
+    {L"getselectitems", RunGetSelectItems},
+    {L"removeselectitems", RunRemoveSelectItems},
 };
 
 }  // namespace
 
 std::wstring CommandValue(const ScriptFrame& frame, const ScriptLine& line, ValueForm form) {
     switch (form) {
-    case ValueForm::Expanded: return frame.Expand(line.value, true);
-    case ValueForm::Variables: {
-        std::wstring value = line.value;
-        ExpandVariables(*frame.arguments.variables, value);
-        return value;
-    }
-    case ValueForm::Raw: return line.value;
-    case ValueForm::RawLine: return frame.Expand(RightOfSeparator(line.raw, L'=', true), true);
+        case ValueForm::Expanded:
+            return frame.Expand(line.value, true);
+        case ValueForm::Variables: {
+            std::wstring value = line.value;
+            ExpandVariables(*frame.arguments.variables, value);
+            return value;
+        }
+        case ValueForm::Raw:
+            return line.value;
+        case ValueForm::RawLine:
+            return frame.Expand(RightOfSeparator(line.raw, L'=', true), true);
     }
     return line.value;
 }

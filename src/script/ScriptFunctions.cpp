@@ -1,11 +1,32 @@
 #include "script/ScriptFunctions.h"
 
-#include <span>
+#include "script/ScriptLaunchWords.h"
+#include "script/ScriptPathFunctions.h"
+#include "script/ScriptTextFunctions.h"
 
 namespace {
 
-// The built-in functions come as rows of this table.
-constexpr std::span<const ScriptFunction> kFunctions;
+const ScriptFunction kFunctions[] = {
+    {L"call", CallFunction, true},
+    {L"exec", ExecFunction, true},
+    {L"random", RandomItem},
+    {L"exist", Exist},
+    {L"isdirectory", IsDirectory},
+    {L"isfile", IsFile},
+    {L"getpath", GetPath},
+    {L"getname", GetName},
+    {L"getext", GetExt},
+    {L"removelastseparator", RemoveLastSeparator},
+    {L"length", Length},
+    {L"substring", SubString},
+    {L"find", Find},
+    {L"replace", ReplaceText},
+    {L"csv", CsvField},
+    {L"left", LeftText},
+    {L"right", RightText},
+    {L"double", Compute},
+    {L"mainwindowposition", MainWindowPosition},
+};
 
 }  // namespace
 

@@ -6,6 +6,7 @@
 #include "script/ScriptCommands.h"
 #include "script/ScriptControlFlow.h"
 #include "script/ScriptRunner.h"
+#include "script/ScriptSelectionCommands.h"
 #include "script/ScriptStatement.h"
 #include "script/ScriptTrace.h"
 #include "services/CRuntime.h"
@@ -18,11 +19,7 @@ std::optional<LineOutcome> RunUnskippable(ScriptFrame& frame, const std::wstring
     if (lowered == L"updatestate") return LineOutcome::Next;  // the host's state bar is not ours to update
     if (lowered == L"fileclose") return LineOutcome::Next;    // no output file stays open past its own line yet
     if (lowered != L"removeselectitems") return std::nullopt;
-    if (frame.ItemIndex != -1) {
-        platform::Current().prompts.ShowMessage(L"RemoveSelectItems can not be executed within the loop.",
-                                                platform::kStyleOk);
-        return LineOutcome::Exit;
-    }
+    if (frame.ItemIndex != -1) return RefuseRemovalInLoop();
     frame.arguments.selection->clear();
     return LineOutcome::Next;
 }

@@ -3,6 +3,7 @@
 #include "platform/Platform.h"
 #include "script/MacroExpansion.h"
 #include "script/ScriptFirstPass.h"
+#include "script/ScriptLaunchWords.h"
 #include "script/ScriptMainLoop.h"
 #include "script/ScriptTrace.h"
 
@@ -38,5 +39,12 @@ int32_t ScriptRunner::RunFrame(const ScriptArguments& arguments) {
     }
     if (!RunFirstPass(frame)) return 0;
     ReportTrace(frame.TraceWindow, kTraceScriptPath, path);
-    return RunMainLoop(frame) == LineOutcome::EndAll ? -1 : 0;
+    const LineOutcome outcome = RunMainLoop(frame);
+    if (outcome == LineOutcome::EndAll) return -1;
+    if (outcome == LineOutcome::EndOfScript) {
+        // Closed first, so that a program started for an item may write the script.
+        frame.reader.Close();
+        RunDeferredLaunches(frame);
+    }
+    return 0;
 }

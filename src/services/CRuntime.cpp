@@ -262,4 +262,23 @@ int Replace(std::wstring& text, std::wstring_view piece, std::wstring_view with)
     return count;
 }
 
+std::wstring Mid(std::wstring_view text, int32_t start, int32_t count) {
+    const size_t from = std::min(static_cast<size_t>(std::max(start, 0)), text.size());
+    return std::wstring(text.substr(from, static_cast<size_t>(std::max(count, 0))));
+}
+
+std::wstring Left(std::wstring_view text, int32_t count) {
+    return Mid(text, 0, count);
+}
+
+std::wstring Right(std::wstring_view text, int32_t count) {
+    const size_t length = std::min(static_cast<size_t>(std::max(count, 0)), text.size());
+    return std::wstring(text.substr(text.size() - length));
+}
+
+int32_t RandAfterSeed(uint32_t seed) {
+    const uint32_t next = seed * 214013u + 2531011u;
+    return static_cast<int32_t>((next >> 16) & 0x7FFF);
+}
+
 }  // namespace crt

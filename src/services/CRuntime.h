@@ -42,4 +42,13 @@ int Replace(std::wstring& text, std::wstring_view piece, std::wstring_view with)
 std::wstring MakeLower(std::wstring_view text);
 std::wstring MakeUpper(std::wstring_view text);
 
+// CString::Mid, Left and Right: a start or count below 0 counts as 0, and the piece ends at the
+// end of the text.
+std::wstring Mid(std::wstring_view text, int32_t start, int32_t count);
+std::wstring Left(std::wstring_view text, int32_t count);
+std::wstring Right(std::wstring_view text, int32_t count);
+
+// srand(seed) and then rand(): the runtime's generator, 0 to 32767.
+int32_t RandAfterSeed(uint32_t seed);
+
 }  // namespace crt

@@ -4,14 +4,14 @@
 #include "services/LongPath.h"
 #include "services/PathHelpers.h"
 
+platform::FindStyle SearchStyle() {
+    const int version = platform::Current().files.ShellVersion();
+    return version == 501 || version == 600 ? platform::FindStyle::Plain : platform::FindStyle::BasicLargeFetch;
+}
+
 bool FileExists(const std::wstring& path) {
-    platform::FileSystem& files = platform::Current().files;
-    // The shells of the early 2000s do not know the faster search, so those get the plain one.
-    int version = files.ShellVersion();
-    platform::FindStyle style =
-        (version == 501 || version == 600) ? platform::FindStyle::Plain : platform::FindStyle::BasicLargeFetch;
     platform::FindData found;
-    return files.FindFirst(StripSeparator(path), style, found);
+    return platform::Current().files.FindFirst(StripSeparator(path), SearchStyle(), found);
 }
 
 uint32_t FileAttributes(const std::wstring& path) {

@@ -39,7 +39,8 @@ protected:
     }
 
     int32_t Run(const std::wstring& path, VariableTable* variables = nullptr, RunOptionTable* options = nullptr) {
-        return runner.Run(path, L"", L"", selection, static_cast<uint32_t>(-1), 1, 0, 0, 1, variables, options);
+        return runner.Run(path, nowDirectory, L"", selection, static_cast<uint32_t>(-1), 1, 0, 0, 1, variables,
+                          options);
     }
 
     // Runs the lines as a script of their own with a fresh variable table, kept for the checks, and
@@ -67,6 +68,7 @@ protected:
     UserDirectories directories;
     MessageCatalog messages;
     ScriptRunner runner{directories, messages};
+    std::wstring nowDirectory;
     SelectionList selection;
     VariableTable variables;
     std::vector<int> answers;

@@ -1,6 +1,7 @@
 // Our C runtime rules against the system's own functions on generated inputs.
 #include <gtest/gtest.h>
 
+#include <array>
 #include <bit>
 #include <cmath>
 #include <cwctype>
@@ -243,6 +244,26 @@ TEST(CRuntimeDifferential, WcstodMatchesOnGeneratedTexts) {
         }
     }
     EXPECT_EQ(0u, mismatches.count()) << mismatches.Report();
+}
+
+}  // namespace
+
+namespace {
+
+using SrandFunction = void(__cdecl*)(unsigned);
+using RandFunction = int(__cdecl*)();
+
+TEST(CRuntimeDifferential, RandAfterSeedMatchesSrandAndRand) {
+    auto srandRef = Reference<SrandFunction>("srand");
+    auto randRef = Reference<RandFunction>("rand");
+    ASSERT_TRUE(srandRef && randRef);
+    Generator g(29);
+    for (int i = 0; i < 5000; ++i) {
+        const uint32_t seed = i < 4 ? std::array<uint32_t, 4>{0, 1, 0x7FFFFFFF, 0xFFFFFFFF}[i]
+                                    : static_cast<uint32_t>(g.Below(0xFFFFFFFF));
+        srandRef(seed);
+        ASSERT_EQ(randRef(), crt::RandAfterSeed(seed)) << seed;
+    }
 }
 
 }  // namespace

@@ -1,0 +1,123 @@
+// "exrun" lines start nothing while the script runs: once it has ended, each item it started with
+// goes to the first entry whose filter takes it.
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+#include "unit/script/ScriptFixture.h"
+
+namespace {
+
+class ScriptExRunTest : public ScriptFixture {
+protected:
+    ScriptExRunTest() { nowDirectory = L"C:\\Now"; }
+
+    // Each start through the shell as "program parameters @ directory".
+    std::vector<std::wstring> Starts() {
+        std::vector<std::wstring> started;
+        for (const auto& request : fake.processes().shellRequests())
+            started.push_back(request.file + L" " + request.parameters + L" @ " + request.directory);
+        return started;
+    }
+
+    std::vector<std::wstring> RunFor(const std::vector<std::wstring>& lines) {
+        const size_t before = fake.processes().shellRequests().size();
+        RunLines(lines);
+        std::vector<std::wstring> started = Starts();
+        started.erase(started.begin(), started.begin() + static_cast<std::ptrdiff_t>(before));
+        return started;
+    }
+};
+
+TEST_F(ScriptExRunTest, EachItemGoesToTheFirstEntryThatTakesIt) {
+    struct Case {
+        const char* label;
+        std::vector<std::wstring> lines;
+        std::vector<std::wstring> started;
+    };
+    const Case cases[] = {
+        {"filters in the order of the lines",
+         {L"commandlineoption = ?SelFile?", L"filter = txt", L"exrun = C:\\T\\edit.exe", L"filter =",
+          L"exrun = C:\\T\\view.exe"},
+         {L"C:\\T\\edit.exe \"C:\\Data\\a.txt\" @ C:\\Now", L"C:\\T\\view.exe \"C:\\Data\\b.jpg\" @ C:\\Now",
+          L"C:\\T\\edit.exe \"C:\\Data\\c.TXT\" @ C:\\Now"}},
+        {"nothing until the script has ended",
+         {L"commandlineoption = ?SelFile?", L"exrun = C:\\T\\view.exe", L"commandlineoption = /x ?SelFile?",
+          L"var x = 1"},
+         {L"C:\\T\\view.exe \"C:\\Data\\a.txt\" @ C:\\Now", L"C:\\T\\view.exe \"C:\\Data\\b.jpg\" @ C:\\Now",
+          L"C:\\T\\view.exe \"C:\\Data\\c.TXT\" @ C:\\Now"}},
+        {"an entry without an item macro starts nothing",
+         {L"commandlineoption = /all", L"exrun = C:\\T\\view.exe"},
+         {}},
+        {"an empty program is no entry", {L"commandlineoption = ?SelFile?", L"exrun = "}, {}},
+        {"previewbar belongs to the host, and the next entry gets the item",
+         {L"commandlineoption = ?SelFile?", L"filter = jpg", L"exrun = PreviewBar", L"filter =",
+          L"exrun = C:\\T\\view.exe"},
+         {L"C:\\T\\view.exe \"C:\\Data\\a.txt\" @ C:\\Now", L"C:\\T\\view.exe \"C:\\Data\\b.jpg\" @ C:\\Now",
+          L"C:\\T\\view.exe \"C:\\Data\\c.TXT\" @ C:\\Now"}},
+        {"bootdir: the now-directory, the program's own, or as written",
+         {L"commandlineoption = ?SelFile?", L"filter = txt", L"bootdir = 1", L"exrun = C:\\T\\edit.exe",
+          L"filter = jpg", L"bootdir = C:\\Work", L"exrun = C:\\T\\view.exe"},
+         {L"C:\\T\\edit.exe \"C:\\Data\\a.txt\" @ C:\\T\\", L"C:\\T\\view.exe \"C:\\Data\\b.jpg\" @ C:\\Work",
+          L"C:\\T\\edit.exe \"C:\\Data\\c.TXT\" @ C:\\T\\"}},
+        {"EOF runs them",
+         {L"commandlineoption = ?SelFile?", L"filter = jpg", L"exrun = v.exe", L"EOF", L"exit"},
+         {L"v.exe \"C:\\Data\\b.jpg\" @ C:\\Now"}},
+        {"exit does not", {L"commandlineoption = ?SelFile?", L"exrun = v.exe", L"exit"}, {}},
+        {"nor a syntax error that ends the run", {L"commandlineoption = ?SelFile?", L"exrun = v.exe", L"if"}, {}},
+        {"the items the script started with, not those it added",
+         {L"commandlineoption = ?SelFile?", L"filter = jpg", L"exrun = v.exe", L"appendselectitem = C:\\x.jpg"},
+         {L"v.exe \"C:\\Data\\b.jpg\" @ C:\\Now"}},
+        {"too many backward jumps still run them",
+         {L"commandlineoption = ?SelFile?", L"filter = jpg", L"exrun = v.exe", L"exitloopcount = 0", L"top:",
+          L"goto top"},
+         {L"v.exe \"C:\\Data\\b.jpg\" @ C:\\Now"}},
+    };
+    for (const Case& c : cases) {
+        selection = {L"C:\\Data\\a.txt", L"C:\\Data\\b.jpg", L"C:\\Data\\c.TXT"};
+        std::vector<std::wstring> lines = c.lines;
+        EXPECT_EQ(c.started, RunFor(lines)) << c.label;
+    }
+}
+
+// Alternatives are offered per item with the item's name; Cancel counts as dealt with.
+TEST_F(ScriptExRunTest, AlternativesAreOfferedPerItem) {
+    selection = {L"C:\\Data\\a.txt", L"C:\\Data\\b.txt"};
+    fake.prompts().Choose(1);
+    Run(AddScript(L"choose.txt",
+                  {L"commandlineoption = ?SelFile?", L"exrun = edit.exe | view.exe", L"exrun = last.exe"}));
+    const std::vector<std::wstring> started = Starts();
+    EXPECT_EQ(std::vector<std::wstring>{L"view.exe \"C:\\Data\\a.txt\" @ C:\\Now"}, started);
+    ASSERT_EQ(2u, fake.prompts().offered().size());
+    EXPECT_EQ((platform::ChoiceRequest{L"Please select an application.", L"b.txt", {L"edit.exe", L"view.exe"}}),
+              fake.prompts().offered()[1]);
+}
+
+// An included script runs its own entries when it ends, before the parent goes on.
+TEST_F(ScriptExRunTest, AnIncludedScriptRunsItsOwnEntriesFirst) {
+    selection = {L"C:\\Data\\a.txt"};
+    AddScript(L"child.txt", {L"commandlineoption = ?SelFile?", L"exrun = child.exe"});
+    const std::vector<std::wstring> started = RunFor({std::wstring(L"include = ") + kScriptDirectory + L"child.txt",
+                                                      L"openmode = 1", L"run = parent.exe", L"exrun = own.exe"});
+    EXPECT_EQ((std::vector<std::wstring>{L"child.exe \"C:\\Data\\a.txt\" @ C:\\Now",
+                                         L"parent.exe \"C:\\Data\\a.txt\" @ C:\\Now",
+                                         L"own.exe \"C:\\Data\\a.txt\" @ C:\\Now"}),
+              started);
+}
+
+// A list that shrank under the entries ends the whole run, the including scripts too; without
+// entries nothing is looked at.
+TEST_F(ScriptExRunTest, AShrunkListEndsTheWholeRun) {
+    selection = {L"C:\\Data\\a.txt", L"C:\\Data\\b.jpg", L"C:\\Data\\c.TXT"};
+    AddScript(L"child.txt", {L"commandlineoption = ?SelFile?", L"exrun = v.exe", L"removeselectitems = *.txt"});
+    const std::vector<std::wstring> started =
+        RunFor({std::wstring(L"include = ") + kScriptDirectory + L"child.txt", L"appendselectitem = after"});
+    EXPECT_EQ(std::vector<std::wstring>{L"v.exe \"C:\\Data\\b.jpg\" @ C:\\Now"}, started);
+    EXPECT_EQ(SelectionList{L"C:\\Data\\b.jpg"}, selection) << "the parent did not go on";
+
+    EXPECT_TRUE(RunFor({L"removeselectitems", L"var x = 1"}).empty());
+    EXPECT_EQ(L"1", Value(L"x"));
+}
+
+}  // namespace

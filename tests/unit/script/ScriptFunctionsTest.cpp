@@ -1,0 +1,130 @@
+// The functions of an assignment: the value stored, the messages shown, and how the run goes on.
+#include <gtest/gtest.h>
+
+#include "unit/script/ScriptCase.h"
+
+namespace {
+
+class ScriptFunctionsTest : public ScriptCaseTest {
+protected:
+    ScriptFunctionsTest() {
+        fake.files().AddFile(L"C:\\Data\\notes.txt", std::string_view("n"));
+        fake.files().AddDirectory(L"C:\\Data\\Sub");
+        fake.files().AddFile(L"C:\\ blank", std::string_view("b"));
+    }
+};
+
+TEST_F(ScriptFunctionsTest, TextFunctions) {
+    const ScriptCase cases[] = {
+        {"length counts characters", {L"var qx = Length, a,b "}, {{L"qx", L"4"}}},
+        {"any case, name trimmed", {L"var qx =  LENGTH ,abc"}, {{L"qx", L"3"}}},
+        {"substring takes start and count", {L"var qx = SubString,1,3,abcdef"}, {{L"qx", L"bcd"}}},
+        {"substring past the end", {L"var qx = substring,4,9,abcdef"}, {{L"qx", L"ef"}}},
+        {"substring keeps commas of its text", {L"var qx = substring,0,3,a,b,c"}, {{L"qx", L"a,b"}}},
+        {"find with case", {L"var qx = find,B,aBcB"}, {{L"qx", L"1"}}},
+        {"find nothing", {L"var qx = find,b,aBc"}, {{L"qx", L"-1"}}},
+        {"replace every piece", {L"var qx = replace,o,0,foo boo"}, {{L"qx", L"f00 b00"}}},
+        {"csv field trimmed", {L"var qx = csv,1,a, b ,c"}, {{L"qx", L"b"}}},
+        {"csv empty field stores the arguments", {L"var qx = csv,1,a,,c"}, {{L"qx", L"1,a,,c"}}},
+        {"left", {L"var qx = left,2,abc"}, {{L"qx", L"ab"}}},
+        {"right", {L"var qx = right,2,abc"}, {{L"qx", L"bc"}}},
+        {"a result that computes is computed", {L"var qx = left,3,1/2x"}, {{L"qx", L"0.5"}}},
+        {"an empty result stores the arguments", {L"var qx = left,0, abc"}, {{L"qx", L"0, abc"}}},
+        {"double computes", {L"var qx = double,(1+2)*1.5"}, {{L"qx", L"4.5"}}},
+        {"not a function name: the whole right side", {L"var qx = lefty,2,abc"}, {{L"qx", L"lefty,2,abc"}}},
+        {"a name alone is no function", {L"var qx = Exist"}, {{L"qx", L"Exist"}}},
+        {"main window position leaves its arguments", {L"var qx = MainWindowPosition,a,b"}, {{L"qx", L"a,b"}}},
+    };
+    for (const ScriptCase& c : cases) Check(c);
+}
+
+TEST_F(ScriptFunctionsTest, FaultsAreReportedWithTheRightSide) {
+    const ScriptCase cases[] = {
+        {"substring needs four fields",
+         {L"var qx = keep", L"qx = substring,1, abc ", L"var qy = on"},
+         {{L"qx", L"keep"}, {L"qy", L"on"}},
+         {L"Syntax error!\n substring,1, abc "}},
+        {"find, left, right need three",
+         {L"var qx = k", L"qx = find,a", L"qx = left,1", L"qx = right,1"},
+         {{L"qx", L"k"}},
+         {L"Syntax error!\n find,a", L"Syntax error!\n left,1", L"Syntax error!\n right,1"}},
+        {"replace needs four", {L"var qx = k", L"qx = replace,a,b"}, {{L"qx", L"k"}}, {L"Syntax error!\n replace,a,b"}},
+        {"csv index out of range",
+         {L"var qx = k", L"qx = csv,3,a,b", L"qx = csv,-1,a", L"var qy = on"},
+         {{L"qx", L"k"}, {L"qy", L"on"}},
+         {L"Illegal Function Call!\ncsv,3,a,b", L"Illegal Function Call!\ncsv,-1,a"}},
+        {"double's error ends the run",
+         {L"var qx = k", L"qx = double,1/0", L"qx = on"},
+         {{L"qx", L"k"}},
+         {L"Division by zero.\nqx = double,1/0"}},
+    };
+    for (const ScriptCase& c : cases) Check(c);
+}
+
+TEST_F(ScriptFunctionsTest, PathFunctions) {
+    const ScriptCase cases[] = {
+        {"exist",
+         {L"var q1 = Exist,C:\\Data\\notes.txt", L"var q2 = exist,C:\\Data\\none.txt"},
+         {{L"q1", L"1"}, {L"q2", L"0"}}},
+        {"a blank behind the comma is part of the path",
+         {L"var q1 = Exist, C:\\Data\\notes.txt", L"var q2 = Exist, blank"},
+         {{L"q1", L"0"}, {L"q2", L"1"}}},
+        {"directory or file",
+         {L"var q1 = IsDirectory,C:\\Data\\Sub", L"var q2 = IsFile,C:\\Data\\Sub",
+          L"var q3 = IsDirectory,C:\\Data\\notes.txt", L"var q4 = IsFile,C:\\Data\\notes.txt"},
+         {{L"q1", L"1"}, {L"q2", L"0"}, {L"q3", L"0"}, {L"q4", L"1"}}},
+        {"a missing path counts as a directory",
+         {L"var q1 = IsDirectory,C:\\No", L"var q2 = IsFile,C:\\No"},
+         {{L"q1", L"1"}, {L"q2", L"0"}}},
+        {"path, name, extension",
+         {L"var q1 = GetPath,C:\\D\\x.tar.gz", L"var q2 = GetName,C:\\D\\x.tar.gz", L"var q3 = GetExt,C:\\D\\x.tar.gz"},
+         {{L"q1", L"C:\\D\\"}, {L"q2", L"x.tar"}, {L"q3", L".gz"}}},
+        {"name of a directory with its separator", {L"var q1 = GetName,C:\\D\\Sub\\"}, {{L"q1", L"Sub"}}},
+        {"no extension stores the argument",
+         {L"var q1 = GetExt,noext", L"var q2 = GetName,C:\\"},
+         {{L"q1", L"noext"}, {L"q2", L"C:\\"}}},
+        {"one separator removed",
+         {L"var q1 = RemoveLastSeparator,C:\\D\\\\", L"var q2 = RemoveLastSeparator,a/"},
+         {{L"q1", L"C:\\D\\"}, {L"q2", L"a"}}},
+    };
+    for (const ScriptCase& c : cases) Check(c);
+}
+
+// random seeds with the tick count each time, so the fake's clock decides the pick; an empty listing
+// empties the variable.
+TEST_F(ScriptFunctionsTest, RandomPicksAnEntryOfThePattern) {
+    fake.files().AddFile(L"C:\\Data\\other.txt", std::string_view("o"));
+    Check({"picked",
+           {L"var qx = random,C:\\Data\\*.txt", L"var qy = k", L"qy = random,C:\\Data\\*.gif"},
+           {{L"qy", L""}}});
+    const std::wstring picked = Value(L"qx");
+    EXPECT_TRUE(picked == L"C:\\Data\\notes.txt" || picked == L"C:\\Data\\other.txt") << picked;
+    // At 1000000 ticks: srand(1000000) and rand() give 21585, odd, so the second of two entries.
+    EXPECT_EQ(L"C:\\Data\\other.txt", picked);
+}
+
+// call and exec as functions wait for the commands of the line and store the exit code.
+TEST_F(ScriptFunctionsTest, CallAndExecStoreTheExitCode) {
+    platform::fake::FakeProgram program;
+    program.exitCode = 7;
+    fake.processes().SetProgram(program);
+    Check({"exit codes", {L"var q1 = call,tool.exe /x", L"var q2 = EXEC,tool.exe"}, {{L"q1", L"7"}, {L"q2", L"7"}}});
+    ASSERT_EQ(2u, fake.processes().starts().size());
+    EXPECT_EQ(L"tool.exe /x", fake.processes().starts()[0].commandLine);
+
+    program.starts = false;
+    fake.processes().SetProgram(program);
+    RunLines({L"var q1 = call,tool.exe /y"});
+    EXPECT_EQ(L"tool.exe /y", Value(L"q1")) << "a program that cannot start leaves the command line";
+
+    // A command of the variable's name wins: the program never starts.
+    program.starts = true;
+    fake.processes().SetProgram(program);
+    const size_t before = fake.processes().starts().size();
+    selection.clear();
+    RunLines({L"var appendselectitem", L"appendselectitem = call,tool.exe"});
+    EXPECT_EQ(before, fake.processes().starts().size());
+    EXPECT_EQ(SelectionList{L"call,tool.exe"}, selection);
+}
+
+}  // namespace

@@ -1,0 +1,110 @@
+// Scripts that change their items: what the list holds afterwards, and what a loop over it visits.
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+#include "script/DirectoryItems.h"
+#include "unit/script/ScriptCase.h"
+
+namespace {
+
+class ScriptSelectionTest : public ScriptCaseTest {
+protected:
+    ScriptSelectionTest() {
+        fake.files().AddFile(L"C:\\Pics\\a.jpg", std::string_view("a"));
+        fake.files().AddFile(L"C:\\Pics\\b.png", std::string_view("b"));
+        fake.files().AddDirectory(L"C:\\Pics\\Old");
+    }
+};
+
+TEST_F(ScriptSelectionTest, CommandsChangeTheList) {
+    struct Case {
+        const char* label;
+        SelectionList before;
+        std::vector<std::wstring> lines;
+        SelectionList after;
+        std::vector<std::wstring> messages;
+    };
+    const Case cases[] = {
+        {"one item, empty or not",
+         {},
+         {L"var v = x", L"appendselectitem = C:\\v", L"appendselectitem ="},
+         {L"C:\\x", L""}},
+        {"csv fields trimmed, empties kept", {L"k"}, {L"appendcsvselectitem =  a , ,b,"}, {L"k", L"a", L"", L"b", L""}},
+        {"an empty csv adds none", {L"k"}, {L"appendcsvselectitem ="}, {L"k"}},
+        {"a directory's entries behind its path",
+         {},
+         {L"getselectitems = C:\\Pics\\"},
+         {L"C:\\Pics\\a.jpg", L"C:\\Pics\\b.png", L"C:\\Pics\\Old"}},
+        {"without its separator, behind its parent's",
+         {},
+         {L"getselectitems = C:\\Pics"},
+         {L"C:\\a.jpg", L"C:\\b.png", L"C:\\Old"}},
+        {"a pattern's entries", {L"k"}, {L"getselectitems = C:\\Pics\\*.png"}, {L"k", L"C:\\Pics\\b.png"}},
+        {"a missing directory adds none", {}, {L"getselectitems = C:\\Nowhere"}, {}},
+        {"matching items dropped, order kept",
+         {L"C:\\a.jpg", L"C:\\b.txt", L"C:\\c.JPG", L"C:\\d.doc"},
+         {L"removeselectitems = *.jpg;*.doc"},
+         {L"C:\\b.txt"}},
+        {"\"!\" keeps the matching ones",
+         {L"C:\\a.jpg", L"C:\\b.txt", L"C:\\c.jpg"},
+         {L"removeselectitems = ! *.jpg"},
+         {L"C:\\a.jpg", L"C:\\c.jpg"}},
+        {"a lone \"!\" is a pattern", {L"C:\\a.jpg", L"!"}, {L"removeselectitems = !"}, {L"C:\\a.jpg"}},
+        {"an empty pattern list drops nothing", {L"a", L"b"}, {L"removeselectitems ="}, {L"a", L"b"}},
+        {"the raw value: variables are not put in", {L"v", L"x"}, {L"var v = x", L"removeselectitems = v"}, {L"x"}},
+        {"no value empties the list", {L"a", L"b"}, {L"removeselectitems"}, {}},
+        {"no value empties it in a skipped block too", {L"a"}, {L"if 1 == 2", L"removeselectitems", L"endif"}, {}},
+        {"not inside a loop",
+         {L"a", L"b"},
+         {L"for", L"removeselectitems = a", L"next", L"appendselectitem = c"},
+         {L"a", L"b"},
+         {L"RemoveSelectItems can not be executed within the loop."}},
+    };
+    for (const Case& c : cases) {
+        selection = c.before;
+        RunLines(c.lines);
+        EXPECT_EQ(c.after, selection) << c.label;
+        EXPECT_EQ(c.messages, Messages()) << c.label;
+    }
+}
+
+// The loop visits what the list holds at each step; ?SelectedCount? stays the count at the start.
+TEST_F(ScriptSelectionTest, LoopSeesTheListAsItIsAndTheCountStays) {
+    selection = {L"a"};
+    Check({"appended inside the loop",
+           {L"var seen", L"for", L"seen = &?SelFile?", L"if ?FileName? == a", L"appendselectitem = b", L"endif",
+            L"next", L"var count = ?SelectedCount?"},
+           {{L"seen", L"\"a\"\"b\""}, {L"count", L"1"}}});
+}
+
+TEST_F(ScriptSelectionTest, ListingTakesItsPrefixKindAndLimitFromThePattern) {
+    for (int i = 0; i < 1100; ++i) fake.files().AddFile(L"C:\\Many\\f" + std::to_wstring(i), std::string_view());
+    SelectionList list{L"before"};
+    EXPECT_EQ(kListedItemsLimit, ListDirectoryItems(L"C:\\Many\\", ItemKind::All, list));
+    EXPECT_EQ(L"C:\\Many\\f0", list[1]);
+
+    list.clear();
+    EXPECT_EQ(1u, ListDirectoryItems(L"C:\\Pics\\", ItemKind::Directories, list));
+    EXPECT_EQ(SelectionList{L"C:\\Pics\\Old"}, list);
+    list.clear();
+    EXPECT_EQ(2u, ListDirectoryItems(L"C:\\Pics\\*", ItemKind::Files, list));
+
+    // Nothing found gives 0 whatever the list held; entries of the other kind still count as found.
+    list = {L"kept"};
+    EXPECT_EQ(0u, ListDirectoryItems(L"C:\\Pics\\*.gif", ItemKind::All, list));
+    EXPECT_EQ(1u, ListDirectoryItems(L"C:\\Pics\\*.png", ItemKind::Directories, list));
+
+    // With a forward slash the separator added is U+008B, so the directory itself is not listed.
+    list.clear();
+    EXPECT_EQ(0u, ListDirectoryItems(L"C:/Pics", ItemKind::All, list));
+    EXPECT_EQ(2u, ListDirectoryItems(L"C:/Pics/*.*", ItemKind::All, list));
+    EXPECT_EQ(L"a.jpg", list[0]) << "no backslash, no prefix";
+
+    fake.files().SetShellVersion(600);
+    EXPECT_EQ(2u, ListDirectoryItems(L"C:\\Pics\\*.*", ItemKind::Files, list = {}));
+    EXPECT_EQ(platform::FindStyle::Plain, fake.files().lastFindStyle());
+}
+
+}  // namespace
