@@ -1,11 +1,15 @@
 #include "script/ScriptFunctions.h"
 
-#include <span>
+#include "script/ScriptMessageBoxes.h"
 
 namespace {
 
 // The built-in functions come as rows of this table.
-constexpr std::span<const ScriptFunction> kFunctions;
+const ScriptFunction kFunctions[] = {
+    {L"messagebox", MessageBoxFunction, true, 3},
+    {L"messageboxok", MessageBoxOkFunction, true},
+    {L"messageboxyn", MessageBoxYnFunction, true},
+};
 
 }  // namespace
 
