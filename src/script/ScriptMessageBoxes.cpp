@@ -21,8 +21,8 @@ int ShowBox(const std::wstring& text, unsigned flags) {
 // Decimal, or with an "x" in it hexadecimal ("0x30") or octal by its leading zero.
 unsigned BoxFlags(const std::wstring& field) {
     const std::wstring lowered = crt::MakeLower(field);
-    const int32_t flags = lowered.find(L'x') == std::wstring::npos ? crt::Wtoi(lowered)
-                                                                   : crt::Wcstol(lowered.c_str(), nullptr, 0);
+    const int32_t flags =
+        lowered.find(L'x') == std::wstring::npos ? crt::Wtoi(lowered) : crt::Wcstol(lowered.c_str(), nullptr, 0);
     return static_cast<unsigned>(flags);
 }
 
