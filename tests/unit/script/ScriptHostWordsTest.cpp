@@ -202,7 +202,8 @@ TEST_F(ScriptHostWordsTest, WithoutAHostNothingIsSentAndOnlyBadValuesAreReported
     for (const HostCase& c : cases) Check(c);
 }
 
-// The jumps that fail end the run with the launches of its end still to come; the rest go on.
+// The jumps that fail end the run with the launches of its end still to come; No to a yes-no box
+// ends it at once; the other failures go on.
 TEST_F(ScriptHostWordsTest, HowAFailedLineEndsTheRun) {
     fake.windows().AddHostWindow(kHost);
     const OutcomeCase cases[] = {
@@ -218,6 +219,7 @@ TEST_F(ScriptHostWordsTest, HowAFailedLineEndsTheRun) {
         {L"postmessage = 0", LineOutcome::Next},
         {L"postmessagetab = 1", LineOutcome::Next},
         {L"ubjump = 10, x", LineOutcome::Next},
+        {L"messageboxyn = Stop?", LineOutcome::Exit},
     };
     for (const OutcomeCase& c : cases)
         EXPECT_EQ(c.outcome, OutcomeOf(c.line)) << testing::PrintToString(std::wstring(c.line));
