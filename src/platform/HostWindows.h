@@ -30,6 +30,12 @@ public:
     virtual void ForceForeground(WindowRef window) = 0;
     // SendMessageW of WM_COMMAND with the id as wParam and 0 as lParam.
     virtual void SendCommand(WindowRef window, uint16_t id) = 0;
+    // IsWindow: false for 0 and for a window that has gone.
+    virtual bool IsWindow(WindowRef window) = 0;
+    // PostMessageW, which returns at once, and SendMessageW, which waits for the window's answer
+    // with no time-out.
+    virtual void PostWindowMessage(WindowRef window, uint32_t message, uintptr_t wParam, intptr_t lParam) = 0;
+    virtual intptr_t SendWindowMessage(WindowRef window, uint32_t message, uintptr_t wParam, intptr_t lParam) = 0;
     // SendMessageW of WM_COPYDATA from sender: dwData the code, lpData the text with its
     // terminator and zeros behind it up to cbData bytes.
     virtual void SendCopyData(WindowRef window, WindowRef sender, uint32_t code, const std::wstring& text,

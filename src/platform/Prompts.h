@@ -1,6 +1,7 @@
 // Questions and messages put to the user.
 #pragma once
 
+#include <cstdint>
 #include <string>
 #include <vector>
 
@@ -37,6 +38,9 @@ public:
     virtual int ShowMessage(const std::wstring& text, unsigned style) = 0;
     // A message box with a caption of its own, owned by the active window.
     virtual int Ask(const std::wstring& text, const std::wstring& caption, unsigned style) = 0;
+    // MessageBoxW as it stands: the owner (0 for none), caption and flags as given; the button pressed.
+    virtual int ShowOwnedMessage(uintptr_t owner, const std::wstring& text, const std::wstring& caption,
+                                 unsigned flags) = 0;
     // The shell's folder browser with title above its tree, start selected when it is not empty;
     // owned by the active window, or the desktop when there is none. A path of 520 units or more
     // is not taken: it comes back empty.

@@ -14,3 +14,5 @@ inline uint32_t CopyDataByteCount(const std::wstring& text) {
 }
 
 void SendHostText(platform::WindowRef hostWindow, uint32_t code, const std::wstring& text);
+// The same with the text "<number>/<text>", for codes that pick one of several slots.
+void SendHostIndexedText(platform::WindowRef hostWindow, uint32_t code, int32_t number, const std::wstring& text);

@@ -1,5 +1,6 @@
 #include "script/ScriptCommands.h"
 
+#include "script/ScriptHostCommands.h"
 #include "script/ScriptRunner.h"
 #include "script/ScriptSelectionCommands.h"
 #include "script/ScriptTrace.h"
@@ -27,6 +28,27 @@ struct Command {
 
 const Command kCommands[] = {
     {L"include", RunInclude},
+    {L"postmessagetab", RunPostMessageTab},
+    {L"postmessage1", HostMessageCommand<kHostMessage1, Delivery::Post>},
+    {L"postmessage2", HostMessageCommand<kHostMessage2, Delivery::Post>},
+    {L"postmessagebar", HostMessageCommand<kHostMessageBar, Delivery::Post>},
+    {L"postwait", HostMessageCommand<kHostMessageWait, Delivery::Post>},
+    {L"postmessage", HostMessageCommand<kHostCommand, Delivery::Post>},
+    {L"postmessageall", HostMessageCommand<kHostMessageAll, Delivery::Post>},
+    {L"sendmessage", HostMessageCommand<kHostCommand, Delivery::Send>},
+    {L"sendmessageall", HostMessageCommand<kHostMessageAll, Delivery::Send>},
+    {L"system_command", RunSystemCommand},
+    {L"select", HostTextCommand<kHostSelect, ValueForm::Expanded>},
+    {L"filejump", RunFileJump},
+    {L"folderjump", RunFolderJump},
+    {L"favoritejump", RunFavoriteJump},
+    {L"ubjump", RunUbJump},
+    {L"fullstateopen", HostTextCommand<kHostFullState, ValueForm::Raw>},
+    {L"fullstateopenex", HostTextCommand<kHostFullState, ValueForm::Expanded>},
+    {L"backgroundimage", HostTextCommand<kHostBackgroundImage, ValueForm::Expanded>},
+    {L"listinnerparam", HostTextCommand<kHostListInnerParam, ValueForm::Expanded>},
+    {L"tabletmode", HostTextCommand<kHostTabletMode, ValueForm::Raw>},
+    {L"operationmode", HostTextCommand<kHostOperationMode, ValueForm::Raw>},
     {L"appendselectitem", RunAppendSelectItem},
     {L"appendcsvselectitem", RunAppendCsvSelectItem},
     {L"getselectitems", RunGetSelectItems},

@@ -1,12 +1,16 @@
 #include "script/ScriptFunctions.h"
 
 #include "script/ScriptLaunchWords.h"
+#include "script/ScriptMessageBoxes.h"
 #include "script/ScriptPathFunctions.h"
 #include "script/ScriptTextFunctions.h"
 
 namespace {
 
 const ScriptFunction kFunctions[] = {
+    {L"messagebox", MessageBoxFunction, true, 3},
+    {L"messageboxok", MessageBoxOkFunction, true},
+    {L"messageboxyn", MessageBoxYnFunction, true},
     {L"call", CallFunction, true},
     {L"exec", ExecFunction, true},
     {L"random", RandomItem},

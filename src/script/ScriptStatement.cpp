@@ -5,6 +5,7 @@
 #include "script/ScriptCommands.h"
 #include "script/ScriptControlFlow.h"
 #include "script/ScriptLaunchWords.h"
+#include "script/ScriptMessageBoxes.h"
 #include "script/ScriptOptionLine.h"
 #include "script/ScriptRunner.h"
 #include "services/CRuntime.h"
@@ -84,7 +85,9 @@ LineOutcome RunStatement(ScriptFrame& frame, const ScriptLine& line) {
         assignment = WorkOutAssignment(frame, *right);
         if (!assignment) return LineOutcome::EndOfScript;
     }
-    const bool called = RunCallStatement(frame, line);
+    const std::optional<LineOutcome> box = RunMessageBoxStatement(frame, line);
+    if (box && *box != LineOutcome::Next) return *box;
+    const bool called = box.has_value() || RunCallStatement(frame, line);
     if (assignment) {
         StoreAssignment(frame, *assignment);
         return LineOutcome::Next;

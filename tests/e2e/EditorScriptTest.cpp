@@ -7,6 +7,7 @@
 #include <string>
 #include <vector>
 
+#include "support/EditorScript.h"
 #include "support/FakeHostProcess.h"
 #include "support/Files.h"
 #include "support/Process.h"
@@ -19,34 +20,14 @@ std::wstring Variable(const wchar_t* name) {
     return value;
 }
 
-// The user's editor script, replaced for the test and put back after it.
-class EditorScript {
-public:
-    explicit EditorScript(const std::wstring& text)
-        : path_(Variable(L"LOCALAPPDATA") + L"\\Qor\\Script\\Editor.txt"), saved_(e2e::ReadFileBytes(path_)) {
-        CreateDirectoryW((Variable(L"LOCALAPPDATA") + L"\\Qor\\Script").c_str(), nullptr);
-        e2e::WriteUtf16File(path_, L"\uFEFF" + text);
-    }
-    ~EditorScript() {
-        if (saved_.empty())
-            DeleteFileW(path_.c_str());
-        else
-            e2e::WriteFileBytes(path_, saved_);
-    }
-
-private:
-    std::wstring path_;
-    std::string saved_;
-};
-
 TEST(EditorScript, SlashAOpensTheFileThroughTheUsersScript) {
     const std::wstring temp = Variable(L"TEMP");
     const std::wstring log = temp + L"\\option-editor-script.log";
     const std::wstring file = temp + L"\\option notes.txt";
     DeleteFileW(log.c_str());
     ASSERT_TRUE(e2e::WriteFileBytes(file, "plain text, no definition file\r\n"));
-    EditorScript script(L"commandlineoption = --log \"" + log + L"\" ?SelFile?\r\nrun = " + e2e::TestDirectory() +
-                        L"\\DropTarget.exe\r\n");
+    e2e::EditorScript script(L"commandlineoption = --log \"" + log + L"\" ?SelFile?\r\nrun = " + e2e::TestDirectory() +
+                             L"\\DropTarget.exe\r\n");
 
     EXPECT_EQ(0u, e2e::RunOption({L"/A", file}));
     const std::string expected = "args --log \"" + e2e::Utf8(log) + "\" \"" + e2e::Utf8(file) + "\"";

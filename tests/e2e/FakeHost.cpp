@@ -7,7 +7,7 @@
 // sender's SendMessageW has returned:
 //   env <name>=<value>         before "ready", for each --print-env ("env <name> unset" when absent)
 //   ready                      the window exists
-//   command <wParam>           WM_COMMAND
+//   command <wParam> [<lParam>]   WM_COMMAND; lParam only when it is not 0
 //   copydata <dwData> <text>   WM_COPYDATA, text up to its terminating zero (the sender's size may be
 //                              longer than the text); characters below U+0020 appear as \u00XX
 //   message <msg> <wParam> <lParam>   a private message (WM_APP and above)
@@ -89,7 +89,8 @@ LRESULT CALLBACK WindowProc(HWND hwnd, UINT msg, WPARAM wp, LPARAM lp) {
     }
     switch (msg) {
         case WM_COMMAND:
-            WriteLine(L"command " + std::to_wstring(wp));
+            WriteLine(L"command " + std::to_wstring(wp) +
+                      (lp ? L" " + std::to_wstring(static_cast<long long>(lp)) : std::wstring()));
             return 0;
         case WM_COPYDATA:
             LogCopyData(*reinterpret_cast<const COPYDATASTRUCT*>(lp));

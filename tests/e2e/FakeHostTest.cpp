@@ -42,6 +42,7 @@ TEST(FakeHost, LogsEachMessageItIsSentAsOneLine) {
         {"series start", WM_COMMAND, 48999, 0, "command 48999"},
         {"series end", WM_COMMAND, 49099, 0, "command 49099"},
         {"whole wParam", WM_COMMAND, 0x12345, 0, "command 74565"},
+        {"lParam when it is not 0", WM_COMMAND, 5, -2, "command 5 -2"},
         {"private message", 32776, 5, -7, "message 32776 5 -7"},
         {"highest private message", 0xBFFF, 0, 1, "message 49151 0 1"},
     };

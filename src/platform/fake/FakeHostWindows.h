@@ -18,6 +18,16 @@ struct SentCommand {
     bool operator==(const SentCommand&) const = default;
 };
 
+// A message posted or sent by number.
+struct SentMessage {
+    WindowRef window;
+    uint32_t message;
+    uintptr_t wParam;
+    intptr_t lParam;
+    bool posted;  // PostMessageW; false for SendMessageW
+    bool operator==(const SentMessage&) const = default;
+};
+
 struct SentCopyData {
     WindowRef window;
     WindowRef sender;
@@ -38,6 +48,22 @@ public:
     void SetForeground(WindowRef window) override { foreground_.push_back(window); }
     void ForceForeground(WindowRef window) override { forced_.push_back(window); }
     void SendCommand(WindowRef window, uint16_t id) override { commands_.push_back({window, id}); }
+    // The host windows and the titled windows exist.
+    bool IsWindow(WindowRef window) override {
+        if (!window) return false;
+        for (WindowRef host : windows_)
+            if (host == window) return true;
+        for (const auto& [title, titled] : titled_)
+            if (titled == window) return true;
+        return false;
+    }
+    void PostWindowMessage(WindowRef window, uint32_t message, uintptr_t wParam, intptr_t lParam) override {
+        messages_.push_back({window, message, wParam, lParam, true});
+    }
+    intptr_t SendWindowMessage(WindowRef window, uint32_t message, uintptr_t wParam, intptr_t lParam) override {
+        messages_.push_back({window, message, wParam, lParam, false});
+        return 0;
+    }
     void SendCopyData(WindowRef window, WindowRef sender, uint32_t code, const std::wstring& text,
                       uint32_t cbData) override {
         copies_.push_back({window, sender, code, text, cbData});
@@ -71,6 +97,7 @@ public:
     const std::vector<WindowRef>& forced() const { return forced_; }
     const std::vector<SentCommand>& commands() const { return commands_; }
     const std::vector<SentCopyData>& copies() const { return copies_; }
+    const std::vector<SentMessage>& messages() const { return messages_; }
 
 private:
     std::vector<WindowRef> windows_;
@@ -79,6 +106,7 @@ private:
     std::vector<WindowRef> forced_;
     std::vector<SentCommand> commands_;
     std::vector<SentCopyData> copies_;
+    std::vector<SentMessage> messages_;
     std::map<std::thread::id, WindowRef> main_;
     std::set<int> keysDown_;
 };

@@ -8,6 +8,16 @@ int FakePrompts::ShowMessage(const std::wstring& text, unsigned style) {
 
 int FakePrompts::Ask(const std::wstring& text, const std::wstring& caption, unsigned style) {
     shown_.push_back({text, style, caption});
+    return NextAnswer(style);
+}
+
+int FakePrompts::ShowOwnedMessage(uintptr_t owner, const std::wstring& text, const std::wstring& caption,
+                                  unsigned flags) {
+    shown_.push_back({text, flags, caption, owner});
+    return NextAnswer(flags);
+}
+
+int FakePrompts::NextAnswer(unsigned style) {
     if (!answers_.empty()) {
         int answer = answers_.front();
         answers_.pop_front();

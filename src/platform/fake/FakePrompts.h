@@ -14,6 +14,7 @@ struct ShownMessage {
     std::wstring text;
     unsigned style;
     std::wstring caption{};  // empty for the application's own message box
+    uintptr_t owner = 0;     // given only to an owned message box
     bool operator==(const ShownMessage&) const = default;
 };
 
@@ -28,6 +29,8 @@ class FakePrompts : public Prompts {
 public:
     int ShowMessage(const std::wstring& text, unsigned style) override;
     int Ask(const std::wstring& text, const std::wstring& caption, unsigned style) override;
+    int ShowOwnedMessage(uintptr_t owner, const std::wstring& text, const std::wstring& caption,
+                         unsigned flags) override;
     FolderChoice BrowseForFolder(const std::wstring& title, const std::wstring& start) override;
     int ChooseOne(const ChoiceRequest& request) override;
 
@@ -50,6 +53,8 @@ public:
     }
 
 private:
+    int NextAnswer(unsigned style);
+
     std::vector<ShownMessage> shown_;
     std::deque<int> answers_;
     std::vector<FolderBrowse> browsed_;

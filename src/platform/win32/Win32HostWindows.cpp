@@ -62,6 +62,18 @@ void Win32HostWindows::SendCommand(WindowRef window, uint16_t id) {
     SendMessageW(Handle(window), WM_COMMAND, id, 0);
 }
 
+bool Win32HostWindows::IsWindow(WindowRef window) {
+    return ::IsWindow(Handle(window)) != FALSE;
+}
+
+void Win32HostWindows::PostWindowMessage(WindowRef window, uint32_t message, uintptr_t wParam, intptr_t lParam) {
+    PostMessageW(Handle(window), message, wParam, lParam);
+}
+
+intptr_t Win32HostWindows::SendWindowMessage(WindowRef window, uint32_t message, uintptr_t wParam, intptr_t lParam) {
+    return SendMessageW(Handle(window), message, wParam, lParam);
+}
+
 void Win32HostWindows::SendCopyData(WindowRef window, WindowRef sender, uint32_t code, const std::wstring& text,
                                     uint32_t cbData) {
     // The size the host is told is longer than the text; the system copies that many bytes, so

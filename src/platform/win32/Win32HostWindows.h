@@ -15,6 +15,9 @@ public:
     void SetForeground(WindowRef window) override;
     void ForceForeground(WindowRef window) override;
     void SendCommand(WindowRef window, uint16_t id) override;
+    bool IsWindow(WindowRef window) override;
+    void PostWindowMessage(WindowRef window, uint32_t message, uintptr_t wParam, intptr_t lParam) override;
+    intptr_t SendWindowMessage(WindowRef window, uint32_t message, uintptr_t wParam, intptr_t lParam) override;
     void SendCopyData(WindowRef window, WindowRef sender, uint32_t code, const std::wstring& text,
                       uint32_t cbData) override;
     WindowRef MainWindow() override;

@@ -32,6 +32,11 @@ int Win32Prompts::Ask(const std::wstring& text, const std::wstring& caption, uns
     return MessageBoxW(GetActiveWindow(), text.c_str(), caption.c_str(), style);
 }
 
+int Win32Prompts::ShowOwnedMessage(uintptr_t owner, const std::wstring& text, const std::wstring& caption,
+                                   unsigned flags) {
+    return MessageBoxW(reinterpret_cast<HWND>(owner), text.c_str(), caption.c_str(), flags);
+}
+
 FolderChoice Win32Prompts::BrowseForFolder(const std::wstring& title, const std::wstring& start) {
     HWND owner = GetActiveWindow();
     wchar_t displayName[MAX_PATH] = {};

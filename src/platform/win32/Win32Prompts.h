@@ -8,6 +8,8 @@ class Win32Prompts : public Prompts {
 public:
     int ShowMessage(const std::wstring& text, unsigned style) override;
     int Ask(const std::wstring& text, const std::wstring& caption, unsigned style) override;
+    int ShowOwnedMessage(uintptr_t owner, const std::wstring& text, const std::wstring& caption,
+                         unsigned flags) override;
     FolderChoice BrowseForFolder(const std::wstring& title, const std::wstring& start) override;
     int ChooseOne(const ChoiceRequest& request) override;
 };

@@ -92,4 +92,22 @@ TEST_F(HostWindowsTest, CommandsAndTextsArriveAsTheHostReadsThem) {
     EXPECT_EQ(expected, texts);
 }
 
+// A sent message is handled before SendMessageW returns, a posted one once the queue is read.
+TEST_F(HostWindowsTest, MessagesByNumberAndAWindowThatHasGone) {
+    auto host = reinterpret_cast<WindowRef>(hosts_[0]);
+    windows.PostWindowMessage(host, WM_COMMAND, 5, -2);
+    windows.SendWindowMessage(host, WM_COMMAND, static_cast<uintptr_t>(-1), 3);
+    EXPECT_EQ(1u, received.size());
+    testing_support::PumpMessages(50);
+    std::vector<std::wstring> texts;
+    for (const Received& r : received) texts.push_back(r.what);
+    EXPECT_EQ((std::vector<std::wstring>{L"command 18446744073709551615 3", L"command 5 -2"}), texts);
+
+    EXPECT_TRUE(windows.IsWindow(host));
+    DestroyWindow(hosts_[0]);
+    hosts_[0] = nullptr;
+    EXPECT_FALSE(windows.IsWindow(host));
+    EXPECT_FALSE(windows.IsWindow(0));
+}
+
 }  // namespace

@@ -138,6 +138,9 @@ public:
         return answer_;
     }
     int Ask(const std::wstring& text, const std::wstring&, unsigned style) override { return ShowMessage(text, style); }
+    int ShowOwnedMessage(uintptr_t, const std::wstring& text, const std::wstring&, unsigned flags) override {
+        return ShowMessage(text, flags);
+    }
     platform::FolderChoice BrowseForFolder(const std::wstring&, const std::wstring&) override { return {}; }
     int ChooseOne(const platform::ChoiceRequest&) override { return -1; }
 
