@@ -1,6 +1,8 @@
 #include "script/ScriptCommands.h"
 
+#include "script/ScriptFileCommands.h"
 #include "script/ScriptRunner.h"
+#include "script/ScriptSystemCommands.h"
 #include "script/ScriptTrace.h"
 #include "services/Format.h"
 #include "services/Tokenizer.h"
@@ -26,6 +28,19 @@ struct Command {
 
 const Command kCommands[] = {
     {L"include", RunInclude},
+    {L"fileopenmode", RunFileOpenMode},
+    {L"bomout", RunByteOrderMarkOut},
+    {L"fileopen", RunFileOpen},
+    {L"filewritew", RunFileWriteWide},
+    {L"filewritea", RunFileWriteAnsi},
+    {L"writeregnum", RunWriteRegNum},
+    {L"writeregstring", RunWriteRegString},
+    {L"speachflag", RunSpeechWord},
+    {L"speachvolume", RunSpeechWord},
+    {L"speachratespeed", RunSpeechWord},
+    {L"speachpitch", RunSpeechWord},
+    {L"setclipboardtext", RunSetClipboardText},
+    {L"wait", RunWait},
 };
 
 }  // namespace

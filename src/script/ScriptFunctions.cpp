@@ -1,11 +1,18 @@
 #include "script/ScriptFunctions.h"
 
-#include <span>
+#include "script/ScriptFileFunctions.h"
+#include "script/ScriptSystemFunctions.h"
 
 namespace {
 
 // The built-in functions come as rows of this table.
-constexpr std::span<const ScriptFunction> kFunctions;
+const ScriptFunction kFunctions[] = {
+    {L"fileread", FileReadFunction},
+    {L"fileallread", FileAllReadFunction},
+    {L"getsystemmetrics", SystemMetricsFunction},
+    // The one function without arguments: its name alone, and nothing behind it, not even a comma.
+    {L"getclipboardtext", ClipboardTextFunction, false, 1, 1},
+};
 
 }  // namespace
 

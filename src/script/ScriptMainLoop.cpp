@@ -16,7 +16,10 @@ namespace {
 // Lines that act even inside a block that is passed over.
 std::optional<LineOutcome> RunUnskippable(ScriptFrame& frame, const std::wstring& lowered) {
     if (lowered == L"updatestate") return LineOutcome::Next;  // the host's state bar is not ours to update
-    if (lowered == L"fileclose") return LineOutcome::Next;    // no output file stays open past its own line yet
+    if (lowered == L"fileclose") {
+        frame.outputFile.reset();
+        return LineOutcome::Next;
+    }
     if (lowered != L"removeselectitems") return std::nullopt;
     if (frame.ItemIndex != -1) {
         platform::Current().prompts.ShowMessage(L"RemoveSelectItems can not be executed within the loop.",
