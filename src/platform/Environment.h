@@ -31,6 +31,12 @@ public:
     // wcsftime of the local time at `time` into a buffer of bufferChars characters, in the C runtime's
     // locale of the moment; empty when the format yields nothing or the result does not fit.
     virtual std::wstring FormatLocalTime(int64_t time, const std::wstring& format, size_t bufferChars) = 0;
+    // WideCharToMultiByte and MultiByteToWideChar with the calling thread's ANSI code page and no
+    // flags: a character the code page lacks becomes its default character.
+    virtual std::string ToAnsi(const std::wstring& text) = 0;
+    virtual std::wstring FromAnsi(const std::string& text) = 0;
+    // GetSystemMetrics of the index; 0 for an index the system does not know.
+    virtual int32_t GetSystemMetrics(int32_t index) = 0;
 };
 
 }  // namespace platform

@@ -86,6 +86,11 @@ public:
     // it stays open (and cannot be had while another writer holds the file).
     // Null when the file cannot be opened.
     virtual std::unique_ptr<File> Open(const std::wstring& path, FileAccess access, bool denyWrite) = 0;
+    // As _wfsopen with share mode _SH_DENYRW, in mode "rb", "wb" or "ab+" for Read, Write and Append
+    // (Append may read as well): no other handle may be open on the file, and none can be opened while
+    // this one is. Null when the file cannot be opened, with the system's error code in error (0 when
+    // the runtime refused the call without asking the system).
+    virtual std::unique_ptr<File> OpenDenyAll(const std::wstring& path, FileAccess access, uint32_t& error) = 0;
 };
 
 }  // namespace platform

@@ -1,4 +1,4 @@
-// Process-wide objects of the system: named mutexes and modules loaded as data.
+// Process-wide objects of the system: named mutexes, modules loaded as data and the clipboard.
 #pragma once
 
 #include <memory>
@@ -28,6 +28,12 @@ public:
     virtual std::unique_ptr<SystemObject> CreatePresenceMutex(const std::wstring& name) = 0;
     // Loads a resource library as data, without running any of its code; null on failure.
     virtual std::unique_ptr<ResourceLibrary> LoadDataLibrary(const std::wstring& path) = 0;
+    // Opens the clipboard, empties it and puts the text there as CF_UNICODETEXT, in a block from
+    // GlobalAlloc with GMEM_DDESHARE; false when the clipboard cannot be opened.
+    virtual bool SetClipboardText(const std::wstring& text) = 0;
+    // The clipboard's CF_TEXT up to its NUL, which the system makes from Unicode text when that is
+    // what the clipboard holds; false when the clipboard cannot be opened or holds no text.
+    virtual bool ClipboardAnsiText(std::string& text) = 0;
 };
 
 }  // namespace platform

@@ -1,8 +1,10 @@
 #include "script/ScriptCommands.h"
 
+#include "script/ScriptFileCommands.h"
 #include "script/ScriptHostCommands.h"
 #include "script/ScriptRunner.h"
 #include "script/ScriptSelectionCommands.h"
+#include "script/ScriptSystemCommands.h"
 #include "script/ScriptTrace.h"
 #include "services/Format.h"
 #include "services/Tokenizer.h"
@@ -26,8 +28,14 @@ struct Command {
     LineOutcome (*run)(ScriptFrame& frame, const ScriptLine& line);
 };
 
+// Tried in this order; no two words are the same, so the order decides nothing.
 const Command kCommands[] = {
     {L"include", RunInclude},
+    {L"fileopenmode", RunFileOpenMode},
+    {L"bomout", RunByteOrderMarkOut},
+    {L"fileopen", RunFileOpen},
+    {L"filewritew", RunFileWriteWide},
+    {L"filewritea", RunFileWriteAnsi},
     {L"postmessagetab", RunPostMessageTab},
     {L"postmessage1", HostMessageCommand<kHostMessage1, Delivery::Post>},
     {L"postmessage2", HostMessageCommand<kHostMessage2, Delivery::Post>},
@@ -37,8 +45,16 @@ const Command kCommands[] = {
     {L"postmessageall", HostMessageCommand<kHostMessageAll, Delivery::Post>},
     {L"sendmessage", HostMessageCommand<kHostCommand, Delivery::Send>},
     {L"sendmessageall", HostMessageCommand<kHostMessageAll, Delivery::Send>},
+    {L"writeregnum", RunWriteRegNum},
+    {L"writeregstring", RunWriteRegString},
     {L"system_command", RunSystemCommand},
+    {L"speachflag", RunSpeechWord},
+    {L"speachvolume", RunSpeechWord},
+    {L"speachratespeed", RunSpeechWord},
+    {L"speachpitch", RunSpeechWord},
+    {L"setclipboardtext", RunSetClipboardText},
     {L"select", HostTextCommand<kHostSelect, ValueForm::Expanded>},
+    {L"wait", RunWait},
     {L"filejump", RunFileJump},
     {L"folderjump", RunFolderJump},
     {L"favoritejump", RunFavoriteJump},

@@ -1,8 +1,10 @@
 #include "script/ScriptFunctions.h"
 
+#include "script/ScriptFileFunctions.h"
 #include "script/ScriptLaunchWords.h"
 #include "script/ScriptMessageBoxes.h"
 #include "script/ScriptPathFunctions.h"
+#include "script/ScriptSystemFunctions.h"
 #include "script/ScriptTextFunctions.h"
 
 namespace {
@@ -29,7 +31,12 @@ const ScriptFunction kFunctions[] = {
     {L"left", LeftText},
     {L"right", RightText},
     {L"double", Compute},
+    {L"fileread", FileReadFunction},
+    {L"fileallread", FileAllReadFunction},
+    {L"getsystemmetrics", SystemMetricsFunction},
     {L"mainwindowposition", MainWindowPosition},
+    // The one function without arguments: its name alone, and nothing behind it, not even a comma.
+    {L"getclipboardtext", ClipboardTextFunction, false, 1, 1},
 };
 
 }  // namespace

@@ -17,7 +17,10 @@ namespace {
 // Lines that act even inside a block that is passed over.
 std::optional<LineOutcome> RunUnskippable(ScriptFrame& frame, const std::wstring& lowered) {
     if (lowered == L"updatestate") return LineOutcome::Next;  // the host's state bar is not ours to update
-    if (lowered == L"fileclose") return LineOutcome::Next;    // no output file stays open past its own line yet
+    if (lowered == L"fileclose") {
+        frame.outputFile.reset();
+        return LineOutcome::Next;
+    }
     if (lowered != L"removeselectitems") return std::nullopt;
     if (frame.ItemIndex != -1) return RefuseRemovalInLoop();
     frame.arguments.selection->clear();

@@ -2,6 +2,7 @@
 
 #include "platform/fake/CaseFold.h"
 #include "platform/fake/CLocaleTime.h"
+#include "platform/fake/CodePage1252.h"
 
 namespace platform::fake {
 
@@ -26,6 +27,19 @@ void FakeEnvironment::RemoveVariable(const std::wstring& name) {
 
 std::wstring FakeEnvironment::FormatLocalTime(int64_t time, const std::wstring& format, size_t bufferChars) {
     return FormatCLocaleTime(time + utcOffset_, format, bufferChars);
+}
+
+std::string FakeEnvironment::ToAnsi(const std::wstring& text) {
+    return ToCodePage1252(text);
+}
+
+std::wstring FakeEnvironment::FromAnsi(const std::string& text) {
+    return FromCodePage1252(text);
+}
+
+int32_t FakeEnvironment::GetSystemMetrics(int32_t index) {
+    auto found = metrics_.find(index);
+    return found == metrics_.end() ? 0 : found->second;
 }
 
 }  // namespace platform::fake

@@ -1,6 +1,7 @@
 // Environment for tests: variables, program path, folders, user and font, all settable.
 #pragma once
 
+#include <cstdint>
 #include <map>
 #include <string>
 
@@ -18,6 +19,10 @@ public:
     int64_t CurrentTime() override { return currentTime_; }
     // In the "C" locale, with local time the fixed offset from UTC.
     std::wstring FormatLocalTime(int64_t time, const std::wstring& format, size_t bufferChars) override;
+    // The ANSI code page is Windows-1252, see CodePage1252.h.
+    std::string ToAnsi(const std::wstring& text) override;
+    std::wstring FromAnsi(const std::string& text) override;
+    int32_t GetSystemMetrics(int32_t index) override;
 
     // Names ignore case; the name keeps the spelling it was first set with.
     void SetVariable(const std::wstring& name, const std::wstring& value);
@@ -30,6 +35,8 @@ public:
     // The clock stands still at what it was set to.
     void SetCurrentTime(int64_t time) { currentTime_ = time; }
     void SetUtcOffset(int32_t seconds) { utcOffset_ = seconds; }
+    // A screen of 1920 by 1080 (indexes 0 and 1) and 0 for the rest until set.
+    void SetSystemMetric(int32_t index, int32_t value) { metrics_[index] = value; }
 
 private:
     static bool Give(const std::wstring& value, std::wstring& out) {
@@ -48,6 +55,7 @@ private:
     std::wstring userName_ = L"tester";
     int64_t currentTime_ = 1709647629;  // 2024-03-05 14:07:09 UTC, a Tuesday
     int32_t utcOffset_ = 0;
+    std::map<int32_t, int32_t> metrics_ = {{0, 1920}, {1, 1080}};
 };
 
 }  // namespace platform::fake

@@ -9,7 +9,10 @@ namespace platform::fake {
 
 namespace {
 
+constexpr int kErrorFileNotFound = 2;
 constexpr int kErrorPathNotFound = 3;
+constexpr int kErrorAccessDenied = 5;
+constexpr int kErrorSharingViolation = 32;
 constexpr int kErrorFileExists = 80;
 constexpr int kErrorInvalidName = 123;
 constexpr int kErrorBadPathname = 161;
@@ -142,6 +145,8 @@ struct FakeFileSystem::Node {
     Node* parent = nullptr;
     int writers = 0;
     int denyWriters = 0;
+    int handles = 0;
+    int denyAll = 0;
 
     bool IsDirectory() const { return (attributes & kAttributeDirectory) != 0; }
 
@@ -167,21 +172,26 @@ struct FakeFileSystem::Node {
     }
 };
 
+namespace {
+
+// How a handle shares its file with others.
+enum class Sharing { All, DenyWrite, DenyAll };
+
+}  // namespace
+
 // An open file: reads and writes go straight to the node, which outlives the handle.
 class FakeFileSystem::OpenFile : public File {
 public:
-    OpenFile(std::shared_ptr<Node> node, FileAccess access, bool denyWrite)
-        : node_(std::move(node)), access_(access), denyWrite_(denyWrite) {
-        if (access_ != FileAccess::Read) ++node_->writers;
-        if (denyWrite_) ++node_->denyWriters;
+    OpenFile(std::shared_ptr<Node> node, FileAccess access, Sharing sharing)
+        : node_(std::move(node)), access_(access), sharing_(sharing) {
+        Count(1);
     }
-    ~OpenFile() override {
-        if (access_ != FileAccess::Read) --node_->writers;
-        if (denyWrite_) --node_->denyWriters;
-    }
+    ~OpenFile() override { Count(-1); }
 
     size_t Read(void* data, size_t size) override {
-        if (access_ != FileAccess::Read || position_ >= node_->bytes.size()) return 0;
+        const bool readable =
+            access_ == FileAccess::Read || (access_ == FileAccess::Append && sharing_ == Sharing::DenyAll);
+        if (!readable || position_ >= node_->bytes.size()) return 0;
         size_t count = std::min(size, node_->bytes.size() - position_);
         std::memcpy(data, node_->bytes.data() + position_, count);
         position_ += count;
@@ -201,9 +211,16 @@ public:
     uint64_t Size() override { return node_->bytes.size(); }
 
 private:
+    void Count(int step) {
+        node_->handles += step;
+        if (access_ != FileAccess::Read) node_->writers += step;
+        if (sharing_ == Sharing::DenyWrite) node_->denyWriters += step;
+        if (sharing_ == Sharing::DenyAll) node_->denyAll += step;
+    }
+
     std::shared_ptr<Node> node_;
     FileAccess access_;
-    bool denyWrite_;
+    Sharing sharing_;
     size_t position_ = 0;
 };
 
@@ -441,25 +458,68 @@ int FakeFileSystem::CreateDirectoryTree(const std::wstring& path) {
     return result;
 }
 
-std::unique_ptr<File> FakeFileSystem::Open(const std::wstring& path, FileAccess access, bool denyWrite) {
+// The node of a file to open, created when asked and missing; null with the system's code when the
+// path names no file that can be opened.
+std::shared_ptr<FakeFileSystem::Node> FakeFileSystem::FileToOpen(const std::wstring& path, bool create,
+                                                                 uint32_t& error) {
     std::shared_ptr<Node> node = Lookup(path);
-    bool writes = access != FileAccess::Read;
     if (!node) {
-        if (!writes) return nullptr;
         PathParts parts;
-        if (!Resolve(path, currentDirectory_, parts) || parts.names.empty()) return nullptr;
-        if (parts.trailingSeparator || HasInvalidCharacter(parts.names.back())) return nullptr;
+        if (!Resolve(path, currentDirectory_, parts) || parts.names.empty()) {
+            error = kErrorPathNotFound;
+            return nullptr;
+        }
+        if (parts.trailingSeparator || HasInvalidCharacter(parts.names.back())) {
+            error = kErrorInvalidName;
+            return nullptr;
+        }
         std::wstring name = parts.names.back();
         parts.names.pop_back();
         std::shared_ptr<Node> parent = Lookup(Join(parts));
-        if (!parent || !parent->IsDirectory()) return nullptr;
+        if (!parent || !parent->IsDirectory()) {
+            error = kErrorPathNotFound;
+            return nullptr;
+        }
+        if (!create) {
+            error = kErrorFileNotFound;
+            return nullptr;
+        }
         node = parent->AddChild(name, false);
     }
-    if (node->IsDirectory()) return nullptr;
+    if (node->IsDirectory()) {
+        error = kErrorAccessDenied;
+        return nullptr;
+    }
+    return node;
+}
+
+std::unique_ptr<File> FakeFileSystem::Open(const std::wstring& path, FileAccess access, bool denyWrite) {
+    bool writes = access != FileAccess::Read;
+    uint32_t error = 0;
+    std::shared_ptr<Node> node = FileToOpen(path, writes, error);
+    if (!node) return nullptr;
     if (writes && (node->attributes & kAttributeReadOnly)) return nullptr;
+    if (node->denyAll > 0) return nullptr;
     if ((writes && node->denyWriters > 0) || (denyWrite && node->writers > 0)) return nullptr;
     if (access == FileAccess::Write) node->bytes.clear();
-    return std::make_unique<OpenFile>(node, access, denyWrite);
+    return std::make_unique<OpenFile>(node, access, denyWrite ? Sharing::DenyWrite : Sharing::All);
+}
+
+std::unique_ptr<File> FakeFileSystem::OpenDenyAll(const std::wstring& path, FileAccess access, uint32_t& error) {
+    bool writes = access != FileAccess::Read;
+    error = 0;
+    std::shared_ptr<Node> node = FileToOpen(path, writes, error);
+    if (!node) return nullptr;
+    if (writes && (node->attributes & kAttributeReadOnly)) {
+        error = kErrorAccessDenied;
+        return nullptr;
+    }
+    if (node->handles > 0) {
+        error = kErrorSharingViolation;
+        return nullptr;
+    }
+    if (access == FileAccess::Write) node->bytes.clear();
+    return std::make_unique<OpenFile>(node, access, Sharing::DenyAll);
 }
 
 }  // namespace platform::fake

@@ -32,6 +32,7 @@ public:
     int CreateDirectoryTree(const std::wstring& path) override;
     int ShellVersion() override { return shellVersion_; }
     std::unique_ptr<File> Open(const std::wstring& path, FileAccess access, bool denyWrite) override;
+    std::unique_ptr<File> OpenDenyAll(const std::wstring& path, FileAccess access, uint32_t& error) override;
 
     // Setting the scene. Paths follow the same rules as above; missing parents are created.
     void AddDrive(wchar_t letter);
@@ -59,6 +60,7 @@ private:
     std::shared_ptr<Node> Lookup(const std::wstring& path);
     bool ConvertNames(const std::wstring& path, bool toShort, std::wstring& converted);
     std::shared_ptr<Node> Add(const std::wstring& path, bool directory);
+    std::shared_ptr<Node> FileToOpen(const std::wstring& path, bool create, uint32_t& error);
     int CreateOneDirectory(const std::wstring& path);
     std::vector<FindData> Find(const std::wstring& pattern, FindStyle style, bool firstOnly);
 

@@ -1,5 +1,7 @@
 #include "platform/fake/FakeSystem.h"
 
+#include "platform/fake/CodePage1252.h"
+
 namespace platform::fake {
 
 namespace {
@@ -50,6 +52,24 @@ std::unique_ptr<ResourceLibrary> FakeSystem::LoadDataLibrary(const std::wstring&
     auto found = libraries_.find(path);
     if (found == libraries_.end()) return nullptr;
     return std::make_unique<FakeLibrary>(found->second, loaded_);
+}
+
+bool FakeSystem::SetClipboardText(const std::wstring& text) {
+    if (clipboardHeld_) return false;
+    clipboardAnsi_.reset();
+    clipboardUnicode_ = text;
+    return true;
+}
+
+bool FakeSystem::ClipboardAnsiText(std::string& text) {
+    if (clipboardHeld_) return false;
+    if (clipboardAnsi_) {
+        text = clipboardAnsi_->substr(0, clipboardAnsi_->find('\0'));
+        return true;
+    }
+    if (!clipboardUnicode_) return false;
+    text = ToCodePage1252(clipboardUnicode_->substr(0, clipboardUnicode_->find(L'\0')));
+    return true;
 }
 
 }  // namespace platform::fake

@@ -1,10 +1,12 @@
-// Named mutexes and libraries for tests: which names exist, which libraries load and what they hold.
+// Named mutexes, libraries and the clipboard for tests: which names exist, which libraries load and
+// what they hold, and what text the clipboard has.
 #pragma once
 
 #include <cstdint>
 #include <functional>
 #include <map>
 #include <memory>
+#include <optional>
 #include <set>
 #include <string>
 #include <vector>
@@ -23,6 +25,9 @@ class FakeSystem : public System {
 public:
     std::unique_ptr<SystemObject> CreatePresenceMutex(const std::wstring& name) override;
     std::unique_ptr<ResourceLibrary> LoadDataLibrary(const std::wstring& path) override;
+    bool SetClipboardText(const std::wstring& text) override;
+    // Unicode text comes out in Windows-1252, the fake environment's ANSI code page.
+    bool ClipboardAnsiText(std::string& text) override;
 
     // A library at this path loads, with this content; any other does not.
     void AddLibrary(const std::wstring& path, LibraryContent content = {}) {
@@ -33,11 +38,24 @@ public:
     // Libraries loaded and not yet freed.
     int loadedLibraries() const { return *loaded_; }
 
+    // Another program holds the clipboard open: nobody else can open it.
+    void HoldClipboard(bool held) { clipboardHeld_ = held; }
+    // Text that another program put on the clipboard as CF_TEXT alone.
+    void PutClipboardAnsiText(const std::string& text) {
+        clipboardUnicode_.reset();
+        clipboardAnsi_ = text;
+    }
+    // The Unicode text on the clipboard, if any.
+    const std::optional<std::wstring>& clipboardText() const { return clipboardUnicode_; }
+
 private:
     std::shared_ptr<std::set<std::wstring>> mutexes_ = std::make_shared<std::set<std::wstring>>();
     std::map<std::wstring, std::shared_ptr<const LibraryContent>> libraries_;
     std::vector<std::wstring> loadAttempts_;
     std::shared_ptr<int> loaded_ = std::make_shared<int>(0);
+    bool clipboardHeld_ = false;
+    std::optional<std::wstring> clipboardUnicode_;
+    std::optional<std::string> clipboardAnsi_;
 };
 
 }  // namespace platform::fake

@@ -85,6 +85,29 @@ std::wstring Win32Environment::FormatLocalTime(int64_t time, const std::wstring&
     return std::wstring(buffer.data(), length);
 }
 
+std::string Win32Environment::ToAnsi(const std::wstring& text) {
+    if (text.empty()) return std::string();
+    const int length = static_cast<int>(text.size());
+    int bytes = WideCharToMultiByte(CP_THREAD_ACP, 0, text.data(), length, nullptr, 0, nullptr, nullptr);
+    std::string converted(bytes > 0 ? bytes : 0, '\0');
+    if (bytes > 0)
+        WideCharToMultiByte(CP_THREAD_ACP, 0, text.data(), length, converted.data(), bytes, nullptr, nullptr);
+    return converted;
+}
+
+std::wstring Win32Environment::FromAnsi(const std::string& text) {
+    if (text.empty()) return std::wstring();
+    const int length = static_cast<int>(text.size());
+    int units = MultiByteToWideChar(CP_THREAD_ACP, 0, text.data(), length, nullptr, 0);
+    std::wstring converted(units > 0 ? units : 0, L'\0');
+    if (units > 0) MultiByteToWideChar(CP_THREAD_ACP, 0, text.data(), length, converted.data(), units);
+    return converted;
+}
+
+int32_t Win32Environment::GetSystemMetrics(int32_t index) {
+    return ::GetSystemMetrics(index);
+}
+
 std::wstring ProgramName() {
     std::wstring path = Win32Environment().ModuleFileName();
     size_t slash = path.find_last_of(L'\\');

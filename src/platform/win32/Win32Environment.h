@@ -13,6 +13,9 @@ public:
     bool UserName(std::wstring& name) override;
     int64_t CurrentTime() override;
     std::wstring FormatLocalTime(int64_t time, const std::wstring& format, size_t bufferChars) override;
+    std::string ToAnsi(const std::wstring& text) override;
+    std::wstring FromAnsi(const std::string& text) override;
+    int32_t GetSystemMetrics(int32_t index) override;
 };
 
 // The running program's file name without directory and extension ("Option").

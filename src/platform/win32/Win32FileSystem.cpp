@@ -7,6 +7,7 @@
 #include <sys/stat.h>
 
 #include <algorithm>
+#include <cstdio>
 #include <vector>
 
 namespace platform::win32 {
@@ -41,6 +42,24 @@ private:
     }
 
     int descriptor_;
+};
+
+// A buffered stream of the C runtime, closed with the object.
+class StreamFile : public File {
+public:
+    explicit StreamFile(FILE* stream) : stream_(stream) {}
+    ~StreamFile() override { fclose(stream_); }
+
+    size_t Read(void* data, size_t size) override { return fread(data, 1, size, stream_); }
+    size_t Write(const void* data, size_t size) override { return fwrite(data, 1, size, stream_); }
+    uint64_t Size() override {
+        fflush(stream_);
+        long long length = _filelengthi64(_fileno(stream_));
+        return length < 0 ? 0 : static_cast<uint64_t>(length);
+    }
+
+private:
+    FILE* stream_;
 };
 
 FindData ToFindData(const WIN32_FIND_DATAW& data) {
@@ -170,6 +189,20 @@ std::unique_ptr<File> Win32FileSystem::Open(const std::wstring& path, FileAccess
     if (_wsopen_s(&descriptor, path.c_str(), flags, denyWrite ? _SH_DENYWR : _SH_DENYNO, _S_IREAD | _S_IWRITE) != 0)
         return nullptr;
     return std::make_unique<CrtFile>(descriptor);
+}
+
+std::unique_ptr<File> Win32FileSystem::OpenDenyAll(const std::wstring& path, FileAccess access, uint32_t& error) {
+    // "S": the cache is tuned for reading or writing straight through.
+    const wchar_t* mode = access == FileAccess::Read ? L"rbS" : access == FileAccess::Write ? L"wbS" : L"ab+S";
+    // The runtime turns some calls down without asking the system; those must not report an old error.
+    SetLastError(0);
+    FILE* stream = _wfsopen(path.c_str(), mode, _SH_DENYRW);
+    if (!stream) {
+        error = GetLastError();
+        return nullptr;
+    }
+    error = 0;
+    return std::make_unique<StreamFile>(stream);
 }
 
 }  // namespace platform::win32

@@ -40,6 +40,7 @@ public:
     int CreateDirectoryTree(const std::wstring& path) override;
     int ShellVersion() override;
     std::unique_ptr<File> Open(const std::wstring& path, FileAccess access, bool denyWrite) override;
+    std::unique_ptr<File> OpenDenyAll(const std::wstring& path, FileAccess access, uint32_t& error) override;
 };
 
 }  // namespace platform::win32

@@ -2,6 +2,8 @@
 
 #include <windows.h>
 
+#include <cstring>
+
 namespace platform::win32 {
 
 namespace {
@@ -67,6 +69,21 @@ Menu ReadMenu(HMENU menu) {
     return items;
 }
 
+// The clipboard, open for as long as the object lives.
+class OpenedClipboard {
+public:
+    OpenedClipboard() : open_(OpenClipboard(nullptr) != FALSE) {}
+    ~OpenedClipboard() {
+        if (open_) CloseClipboard();
+    }
+    OpenedClipboard(const OpenedClipboard&) = delete;
+    OpenedClipboard& operator=(const OpenedClipboard&) = delete;
+    bool open() const { return open_; }
+
+private:
+    bool open_;
+};
+
 class Win32ResourceLibrary : public ResourceLibrary {
 public:
     explicit Win32ResourceLibrary(HMODULE module) : module_(module) {}
@@ -104,6 +121,36 @@ std::unique_ptr<SystemObject> Win32System::CreatePresenceMutex(const std::wstrin
 std::unique_ptr<ResourceLibrary> Win32System::LoadDataLibrary(const std::wstring& path) {
     HMODULE module = LoadLibraryExW(path.c_str(), nullptr, LOAD_LIBRARY_AS_DATAFILE | LOAD_WITH_ALTERED_SEARCH_PATH);
     return module ? std::make_unique<Win32ResourceLibrary>(module) : nullptr;
+}
+
+bool Win32System::SetClipboardText(const std::wstring& text) {
+    OpenedClipboard clipboard;
+    if (!clipboard.open()) return false;
+    EmptyClipboard();
+    const size_t bytes = (text.size() + 1) * sizeof(wchar_t);
+    HGLOBAL block = GlobalAlloc(GMEM_DDESHARE, bytes);
+    if (!block) return true;
+    void* data = GlobalLock(block);
+    if (data) {
+        std::memcpy(data, text.c_str(), bytes);
+        GlobalUnlock(block);
+    }
+    // Once the system has the block it is the system's; a block it refused is ours to free.
+    if (!SetClipboardData(CF_UNICODETEXT, block)) GlobalFree(block);
+    return true;
+}
+
+bool Win32System::ClipboardAnsiText(std::string& text) {
+    OpenedClipboard clipboard;
+    if (!clipboard.open()) return false;
+    HANDLE block = GetClipboardData(CF_TEXT);
+    if (!block) return false;
+    const char* data = static_cast<const char*>(GlobalLock(block));
+    if (!data) return false;
+    const size_t size = GlobalSize(block);
+    text.assign(data, strnlen(data, size));
+    GlobalUnlock(block);
+    return true;
 }
 
 }  // namespace platform::win32

@@ -314,6 +314,55 @@ TEST_P(FileSystemContract, DenyWriteKeepsWritersOut) {
     EXPECT_NE(nullptr, files().Open(path, FileAccess::Read, false));
 }
 
+// The file is its holder's alone, and a failure says why in the system's own code.
+TEST_P(FileSystemContract, DenyAllShutsEveryoneElseOut) {
+    const std::wstring path = At(L"alone.txt");
+    ASSERT_TRUE(WriteFile(path, "old"));
+    uint32_t error = 99;
+    {
+        auto holder = files().OpenDenyAll(path, FileAccess::Append, error);
+        ASSERT_TRUE(holder);
+        EXPECT_EQ(0u, error);
+        EXPECT_EQ(3u, holder->Write("new", 3));
+        EXPECT_EQ(nullptr, files().Open(path, FileAccess::Read, false)) << "no reader";
+        EXPECT_EQ(nullptr, files().Open(path, FileAccess::Append, false)) << "no writer";
+        EXPECT_EQ(nullptr, files().OpenDenyAll(path, FileAccess::Append, error));
+        EXPECT_EQ(32u, error) << "ERROR_SHARING_VIOLATION";
+    }
+    EXPECT_EQ("oldnew", ReadFile(path)) << "appended, and let go with its holder";
+    {
+        auto reader = files().Open(path, FileAccess::Read, false);
+        ASSERT_TRUE(reader);
+        EXPECT_EQ(nullptr, files().OpenDenyAll(path, FileAccess::Write, error)) << "not while another has it";
+        EXPECT_EQ(32u, error);
+    }
+    {
+        auto holder = files().OpenDenyAll(path, FileAccess::Write, error);
+        ASSERT_TRUE(holder);
+        holder->Write("w", 1);
+    }
+    EXPECT_EQ("w", ReadFile(path)) << "Write starts the file afresh";
+    EXPECT_NE(nullptr, files().OpenDenyAll(At(L"new.txt"), FileAccess::Append, error)) << "Append creates the file";
+    EXPECT_EQ("", ReadFile(At(L"new.txt")));
+
+    struct Failure {
+        const wchar_t* below;
+        FileAccess access;
+        uint32_t error;
+    };
+    ASSERT_EQ(0, files().CreateDirectoryTree(At(L"dir")));
+    const Failure failures[] = {
+        {L"missing\\x.txt", FileAccess::Write, 3},  // ERROR_PATH_NOT_FOUND
+        {L"gone.txt", FileAccess::Read, 2},         // ERROR_FILE_NOT_FOUND
+        {L"dir", FileAccess::Append, 5},            // ERROR_ACCESS_DENIED
+    };
+    for (const Failure& f : failures) {
+        error = 99;
+        EXPECT_EQ(nullptr, files().OpenDenyAll(At(f.below), f.access, error));
+        EXPECT_EQ(f.error, error) << testing::PrintToString(std::wstring(f.below));
+    }
+}
+
 TEST_P(FileSystemContract, LongPathNamesExpandShortNames) {
     std::wstring longDirectory = At(L"Long Directory Name");
     ASSERT_EQ(0, files().CreateDirectoryTree(longDirectory));
