@@ -6,7 +6,7 @@
 #include "services/Format.h"
 
 ScriptFrame::ScriptFrame(ScriptRunner& runner, const ScriptArguments& given)
-    : runner(runner), arguments(given), lineBuffer_(kScriptLineLimit + 1, 0) {
+    : runner(runner), arguments(given), lineBuffer_(kScriptLineLimit + 2, 0) {
     if (!arguments.hostWindow) arguments.hostWindow = platform::Current().windows.FindHostWindow();
     if (!arguments.variables) {
         ownVariables_ = std::make_unique<VariableTable>();

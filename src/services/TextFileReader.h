@@ -19,7 +19,8 @@ public:
     // Closes what was open and reads the whole file; the file stays open with writers shut out until
     // the reader is closed, reopened or destroyed. True when at least one byte was read.
     bool Open(const std::wstring& path);
-    // Delivers the next line into line, which must hold limit + 1 units, closed by two NULs.
+    // Delivers the next line into line, which must hold limit + 2 units: a last line that fills the
+    // limit is still closed by two NULs.
     // A line longer than limit ends the reading (false). At the end of the data the result depends on
     // what the caller left in line[0]: a caller reusing its buffer gets one more empty line.
     bool ReadLine(wchar_t* line, uint32_t limit);

@@ -62,6 +62,18 @@ TEST_F(ScriptRunnerTest, FilesThatCannotBeRead) {
     for (const auto& shown : fake.prompts().shown()) EXPECT_EQ(platform::kStyleOk, shown.style);
 }
 
+// The longest last line a script may end with, without a line end, still runs; one unit longer is
+// taken for the end of the file.
+TEST_F(ScriptRunnerTest, TheLongestLastLineWithoutALineEnd) {
+    for (const size_t length : {size_t{32767}, size_t{32768}}) {
+        const std::wstring last = L"x = &" + std::wstring(length - 5, L'a');
+        fake.files().AddFile(L"C:\\long.txt", Utf16Bytes(L"var x = b\r\n" + last, true));
+        VariableTable variables;
+        Run(L"C:\\long.txt", &variables);
+        EXPECT_EQ(length == 32767 ? length - 5 + 1 : 1, variables.Find(L"x")->size()) << length;
+    }
+}
+
 TEST_F(ScriptRunnerTest, ALabelTwiceRunsNothing) {
     EXPECT_EQ(0, Run(AddScript(L"twice.txt", {L"include = C:\\a.txt", L"top:", L"top:"})));
     EXPECT_EQ(std::vector<std::wstring>{L"This label is already in use.\ntop:"}, Messages());
