@@ -2,7 +2,6 @@
 
 #include <optional>
 
-#include "platform/Platform.h"
 #include "script/ScriptCommands.h"
 #include "script/ScriptControlFlow.h"
 #include "script/ScriptRunner.h"

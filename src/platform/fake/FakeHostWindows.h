@@ -2,7 +2,6 @@
 #pragma once
 
 #include <map>
-#include <map>
 #include <set>
 #include <string>
 #include <thread>
