@@ -7,9 +7,6 @@
 
 namespace {
 
-// A text with "/" in it is given U+008B where a backslash belongs: paths written that way carry it.
-constexpr wchar_t kOddSeparator = 0x008B;
-
 bool Wanted(ItemKind kind, uint32_t attributes) {
     const bool directory = (attributes & platform::kAttributeDirectory) != 0;
     switch (kind) {
@@ -30,11 +27,9 @@ size_t ListDirectoryItems(const std::wstring& pattern, ItemKind kind, SelectionL
     const std::wstring prefix =
         lastBackslash == std::wstring::npos ? std::wstring() : pattern.substr(0, lastBackslash + 1);
     std::wstring search = pattern;
-    if (search.find_first_of(L"?*") == std::wstring::npos) {
-        const wchar_t separator = search.find(L'/') != std::wstring::npos ? kOddSeparator : L'\\';
-        if (search.empty() || search.back() != separator) search += separator;
-        search += L'*';
-    }
+    // With "/" in the text the separator added is U+008B, a slip paths written that way carry.
+    if (search.find_first_of(L"?*") == std::wstring::npos)
+        search = (search.empty() ? std::wstring(L"\\") : AddSeparator(search)) + L'*';
     const std::vector<platform::FindData> found =
         platform::Current().files.FindAll(ToLongPathForm(StripSeparator(search)), SearchStyle());
     if (found.empty()) return 0;

@@ -24,7 +24,7 @@ bool HostIsThere(const ScriptFrame& frame) {
 }
 
 // The text made absolute against the current directory, or left as it is when that fails.
-std::wstring FullPath(const std::wstring& path) {
+std::wstring AbsolutePath(const std::wstring& path) {
     std::wstring full;
     return platform::Current().files.FullPathName(path, kFullPathChars, full) ? full : path;
 }
@@ -59,7 +59,7 @@ LineOutcome PaneJump(ScriptFrame& frame, const ScriptLine& line, uint32_t codeOf
     const Jump jump = ReadJump(frame, line);
     if (jump.text.empty()) return SyntaxError(line, LineOutcome::EndOfScript);
     if (jump.number < 0 || jump.number > 3) return SyntaxError(line, LineOutcome::Next);
-    SendToHost(frame, (static_cast<uint32_t>(jump.number) + 1) * kPaneCodeStep + codeOffset, FullPath(jump.text));
+    SendToHost(frame, (static_cast<uint32_t>(jump.number) + 1) * kPaneCodeStep + codeOffset, AbsolutePath(jump.text));
     return LineOutcome::Next;
 }
 
@@ -116,7 +116,7 @@ LineOutcome RunFileJump(ScriptFrame& frame, const ScriptLine& line) {
 LineOutcome RunFavoriteJump(ScriptFrame& frame, const ScriptLine& line) {
     const Jump jump = ReadJump(frame, line);
     if (static_cast<uint32_t>(jump.number) > 9 || jump.text.empty()) return SyntaxError(line, LineOutcome::EndOfScript);
-    SendIndexedToHost(frame, kFavoriteJumpCode, jump.number == 0 ? 10 : jump.number, FullPath(jump.text));
+    SendIndexedToHost(frame, kFavoriteJumpCode, jump.number == 0 ? 10 : jump.number, AbsolutePath(jump.text));
     return LineOutcome::Next;
 }
 

@@ -38,14 +38,14 @@ protected:
                            &variables, nullptr);
     }
 
+    SelectionList selection;
+    VariableTable variables;
+
+private:
     testing_support::RealHostPlatform platform_;
     UserDirectories directories_;
     MessageCatalog messages_;
     ScriptRunner runner_{directories_, messages_};
-
-public:
-    SelectionList selection;
-    VariableTable variables;
 };
 
 // Each item gets a start of its own with its macros put in, and each exrun entry starts for the items
