@@ -34,7 +34,8 @@ public:
     Prompts& operator=(const Prompts&) = delete;
     virtual ~Prompts() = default;
 
-    // The application's message box: caption is the program's name, owner the active window.
+    // The application's message box: caption is the program's name, owner the active window; a style
+    // without an icon gets the framework's own (a warning for OK, a question mark for Yes/No).
     virtual int ShowMessage(const std::wstring& text, unsigned style) = 0;
     // A message box with a caption of its own, owned by the active window.
     virtual int Ask(const std::wstring& text, const std::wstring& caption, unsigned style) = 0;

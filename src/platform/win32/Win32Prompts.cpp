@@ -15,6 +15,22 @@ namespace {
 // The browser takes a path of fewer units than this.
 constexpr DWORD kBrowsePathChars = 520;
 
+// The framework's message box picks an icon when the caller gives none: a warning for OK and OK/Cancel,
+// a question mark for Yes/No and Yes/No/Cancel.
+UINT WithFrameworkIcon(UINT style) {
+    if (style & MB_ICONMASK) return style;
+    switch (style & MB_TYPEMASK) {
+        case MB_OK:
+        case MB_OKCANCEL:
+            return style | MB_ICONEXCLAMATION;
+        case MB_YESNO:
+        case MB_YESNOCANCEL:
+            return style | MB_ICONQUESTION;
+        default:
+            return style;
+    }
+}
+
 // Selects the start folder once the browser is up.
 int CALLBACK SelectStart(HWND window, UINT message, LPARAM, LPARAM start) {
     if (message == BFFM_INITIALIZED && start) SendMessageW(window, BFFM_SETSELECTIONW, TRUE, start);
@@ -24,8 +40,8 @@ int CALLBACK SelectStart(HWND window, UINT message, LPARAM, LPARAM start) {
 }  // namespace
 
 int Win32Prompts::ShowMessage(const std::wstring& text, unsigned style) {
-    // Like the framework's message box: captioned with the program's name.
-    return Ask(text, ProgramName(), style);
+    // Like the framework's message box: captioned with the program's name, with its icon.
+    return Ask(text, ProgramName(), WithFrameworkIcon(style));
 }
 
 int Win32Prompts::Ask(const std::wstring& text, const std::wstring& caption, unsigned style) {

@@ -40,6 +40,23 @@ HWND FindBrowser(DWORD thread) {
     return nullptr;
 }
 
+// The first visible window of the thread, once it shows.
+HWND ShownWindow(DWORD thread) {
+    HWND shown = nullptr;
+    for (int tries = 0; tries < 200 && !shown; ++tries) {
+        EnumThreadWindows(
+            thread,
+            [](HWND window, LPARAM data) -> BOOL {
+                if (!IsWindowVisible(window)) return TRUE;
+                *reinterpret_cast<HWND*>(data) = window;
+                return FALSE;
+            },
+            reinterpret_cast<LPARAM>(&shown));
+        if (!shown) Sleep(50);
+    }
+    return shown;
+}
+
 std::wstring SelectedName(HWND browser) {
     HWND tree = FindWindowExW(browser, nullptr, WC_TREEVIEWW, nullptr);
     wchar_t text[MAX_PATH] = {};
@@ -128,22 +145,40 @@ TEST(Win32Prompts, ChoiceOfAlternatives) {
             platform::win32::Win32Prompts prompts;
             return prompts.ChooseOne({L"Please select an application.", L"Report.txt", {L"one.exe", L"two.exe"}});
         });
-        const DWORD id = thread.get_future().get();
-        HWND dialog = nullptr;
-        for (int tries = 0; tries < 200 && !dialog; ++tries) {
-            EnumThreadWindows(
-                id,
-                [](HWND window, LPARAM data) -> BOOL {
-                    if (!IsWindowVisible(window)) return TRUE;
-                    *reinterpret_cast<HWND*>(data) = window;
-                    return FALSE;
-                },
-                reinterpret_cast<LPARAM>(&dialog));
-            if (!dialog) Sleep(50);
-        }
+        HWND dialog = ShownWindow(thread.get_future().get());
         ASSERT_NE(nullptr, dialog);
         PostMessageW(dialog, WM_COMMAND, c.pressed, 0);
         EXPECT_EQ(c.chosen, choice.get());
+    }
+}
+
+// The application's box shows the icon the framework's box would: a warning for OK, a question mark for
+// Yes/No, and the caller's own when it names one.
+TEST(Win32Prompts, MessageBoxIcons) {
+    struct Case {
+        unsigned style;
+        LPCWSTR icon;
+        WPARAM answer;
+    };
+    for (const Case& c : {Case{MB_OK, IDI_EXCLAMATION, IDOK}, Case{MB_YESNO, IDI_QUESTION, IDNO},
+                          Case{MB_OK | MB_ICONINFORMATION, IDI_INFORMATION, IDOK}}) {
+        SCOPED_TRACE(c.style);
+        std::promise<DWORD> thread;
+        auto answer = std::async(std::launch::async, [&] {
+            thread.set_value(GetCurrentThreadId());
+            platform::win32::Win32Prompts prompts;
+            return prompts.ShowMessage(L"Text of the box", c.style);
+        });
+        HWND box = ShownWindow(thread.get_future().get());
+        ASSERT_NE(nullptr, box);
+        HICON shown = nullptr;
+        for (HWND child = FindWindowExW(box, nullptr, L"Static", nullptr); child && !shown;
+             child = FindWindowExW(box, child, L"Static", nullptr)) {
+            shown = reinterpret_cast<HICON>(SendMessageW(child, STM_GETICON, 0, 0));
+        }
+        EXPECT_EQ(LoadIconW(nullptr, c.icon), shown);
+        PostMessageW(box, WM_COMMAND, c.answer, 0);
+        EXPECT_EQ(static_cast<int>(c.answer), answer.get());
     }
 }
 
