@@ -82,17 +82,33 @@ std::wstring TextToEnvironmentPath(const std::wstring& text) {
     for (const wchar_t* name : kEnvironmentNames) rows.emplace_back(name, crt::MakeLower(ExpandEnvironment(name)));
     std::stable_sort(rows.begin(), rows.end(),
                      [](const Row& a, const Row& b) { return a.second.size() > b.second.size(); });
-    std::wstring result = text;
+    // The text in pieces: what was written, and the names already put in. A later row leaves those
+    // names alone, or a value found inside one ("user" in "%USERPROFILE%") would grow the text for ever.
+    struct Piece {
+        std::wstring text;
+        bool name;
+    };
+    std::vector<Piece> pieces{{text, false}};
     for (const Row& row : rows) {
-        std::wstring lowered = crt::MakeLower(result);
-        for (size_t at; (at = lowered.find(row.second)) != std::wstring::npos;) {
-            std::wstring before = result;
-            crt::Replace(result, result.substr(at, row.second.size()), row.first);
-            // A row that cannot change the text (an undefined name already written as itself, an
-            // empty value) would be found again for ever: go on with the next one.
-            if (result == before) break;
-            lowered = crt::MakeLower(result);
+        if (row.second.empty()) continue;
+        std::vector<Piece> next;
+        for (Piece& piece : pieces) {
+            if (piece.name) {
+                next.push_back(std::move(piece));
+                continue;
+            }
+            const std::wstring lowered = crt::MakeLower(piece.text);
+            size_t from = 0;
+            for (size_t at; (at = lowered.find(row.second, from)) != std::wstring::npos;
+                 from = at + row.second.size()) {
+                next.push_back({piece.text.substr(from, at - from), false});
+                next.push_back({row.first, true});
+            }
+            next.push_back({piece.text.substr(from), false});
         }
+        pieces = std::move(next);
     }
+    std::wstring result;
+    for (const Piece& piece : pieces) result += piece.text;
     return result;
 }

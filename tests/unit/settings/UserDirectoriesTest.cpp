@@ -95,7 +95,8 @@ TEST_F(UserDirectoriesTest, TokensExpandInOrderAndWithCase) {
         {L"%DATA%", L"C:\\Qor\\Ubar\\tester\\x"},
     };
     for (const auto& c : cases) {
-        EXPECT_EQ(c.expected, ExpandDirectoryMacros(c.text, directories)) << testing::PrintToString(std::wstring(c.text));
+        EXPECT_EQ(c.expected, ExpandDirectoryMacros(c.text, directories))
+            << testing::PrintToString(std::wstring(c.text));
     }
 }
 
@@ -130,6 +131,8 @@ TEST(PathRoots, EnvironmentCompressionLongestValueFirstAndGuarded) {
     fake.environment().SetVariable(L"SystemRoot", L"C:\\Windows");
     fake.environment().SetVariable(L"windir", L"C:\\Windows");
     fake.environment().SetVariable(L"OS", L"");
+    fake.environment().SetVariable(L"USERNAME", L"tester");
+    fake.environment().SetVariable(L"USERDOMAIN", L"user");
     struct Case {
         const wchar_t* path;
         const wchar_t* expected;
@@ -141,6 +144,9 @@ TEST(PathRoots, EnvironmentCompressionLongestValueFirstAndGuarded) {
         {L"%TMP%\\and %TEMP%", L"%TMP%\\and %TEMP%"},
         {L"a %ComSpec% b", L"a %ComSpec% b"},
         {L"D:\\other", L"D:\\other"},
+        // A value found inside a name already put in leaves it alone.
+        {L"C:\\Users\\User1", L"C:\\%USERDOMAIN%s\\%USERDOMAIN%1"},
+        {L"D:\\tester\\Users", L"D:\\%username%\\%USERDOMAIN%s"},
         {L"", L""},
     };
     for (const auto& c : cases) {
