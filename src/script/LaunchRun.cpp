@@ -68,8 +68,6 @@ bool LaunchExRunEntry(const std::wstring& program, const std::wstring& item, con
             {L"Please select an application.", item.substr(item.find_last_of(L'\\') + 1), alternatives});
         if (index < 0) return true;
         chosen = crt::Trim(alternatives[index]);
-    } else if (alternatives.size() == 1) {
-        chosen = alternatives[0];
     }
     if (crt::MakeLower(chosen) == kPreviewBar) return false;
 

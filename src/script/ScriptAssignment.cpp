@@ -33,16 +33,26 @@ std::wstring CompoundResult(const std::wstring& old, const std::wstring& right, 
     const int64_t b = ScriptInteger(rest);
     int64_t value = 0;
     switch (form) {
-    case L'+': value = static_cast<int64_t>(a + static_cast<uint64_t>(b)); break;
-    case L'-': value = static_cast<int64_t>(a - static_cast<uint64_t>(b)); break;
-    case L'*': value = static_cast<int64_t>(a * static_cast<uint64_t>(b)); break;
-    case L'/':
-    case L'%':
-        if (b == 0) value = 0;
-        else if (b == -1) value = form == L'/' ? static_cast<int64_t>(0 - a) : 0;
-        else value = form == L'/' ? static_cast<int64_t>(a) / b : static_cast<int64_t>(a) % b;
-        break;
-    default: return std::wstring();
+        case L'+':
+            value = static_cast<int64_t>(a + static_cast<uint64_t>(b));
+            break;
+        case L'-':
+            value = static_cast<int64_t>(a - static_cast<uint64_t>(b));
+            break;
+        case L'*':
+            value = static_cast<int64_t>(a * static_cast<uint64_t>(b));
+            break;
+        case L'/':
+        case L'%':
+            if (b == 0)
+                value = 0;
+            else if (b == -1)
+                value = form == L'/' ? static_cast<int64_t>(0 - a) : 0;
+            else
+                value = form == L'/' ? static_cast<int64_t>(a) / b : static_cast<int64_t>(a) % b;
+            break;
+        default:
+            return std::wstring();
     }
     return crt::Format(L"%lld", value);
 }
@@ -69,8 +79,7 @@ AssignmentRight ReadAssignmentRight(ScriptFrame& frame, const std::wstring& name
     read.old = *frame.arguments.variables->Find(name);
     read.statement = line.statement;
     const size_t equals = line.spaced.find(L'=');
-    read.rawRight =
-        frame.Expand(equals == std::wstring::npos ? std::wstring() : line.spaced.substr(equals + 1), false);
+    read.rawRight = frame.Expand(equals == std::wstring::npos ? std::wstring() : line.spaced.substr(equals + 1), false);
     read.right = crt::Trim(read.rawRight);
     if (!CompoundResult(read.old, read.right, read.rawRight).empty()) return read;
     std::vector<std::wstring> fields;
@@ -90,21 +99,25 @@ std::optional<WorkedOutAssignment> WorkOutAssignment(ScriptFrame& frame, const A
     if (result.empty() && read.function) {
         FunctionResult made = read.function->run(frame, read.arguments);
         switch (made.fault) {
-        case FunctionFault::None: break;
-        case FunctionFault::SyntaxError:
-            ShowScriptMessage(L"Syntax error!\n" + read.rawRight);
-            return WorkedOutAssignment{read.name, {}, {}, true};
-        case FunctionFault::IllegalCall:
-            ShowScriptMessage(L"Illegal Function Call!\n" + read.right);
-            return WorkedOutAssignment{read.name, {}, {}, true};
-        case FunctionFault::Computation: ReportComputeError(made.computeError, read.statement); return std::nullopt;
+            case FunctionFault::None:
+                break;
+            case FunctionFault::SyntaxError:
+                ShowScriptMessage(L"Syntax error!\n" + read.rawRight);
+                return WorkedOutAssignment{read.name, {}, {}, true};
+            case FunctionFault::IllegalCall:
+                ShowScriptMessage(L"Illegal Function Call!\n" + read.right);
+                return WorkedOutAssignment{read.name, {}, {}, true};
+            case FunctionFault::Computation:
+                ReportComputeError(made.computeError, read.statement);
+                return std::nullopt;
         }
         if (made.dropped) return WorkedOutAssignment{read.name, {}, {}, true};
+        if (made.untraced) return WorkedOutAssignment{read.name, std::move(made.text), std::nullopt, false};
         result = std::move(made.text);
         raw = made.raw;
-        if (result.empty() && !raw) result = read.arguments;
     }
-    if (result.empty() && !raw) result = read.right;
+    // Behind a function the text behind its name stands in, empty as it may be.
+    if (result.empty() && !raw) result = read.function ? read.arguments : read.right;
     if (result == kEmptyText) result.clear();
     if (!raw) {
         RewriteHexNumbers(result);
@@ -126,5 +139,5 @@ std::optional<WorkedOutAssignment> WorkOutAssignment(ScriptFrame& frame, const A
 void StoreAssignment(ScriptFrame& frame, const WorkedOutAssignment& assignment) {
     if (assignment.dropped) return;
     frame.arguments.variables->Set(assignment.name, assignment.value);
-    ReportTrace(frame.TraceWindow, kTraceVariable, assignment.name + L"\t" + assignment.traced);
+    if (assignment.traced) ReportTrace(frame.TraceWindow, kTraceVariable, assignment.name + L"\t" + *assignment.traced);
 }

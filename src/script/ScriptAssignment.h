@@ -13,8 +13,9 @@
 struct WorkedOutAssignment {
     std::wstring name;
     std::wstring value;
-    // What the trace window is told behind the name: the value, or a raw function's argument text.
-    std::wstring traced;
+    // What the trace window is told behind the name: the value, or a raw function's argument text;
+    // nothing for a function that stores without a report.
+    std::optional<std::wstring> traced;
     bool dropped = false;
 };
 

@@ -23,6 +23,8 @@ struct FunctionResult {
     bool dropped = false;
     FunctionFault fault = FunctionFault::None;
     int32_t computeError = 0;
+    // The text is stored as it is and nothing else of the assignment happens, not even the trace.
+    bool untraced = false;
 };
 
 struct ScriptFunction {

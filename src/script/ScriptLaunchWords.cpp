@@ -17,9 +17,14 @@ CallSettings CallSettingsOf(const ScriptFrame& frame) {
             static_cast<uint32_t>(options.runWait)};
 }
 
+// Both forms expand and trim their command line before the process starts.
+std::optional<std::wstring> Call(ScriptFrame& frame, CallKind kind, const std::wstring& commandLine) {
+    return CallProgram(kind, frame.Expand(commandLine, true), CallSettingsOf(frame));
+}
+
 // A program that could not start still leaves a value: the command line, as for any empty result.
 FunctionResult CallFunction(ScriptFrame& frame, CallKind kind, const std::wstring& commandLine) {
-    return {CallProgram(kind, commandLine, CallSettingsOf(frame)).value_or(std::wstring())};
+    return {Call(frame, kind, commandLine).value_or(std::wstring())};
 }
 
 // An "exrun" line starts nothing yet: it notes the program with the options of the moment.
@@ -71,7 +76,7 @@ bool RunCallStatement(ScriptFrame& frame, const ScriptLine& line) {
         kind = CallKind::Exec;
     else
         return false;
-    CallProgram(kind, frame.Expand(line.value, true), CallSettingsOf(frame));
+    Call(frame, kind, line.value);
     return true;
 }
 

@@ -21,7 +21,11 @@ FunctionResult Flag(bool value) {
 // One of the pattern's entries, picked anew on every call; an empty listing makes the variable empty.
 FunctionResult RandomItem(ScriptFrame&, const std::wstring& arguments) {
     SelectionList items;
-    if (ListDirectoryItems(arguments, ItemKind::All, items) == 0 || items.empty()) return {L"", true};
+    if (ListDirectoryItems(arguments, ItemKind::All, items) == 0 || items.empty()) {
+        FunctionResult empty;
+        empty.untraced = true;
+        return empty;
+    }
     const auto seed = static_cast<uint32_t>(platform::Current().processes.Ticks());
     return {items[static_cast<size_t>(crt::RandAfterSeed(seed)) % items.size()]};
 }

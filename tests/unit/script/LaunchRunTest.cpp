@@ -144,7 +144,8 @@ TEST_F(LaunchRunTest, ExRunEntriesTakeTheItemsTheirFilterAndArgumentsAllow) {
         {"the second alternative chosen", L"one.exe | two.exe", L"C:\\D\\a.txt", L"?SelFile?", L"", {1}, true,
          L"two.exe"},
         {"the choice cancelled", L"one.exe|two.exe", L"C:\\D\\a.txt", L"?SelFile?", L"", {}, true, L""},
-        {"one alternative asks nothing", L" one.exe |", L"C:\\D\\a.txt", L"?SelFile?", L"", {}, true, L"one.exe"},
+        {"one alternative is the program as written", L" one.exe |", L"C:\\D\\a.txt", L"?SelFile?", L"", {}, true,
+         L" one.exe |"},
         {"the host's preview bar", L"PreviewBar", L"C:\\D\\a.txt", L"?SelFile?", L"", {}, false, L""},
     };
     for (const Case& c : cases) {

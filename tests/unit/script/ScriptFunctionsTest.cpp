@@ -30,6 +30,7 @@ TEST_F(ScriptFunctionsTest, TextFunctions) {
         {"right", {L"var qx = right,2,abc"}, {{L"qx", L"bc"}}},
         {"a result that computes is computed", {L"var qx = left,3,1/2x"}, {{L"qx", L"0.5"}}},
         {"an empty result stores the arguments", {L"var qx = left,0, abc"}, {{L"qx", L"0, abc"}}},
+        {"an empty argument stores empty text", {L"var qx = k", L"qx = GetPath,"}, {{L"qx", L""}}},
         {"double computes", {L"var qx = double,(1+2)*1.5"}, {{L"qx", L"4.5"}}},
         {"not a function name: the whole right side", {L"var qx = lefty,2,abc"}, {{L"qx", L"lefty,2,abc"}}},
         {"a name alone is no function", {L"var qx = Exist"}, {{L"qx", L"Exist"}}},
@@ -91,16 +92,21 @@ TEST_F(ScriptFunctionsTest, PathFunctions) {
 }
 
 // random seeds with the tick count each time, so the fake's clock decides the pick; an empty listing
-// empties the variable.
+// empties the variable and tells the trace window nothing.
 TEST_F(ScriptFunctionsTest, RandomPicksAnEntryOfThePattern) {
     fake.files().AddFile(L"C:\\Data\\other.txt", std::string_view("o"));
+    fake.windows().SetTitledWindow(L"Script trace Qor", 0x51);
     Check({"picked",
-           {L"var qx = random,C:\\Data\\*.txt", L"var qy = k", L"qy = random,C:\\Data\\*.gif"},
+           {L"debug", L"var qx = random,C:\\Data\\*.txt", L"var qy = k", L"qy = random,C:\\Data\\*.gif"},
            {{L"qy", L""}}});
     const std::wstring picked = Value(L"qx");
     EXPECT_TRUE(picked == L"C:\\Data\\notes.txt" || picked == L"C:\\Data\\other.txt") << picked;
     // At 1000000 ticks: srand(1000000) and rand() give 21585, odd, so the second of two entries.
     EXPECT_EQ(L"C:\\Data\\other.txt", picked);
+    std::vector<std::wstring> reports;
+    for (const auto& copy : fake.windows().copies())
+        if (copy.text.starts_with(L"qy\t")) reports.push_back(copy.text);
+    EXPECT_EQ((std::vector<std::wstring>{L"qy\t", L"qy\tk"}), reports);
 }
 
 // call and exec as functions wait for the commands of the line and store the exit code.
@@ -108,7 +114,7 @@ TEST_F(ScriptFunctionsTest, CallAndExecStoreTheExitCode) {
     platform::fake::FakeProgram program;
     program.exitCode = 7;
     fake.processes().SetProgram(program);
-    Check({"exit codes", {L"var q1 = call,tool.exe /x", L"var q2 = EXEC,tool.exe"}, {{L"q1", L"7"}, {L"q2", L"7"}}});
+    Check({"exit codes", {L"var q1 = call, tool.exe /x", L"var q2 = EXEC,tool.exe"}, {{L"q1", L"7"}, {L"q2", L"7"}}});
     ASSERT_EQ(2u, fake.processes().starts().size());
     EXPECT_EQ(L"tool.exe /x", fake.processes().starts()[0].commandLine);
 

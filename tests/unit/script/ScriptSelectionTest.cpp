@@ -84,6 +84,15 @@ TEST_F(ScriptSelectionTest, ListingTakesItsPrefixKindAndLimitFromThePattern) {
     SelectionList list{L"before"};
     EXPECT_EQ(kListedItemsLimit, ListDirectoryItems(L"C:\\Many\\", ItemKind::All, list));
     EXPECT_EQ(L"C:\\Many\\f0", list[1]);
+    // A list already full still takes the first entry: the limit is looked at behind each one.
+    EXPECT_EQ(kListedItemsLimit + 1, ListDirectoryItems(L"C:\\Pics\\*.png", ItemKind::All, list));
+    EXPECT_EQ(L"C:\\Pics\\b.png", list.back());
+
+    // An empty pattern lists the current directory, not the root of its drive.
+    fake.files().ChangeDirectory(L"C:\\Pics");
+    list.clear();
+    EXPECT_EQ(3u, ListDirectoryItems(L"", ItemKind::All, list));
+    EXPECT_EQ(L"a.jpg", list[0]);
 
     list.clear();
     EXPECT_EQ(1u, ListDirectoryItems(L"C:\\Pics\\", ItemKind::Directories, list));
