@@ -65,15 +65,17 @@ build_preset() {
   cmake --build --preset "$preset" "${targets[@]}" -- --no-print-directory -s
 }
 
-# Lays out an installation tree from sample/: the program two folders below the application root,
-# the sample user directory as "User"; the Wine prefix's own user directory gets its command lists.
+# stage [BUILD_TREE [STAGE_DIR]]: lays out an installation tree from sample/ and the Windows build
+# (build/win64 into build/stage unless told otherwise): the program two folders below the application
+# root, the sample user directory as "User"; the Wine prefix's own user directory gets its command lists.
 stage() {
-  mkdir -p "$STAGE/command/Option" "$STAGE/Lang"
-  if [ -d "$ROOT/sample" ]; then cp -a "$ROOT/sample/." "$STAGE/"; fi
-  cp -a "$BUILD/win64/src/Option.exe" "$STAGE/command/Option/"
+  local tree=${1:-$BUILD/win64} to=${2:-$STAGE}
+  mkdir -p "$to/command/Option" "$to/Lang"
+  if [ -d "$ROOT/sample" ]; then cp -a "$ROOT/sample/." "$to/"; fi
+  cp -a "$tree/src/Option.exe" "$to/command/Option/"
   local dll
-  for dll in "$BUILD"/win64/sample/Lang/*.dll; do
-    [ -e "$dll" ] && cp -a "$dll" "$STAGE/Lang/"
+  for dll in "$tree"/sample/Lang/*.dll; do
+    [ -e "$dll" ] && cp -a "$dll" "$to/Lang/"
   done
   seed_user_directory
 }
