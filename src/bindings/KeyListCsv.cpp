@@ -2,6 +2,7 @@
 
 #include <cstdint>
 
+#include "services/WholeFileWriter.h"
 #include "services/WideStream.h"
 
 std::wstring KeyListCsvText(const std::vector<KeyListRow>& rows) {
@@ -19,9 +20,9 @@ std::vector<KeyListRow> KeyListRows(std::span<const uint16_t, kKeyCount> block, 
     return rows;
 }
 
-void WriteKeyListCsv(platform::File& file, std::span<const uint16_t, kKeyCount> block, const CommandCatalog& catalog,
-                     const platform::ResourceLibrary* library) {
+bool WriteKeyListCsv(const std::wstring& path, std::span<const uint16_t, kKeyCount> block,
+                     const CommandCatalog& catalog, const platform::ResourceLibrary* library) {
     std::vector<uint8_t> bytes;
     AppendUtf16(bytes, KeyListCsvText(KeyListRows(block, catalog, library)));
-    file.Write(bytes.data(), bytes.size());
+    return WriteWholeFile(path, bytes);
 }

@@ -7,7 +7,6 @@
 
 #include "bindings/KeyNameTable.h"
 #include "definitions/CommandCatalog.h"
-#include "platform/FileSystem.h"
 
 // Behind the base name of a key list file, by modifier; ".csv" follows.
 inline constexpr const wchar_t* kKeyListSuffixes[] = {L"", L" Shift", L" Ctrl", L" Ctrl+Shift"};
@@ -25,6 +24,6 @@ std::wstring KeyListCsvText(const std::vector<KeyListRow>& rows);
 std::vector<KeyListRow> KeyListRows(std::span<const uint16_t, kKeyCount> block, const CommandCatalog& catalog,
                                     const platform::ResourceLibrary* library);
 
-// Writes the block's text to an open file in a single write.
-void WriteKeyListCsv(platform::File& file, std::span<const uint16_t, kKeyCount> block, const CommandCatalog& catalog,
-                     const platform::ResourceLibrary* library);
+// Writes the block's list to the file whole; false when it could not.
+bool WriteKeyListCsv(const std::wstring& path, std::span<const uint16_t, kKeyCount> block,
+                     const CommandCatalog& catalog, const platform::ResourceLibrary* library);

@@ -4,7 +4,6 @@
 #include "bindings/KeyTableFiles.h"
 #include "platform/Platform.h"
 #include "services/FileTests.h"
-#include "services/LongPath.h"
 #include "services/MessageIds.h"
 #include "services/PathHelpers.h"
 
@@ -28,7 +27,7 @@ void KeyListWriter::Run() {
                 prompts.ShowMessage(kOverwriteQuestion + path, platform::kStyleYesNo) == platform::kAnswerNo) {
                 continue;
             }
-            WriteList(path, mode, modifier, tables);
+            WriteKeyListCsv(path, tables.Block(mode, modifier), catalog_, library_);
         }
     }
 }
@@ -41,9 +40,4 @@ std::wstring KeyListWriter::ChooseFolder() {
         if (!choice.path.empty()) return choice.path;
         prompts.ShowMessage(kVirtualFolderText, platform::kStyleOk);
     }
-}
-
-void KeyListWriter::WriteList(const std::wstring& path, int mode, int modifier, const KeyTableSet& tables) {
-    auto file = platform::Current().files.Open(ToLongPathForm(path), platform::FileAccess::Write, true);
-    if (file) WriteKeyListCsv(*file, tables.Block(mode, modifier), catalog_, library_);
 }

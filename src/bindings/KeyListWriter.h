@@ -26,7 +26,6 @@ public:
 private:
     // The chosen folder; empty when the user cancelled.
     std::wstring ChooseFolder();
-    void WriteList(const std::wstring& path, int mode, int modifier, const KeyTableSet& tables);
 
     std::wstring userDirectory_;
     MessageCatalog& messages_;

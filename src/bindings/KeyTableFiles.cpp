@@ -6,6 +6,7 @@
 #include "platform/Platform.h"
 #include "services/Format.h"
 #include "services/LongPath.h"
+#include "services/WholeFileWriter.h"
 
 namespace {
 
@@ -28,11 +29,6 @@ KeyMapTable FromBytes(const Bytes& bytes) {
     return table;
 }
 
-// Readers share the file with other readers; writers are kept out while it is open.
-std::unique_ptr<platform::File> OpenKeyFile(const std::wstring& path, platform::FileAccess access) {
-    return platform::Current().files.Open(ToLongPathForm(path), access, true);
-}
-
 }  // namespace
 
 std::wstring KeyFilePath(const std::wstring& userDirectory, int mode) {
@@ -48,7 +44,9 @@ std::wstring KeyFilePath(const std::wstring& userDirectory, int mode) {
 
 void LoadKeyTables(const std::wstring& userDirectory, KeyTableSet& set) {
     for (int mode = 0; mode < kKeyModeCount; ++mode) {
-        auto file = OpenKeyFile(KeyFilePath(userDirectory, mode), platform::FileAccess::Read);
+        // Other readers share the file; writers are kept out while it is open.
+        auto file = platform::Current().files.Open(ToLongPathForm(KeyFilePath(userDirectory, mode)),
+                                                   platform::FileAccess::Read, true);
         if (!file) {
             set.modes[mode] = DefaultKeyTables().modes[mode];
             continue;
@@ -67,9 +65,6 @@ void LoadKeyTables(const std::wstring& userDirectory, KeyTableSet& set) {
 
 void SaveKeyTables(const std::wstring& userDirectory, const KeyTableSet& set) {
     for (int mode = 0; mode < kKeyModeCount; ++mode) {
-        auto file = OpenKeyFile(KeyFilePath(userDirectory, mode), platform::FileAccess::Write);
-        if (!file) continue;
-        Bytes bytes = ToBytes(set.modes[mode]);
-        file->Write(bytes.data(), bytes.size());
+        WriteWholeFile(KeyFilePath(userDirectory, mode), ToBytes(set.modes[mode]));
     }
 }

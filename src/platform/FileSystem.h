@@ -48,6 +48,9 @@ public:
     virtual size_t Write(const void* data, size_t size) = 0;
     // Length of the whole file in bytes.
     virtual uint64_t Size() = 0;
+    // Pushes what was written through the system's caches onto the disk; false when the system
+    // reports that it could not (a full disk may only show here).
+    virtual bool Flush() = 0;
 };
 
 class FileSystem {
@@ -91,6 +94,12 @@ public:
     // this one is. Null when the file cannot be opened, with the system's error code in error (0 when
     // the runtime refused the call without asking the system).
     virtual std::unique_ptr<File> OpenDenyAll(const std::wstring& path, FileAccess access, uint32_t& error) = 0;
+    // As MoveFileExW with MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH: the file at source takes
+    // the name target in one step, replacing a file of that name. Both lie on the same volume.
+    // Returns 0, or the system's error code: the target is read-only, a directory or open elsewhere.
+    virtual uint32_t Replace(const std::wstring& source, const std::wstring& target) = 0;
+    // As DeleteFileW: 0, or the system's error code.
+    virtual uint32_t Delete(const std::wstring& path) = 0;
 };
 
 }  // namespace platform

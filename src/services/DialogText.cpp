@@ -7,10 +7,10 @@
 #include "services/CRuntime.h"
 #include "services/DialogLanguage.h"
 #include "services/Format.h"
-#include "services/LongPath.h"
 #include "services/PathHelpers.h"
 #include "services/TextFileReader.h"
 #include "services/TabLine.h"
+#include "services/WholeFileWriter.h"
 #include "services/WideStream.h"
 
 namespace {
@@ -107,8 +107,6 @@ void ApplyDialogText(const std::vector<DialogTextOperation>& operations, DialogT
 
 void WriteDialogText(const DialogTextLocation& location, const DialogContent& content) {
     MakeDirectory(location.directory);
-    auto file = platform::Current().files.Open(ToLongPathForm(location.path), platform::FileAccess::Write, false);
-    if (!file) return;
     std::vector<uint8_t> bytes = {0xFF, 0xFE};
     AppendUtf16(bytes, content.title + L"\r\n");
     for (const DialogControl& control : content.controls) {
@@ -122,7 +120,9 @@ void WriteDialogText(const DialogTextLocation& location, const DialogContent& co
             AppendUtf16(bytes, crt::Format(L"%d\t%s\t%s\r\n", control.id, control.className, Escape(control.text)));
         }
     }
-    file->Write(bytes.data(), bytes.size());
+    // Whole or not at all: a template cut short would be read back as a translation on every later
+    // opening.
+    WriteWholeFile(location.path, bytes);
 }
 
 void LocaliseDialogText(DialogLanguage& language, int32_t dialogId, LocalisableDialog& dialog) {

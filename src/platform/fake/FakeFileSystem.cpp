@@ -162,13 +162,21 @@ struct FakeFileSystem::Node {
         auto child = std::make_shared<Node>();
         child->name = childName;
         child->attributes = directory ? kAttributeDirectory : kAttributeArchive;
+        Insert(child);
+        return child;
+    }
+
+    void Insert(const std::shared_ptr<Node>& child) {
         child->parent = this;
-        auto at = std::lower_bound(children.begin(), children.end(), childName,
+        auto at = std::lower_bound(children.begin(), children.end(), child->name,
                                    [](const std::shared_ptr<Node>& node, const std::wstring& wanted) {
                                        return CompareNoCase(node->name, wanted) < 0;
                                    });
         children.insert(at, child);
-        return child;
+    }
+
+    void Remove(const Node* child) {
+        std::erase_if(children, [child](const std::shared_ptr<Node>& node) { return node.get() == child; });
     }
 };
 
@@ -182,8 +190,8 @@ enum class Sharing { All, DenyWrite, DenyAll };
 // An open file: reads and writes go straight to the node, which outlives the handle.
 class FakeFileSystem::OpenFile : public File {
 public:
-    OpenFile(std::shared_ptr<Node> node, FileAccess access, Sharing sharing)
-        : node_(std::move(node)), access_(access), sharing_(sharing) {
+    OpenFile(FakeFileSystem& owner, std::shared_ptr<Node> node, FileAccess access, Sharing sharing)
+        : owner_(owner), node_(std::move(node)), access_(access), sharing_(sharing) {
         Count(1);
     }
     ~OpenFile() override { Count(-1); }
@@ -202,6 +210,7 @@ public:
         if (access_ == FileAccess::Read) return 0;
         std::vector<uint8_t>& bytes = node_->bytes;
         if (access_ == FileAccess::Append) position_ = bytes.size();
+        size = owner_.TakeWriteBudget(size);
         if (bytes.size() < position_ + size) bytes.resize(position_ + size);
         if (size) std::memcpy(bytes.data() + position_, data, size);
         position_ += size;
@@ -209,6 +218,7 @@ public:
     }
 
     uint64_t Size() override { return node_->bytes.size(); }
+    bool Flush() override { return true; }
 
 private:
     void Count(int step) {
@@ -218,6 +228,7 @@ private:
         if (sharing_ == Sharing::DenyAll) node_->denyAll += step;
     }
 
+    FakeFileSystem& owner_;
     std::shared_ptr<Node> node_;
     FileAccess access_;
     Sharing sharing_;
@@ -502,7 +513,7 @@ std::unique_ptr<File> FakeFileSystem::Open(const std::wstring& path, FileAccess 
     if (node->denyAll > 0) return nullptr;
     if ((writes && node->denyWriters > 0) || (denyWrite && node->writers > 0)) return nullptr;
     if (access == FileAccess::Write) node->bytes.clear();
-    return std::make_unique<OpenFile>(node, access, denyWrite ? Sharing::DenyWrite : Sharing::All);
+    return std::make_unique<OpenFile>(*this, node, access, denyWrite ? Sharing::DenyWrite : Sharing::All);
 }
 
 std::unique_ptr<File> FakeFileSystem::OpenDenyAll(const std::wstring& path, FileAccess access, uint32_t& error) {
@@ -519,7 +530,58 @@ std::unique_ptr<File> FakeFileSystem::OpenDenyAll(const std::wstring& path, File
         return nullptr;
     }
     if (access == FileAccess::Write) node->bytes.clear();
-    return std::make_unique<OpenFile>(node, access, Sharing::DenyAll);
+    return std::make_unique<OpenFile>(*this, node, access, Sharing::DenyAll);
+}
+
+size_t FakeFileSystem::TakeWriteBudget(size_t wanted) {
+    if (!writeBudget_) return wanted;
+    size_t granted = std::min(wanted, *writeBudget_);
+    *writeBudget_ -= granted;
+    return granted;
+}
+
+// The directory a path's last name lies in, and that name; null when there is no such directory.
+std::shared_ptr<FakeFileSystem::Node> FakeFileSystem::ParentOf(const std::wstring& path, std::wstring& name) {
+    PathParts parts;
+    if (!Resolve(path, currentDirectory_, parts) || parts.names.empty()) return nullptr;
+    name = parts.names.back();
+    parts.names.pop_back();
+    parts.trailingSeparator = false;
+    std::shared_ptr<Node> parent = Lookup(Join(parts));
+    return parent && parent->IsDirectory() ? parent : nullptr;
+}
+
+// A rename: the source node keeps its bytes and takes the target's place and the name as given.
+uint32_t FakeFileSystem::Replace(const std::wstring& source, const std::wstring& target) {
+    if (replaceError_) return replaceError_;
+    std::shared_ptr<Node> moving = Lookup(source);
+    if (!moving || !moving->parent) return kErrorFileNotFound;
+    if (moving->handles > 0) return kErrorSharingViolation;
+    std::wstring name;
+    std::shared_ptr<Node> parent = ParentOf(target, name);
+    if (!parent) return kErrorPathNotFound;
+    std::shared_ptr<Node> replaced = parent->Child(name);
+    if (replaced == moving) return 0;
+    if (replaced) {
+        if (replaced->IsDirectory() || (replaced->attributes & kAttributeReadOnly) || replaced->handles > 0)
+            return kErrorAccessDenied;
+        parent->Remove(replaced.get());
+    }
+    moving->parent->Remove(moving.get());
+    moving->name = name;
+    moving->shortName.clear();
+    parent->Insert(moving);
+    return 0;
+}
+
+uint32_t FakeFileSystem::Delete(const std::wstring& path) {
+    uint32_t error = 0;
+    std::shared_ptr<Node> node = FileToOpen(path, false, error);
+    if (!node) return error;
+    if (node->attributes & kAttributeReadOnly) return kErrorAccessDenied;
+    if (node->handles > 0) return kErrorSharingViolation;
+    node->parent->Remove(node.get());
+    return 0;
 }
 
 }  // namespace platform::fake

@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <map>
 #include <memory>
+#include <optional>
 #include <set>
 #include <string>
 #include <string_view>
@@ -33,6 +34,8 @@ public:
     int ShellVersion() override { return shellVersion_; }
     std::unique_ptr<File> Open(const std::wstring& path, FileAccess access, bool denyWrite) override;
     std::unique_ptr<File> OpenDenyAll(const std::wstring& path, FileAccess access, uint32_t& error) override;
+    uint32_t Replace(const std::wstring& source, const std::wstring& target) override;
+    uint32_t Delete(const std::wstring& path) override;
 
     // Setting the scene. Paths follow the same rules as above; missing parents are created.
     void AddDrive(wchar_t letter);
@@ -45,6 +48,11 @@ public:
     void ChangeDirectory(const std::wstring& path);
     const std::wstring& currentDirectory() const { return currentDirectory_; }
     void SetShellVersion(int version) { shellVersion_ = version; }
+
+    // Failures on demand. After this many more bytes every write stops short, as on a full disk.
+    void FailWritesAfter(size_t bytes) { writeBudget_ = bytes; }
+    // Every Replace fails with this system error code; 0 lets them work again.
+    void FailReplaces(uint32_t error) { replaceError_ = error; }
 
     // What tests look at.
     bool ReadFile(const std::wstring& path, std::vector<uint8_t>& bytes);
@@ -63,12 +71,17 @@ private:
     std::shared_ptr<Node> FileToOpen(const std::wstring& path, bool create, uint32_t& error);
     int CreateOneDirectory(const std::wstring& path);
     std::vector<FindData> Find(const std::wstring& pattern, FindStyle style, bool firstOnly);
+    std::shared_ptr<Node> ParentOf(const std::wstring& path, std::wstring& name);
+    // How many of the bytes wanted may still be written.
+    size_t TakeWriteBudget(size_t wanted);
 
     std::map<wchar_t, std::shared_ptr<Node>> drives_;  // by upper-case letter
     std::wstring currentDirectory_ = L"C:\\";
     int shellVersion_ = 1000;
     FindStyle lastFindStyle_ = FindStyle::Plain;
     int findCount_ = 0;
+    std::optional<size_t> writeBudget_;
+    uint32_t replaceError_ = 0;
 };
 
 }  // namespace platform::fake

@@ -26,6 +26,7 @@ public:
         long long length = _filelengthi64(descriptor_);
         return length < 0 ? 0 : static_cast<uint64_t>(length);
     }
+    bool Flush() override { return _commit(descriptor_) == 0; }
 
 private:
     // _read and _write take an unsigned int count; larger transfers go in pieces.
@@ -57,6 +58,7 @@ public:
         long long length = _filelengthi64(_fileno(stream_));
         return length < 0 ? 0 : static_cast<uint64_t>(length);
     }
+    bool Flush() override { return fflush(stream_) == 0 && _commit(_fileno(stream_)) == 0; }
 
 private:
     FILE* stream_;
@@ -203,6 +205,21 @@ std::unique_ptr<File> Win32FileSystem::OpenDenyAll(const std::wstring& path, Fil
     }
     error = 0;
     return std::make_unique<StreamFile>(stream);
+}
+
+uint32_t Win32FileSystem::Replace(const std::wstring& source, const std::wstring& target) {
+    // Windows refuses to replace a read-only file; Wine 8 replaces it. A read-only file is the
+    // user's word that it stays as it is, so it is refused here on both.
+    DWORD attributes = GetFileAttributesW(target.c_str());
+    if (attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_READONLY)) return ERROR_ACCESS_DENIED;
+    // A rename within one directory: the target is never missing or half there. Wine ignores
+    // MOVEFILE_WRITE_THROUGH, which is why the writer flushes the source first.
+    if (MoveFileExW(source.c_str(), target.c_str(), MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH)) return 0;
+    return GetLastError();
+}
+
+uint32_t Win32FileSystem::Delete(const std::wstring& path) {
+    return DeleteFileW(path.c_str()) ? 0 : GetLastError();
 }
 
 }  // namespace platform::win32

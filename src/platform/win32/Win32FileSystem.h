@@ -41,6 +41,8 @@ public:
     int ShellVersion() override;
     std::unique_ptr<File> Open(const std::wstring& path, FileAccess access, bool denyWrite) override;
     std::unique_ptr<File> OpenDenyAll(const std::wstring& path, FileAccess access, uint32_t& error) override;
+    uint32_t Replace(const std::wstring& source, const std::wstring& target) override;
+    uint32_t Delete(const std::wstring& path) override;
 };
 
 }  // namespace platform::win32

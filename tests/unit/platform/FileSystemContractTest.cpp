@@ -33,6 +33,7 @@ public:
     virtual std::wstring scratch() const = 0;
     // The path with its last name in 8.3 form; empty when the file system has none.
     virtual std::wstring ShortForm(const std::wstring& path) = 0;
+    virtual void MakeReadOnly(const std::wstring& path) = 0;
 };
 
 class FakeHarness : public FileSystemHarness {
@@ -47,6 +48,7 @@ public:
         files_.SetShortName(path, L"LONGDI~1");
         return path.substr(0, path.find_last_of(L'\\') + 1) + L"LONGDI~1";
     }
+    void MakeReadOnly(const std::wstring& path) override { files_.SetAttributes(path, platform::kAttributeReadOnly); }
 
 private:
     platform::fake::FakeFileSystem files_;
@@ -100,6 +102,7 @@ public:
         std::wstring shortName(shortPath, length);
         return path.substr(0, path.find_last_of(L'\\') + 1) + shortName.substr(shortName.find_last_of(L'\\') + 1);
     }
+    void MakeReadOnly(const std::wstring& path) override { SetFileAttributesW(path.c_str(), FILE_ATTRIBUTE_READONLY); }
 
 private:
     platform::win32::Win32FileSystem files_;
@@ -360,6 +363,90 @@ TEST_P(FileSystemContract, DenyAllShutsEveryoneElseOut) {
         error = 99;
         EXPECT_EQ(nullptr, files().OpenDenyAll(At(f.below), f.access, error));
         EXPECT_EQ(f.error, error) << testing::PrintToString(std::wstring(f.below));
+    }
+}
+
+// What stands at a path before a file is put there, and who holds it open meanwhile. Sharing is
+// checked per open handle, so a second handle of this process stands for another program's.
+enum class Standing { Nothing, File, ReadOnlyFile, Directory };
+enum class Holder { None, ReaderDenyingWriters, Writer, DenyAll };
+
+// The writer's last step: one rename that either puts the new file in place or leaves both as they
+// were.
+TEST_P(FileSystemContract, ReplaceTakesTheTargetsPlaceOrLeavesBoth) {
+    struct Case {
+        const char* label;
+        Standing target;
+        Holder holder;
+        uint32_t error;
+    };
+    const Case cases[] = {
+        {"an existing file", Standing::File, Holder::None, 0},
+        {"no file yet", Standing::Nothing, Holder::None, 0},
+        {"a read-only file", Standing::ReadOnlyFile, Holder::None, 5},  // ERROR_ACCESS_DENIED
+        {"a directory", Standing::Directory, Holder::None, 5},
+        {"a file a reader holds", Standing::File, Holder::ReaderDenyingWriters, 5},
+        {"a file a writer holds", Standing::File, Holder::Writer, 5},
+        {"a file held for itself alone", Standing::File, Holder::DenyAll, 5},
+    };
+    int number = 0;
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.label);
+        const std::wstring source = At(L"new" + std::to_wstring(++number) + L".tmp");
+        const std::wstring target = At(L"target" + std::to_wstring(number));
+        ASSERT_TRUE(WriteFile(source, "new"));
+        if (c.target == Standing::Directory) ASSERT_EQ(0, files().CreateDirectoryTree(target));
+        if (c.target == Standing::File || c.target == Standing::ReadOnlyFile) ASSERT_TRUE(WriteFile(target, "old"));
+        if (c.target == Standing::ReadOnlyFile) harness_->MakeReadOnly(target);
+        std::unique_ptr<platform::File> holder;
+        uint32_t ignored = 0;
+        if (c.holder == Holder::ReaderDenyingWriters) holder = files().Open(target, FileAccess::Read, true);
+        if (c.holder == Holder::Writer) holder = files().Open(target, FileAccess::Append, false);
+        if (c.holder == Holder::DenyAll) holder = files().OpenDenyAll(target, FileAccess::Read, ignored);
+        ASSERT_EQ(c.holder != Holder::None, holder != nullptr);
+
+        EXPECT_EQ(c.error, files().Replace(source, target));
+        holder.reset();
+        if (c.error == 0) {
+            EXPECT_EQ("new", ReadFile(target));
+            EXPECT_EQ(platform::kInvalidAttributes, files().GetAttributes(source)) << "the source is gone";
+        } else {
+            EXPECT_EQ("new", ReadFile(source)) << "the source stays";
+            if (c.target != Standing::Directory) EXPECT_EQ("old", ReadFile(target));
+        }
+    }
+    EXPECT_EQ(2u, files().Replace(At(L"missing.tmp"), At(L"target1"))) << "ERROR_FILE_NOT_FOUND";
+    EXPECT_EQ("new", ReadFile(At(L"target1")));
+    ASSERT_TRUE(WriteFile(At(L"open.tmp"), "x"));
+    auto open = files().Open(At(L"open.tmp"), FileAccess::Read, false);
+    EXPECT_EQ(32u, files().Replace(At(L"open.tmp"), At(L"target1"))) << "ERROR_SHARING_VIOLATION while open";
+}
+
+TEST_P(FileSystemContract, DeleteRemovesAFileThatIsFree) {
+    struct Case {
+        const char* label;
+        Standing standing;
+        Holder holder;
+        uint32_t error;
+    };
+    const Case cases[] = {
+        {"a file", Standing::File, Holder::None, 0},
+        {"nothing", Standing::Nothing, Holder::None, 2},                    // ERROR_FILE_NOT_FOUND
+        {"a read-only file", Standing::ReadOnlyFile, Holder::None, 5},      // ERROR_ACCESS_DENIED
+        {"a held file", Standing::File, Holder::ReaderDenyingWriters, 32},  // ERROR_SHARING_VIOLATION
+    };
+    int number = 0;
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.label);
+        const std::wstring path = At(L"doomed" + std::to_wstring(++number));
+        if (c.standing != Standing::Nothing) ASSERT_TRUE(WriteFile(path, "x"));
+        if (c.standing == Standing::ReadOnlyFile) harness_->MakeReadOnly(path);
+        std::unique_ptr<platform::File> holder;
+        if (c.holder != Holder::None) holder = files().Open(path, FileAccess::Read, true);
+        EXPECT_EQ(c.error, files().Delete(path));
+        holder.reset();
+        EXPECT_EQ(c.error == 0 || c.standing == Standing::Nothing,
+                  files().GetAttributes(path) == platform::kInvalidAttributes);
     }
 }
 
