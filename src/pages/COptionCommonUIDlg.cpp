@@ -1,5 +1,7 @@
 #include "pages/COptionCommonUIDlg.h"
 
+#include <vector>
+
 #include "app/AppServices.h"
 #include "pages/DropCommandChoices.h"
 #include "resources/resource.h"
@@ -12,14 +14,23 @@ namespace {
 
 constexpr uint16_t kCommonOperationChanged = 49020;
 
-// Fills the combo and selects the choice of the stored command.
-void ShowChoices(const ui::ComboBox& combo, const DropChoices& choices) {
-    combo.ResetContent();
-    for (const DropChoice& choice : choices.items) {
+// Puts the commands behind what the template and its translation put first, whose items get what
+// they stand for as their data.
+void AddCommands(const ui::ComboBox& combo, const std::vector<DropChoice>& commands) {
+    const int shellItems = combo.GetCount();
+    for (int index = 0; index < shellItems; ++index) combo.SetItemData(index, ShellDropCommand(index));
+    for (const DropChoice& choice : commands) {
         const int index = combo.AddString(choice.text);
         if (index >= 0) combo.SetItemData(index, choice.command);
     }
-    combo.SetCurSel(choices.selected);
+}
+
+void ShowChoice(const ui::ComboBox& combo, int32_t stored) {
+    std::vector<int32_t> itemCommands;
+    for (int index = 0, count = combo.GetCount(); index < count; ++index) {
+        itemCommands.push_back(static_cast<int32_t>(combo.GetItemData(index)));
+    }
+    combo.SetCurSel(SelectDropChoice(itemCommands, stored));
 }
 
 // The command of the selected choice; the stored value stays when nothing is selected.
@@ -34,6 +45,10 @@ COptionCommonUIDlg::COptionCommonUIDlg(AppServices& app) : OptionPage(IDD_OPTION
 
 void COptionCommonUIDlg::LoadGroups() {
     LoadGroup(app().store, AppGroup::CommonOperation);
+    // Once, after the translation of the template's items: the data exchange only selects.
+    const std::vector<DropChoice> commands = DropCommands(app().commands);
+    AddCommands(ui::ComboBox(Item(IDC_COMMON_UI_DROP_COPY)), commands);
+    AddCommands(ui::ComboBox(Item(IDC_COMMON_UI_DROP_MOVE)), commands);
 }
 
 void COptionCommonUIDlg::DoDataExchange(ui::DataExchange& exchange) {
@@ -49,8 +64,8 @@ void COptionCommonUIDlg::DoDataExchange(ui::DataExchange& exchange) {
         TakeChoice(move, store.DropExCommand1);
         return;
     }
-    ShowChoices(copy, MakeDropChoices(DropKind::Copy, app().commands, store.DropExCommand0));
-    ShowChoices(move, MakeDropChoices(DropKind::Move, app().commands, store.DropExCommand1));
+    ShowChoice(copy, store.DropExCommand0);
+    ShowChoice(move, store.DropExCommand1);
     EnableDropCommands();
 }
 

@@ -1,29 +1,35 @@
 #include "pages/DropCommandChoices.h"
 
+#include <algorithm>
+
 #include "definitions/CommandCatalog.h"
 
 namespace {
 
-// The commands a drop may run: the last group of external commands.
 constexpr uint16_t kFirstDropCommand = 42001;
 constexpr uint16_t kLastDropCommand = 43000;
+constexpr int32_t kShellWaiting = 1;
+
+int IndexOf(const std::vector<int32_t>& itemCommands, int32_t command) {
+    auto found = std::find(itemCommands.begin(), itemCommands.end(), command);
+    return found == itemCommands.end() ? -1 : static_cast<int>(found - itemCommands.begin());
+}
 
 }  // namespace
 
-DropChoices MakeDropChoices(DropKind kind, const CommandCatalog& commands, int32_t stored) {
-    DropChoices choices;
-    if (kind == DropKind::Copy) {
-        choices.items = {{L"内部コマンド:シェルのファイルコピー(バックグラウンド)", 0},
-                         {L"内部コマンド:シェルのファイルコピー(同期モード)", 1}};
-    } else {
-        choices.items = {{L"内部コマンド:シェルのファイル移動(バックグラウンド)", 0},
-                         {L"内部コマンド:シェルのファイル移動(同期モード)", 1}};
-    }
-    choices.selected = stored == 0 ? 0 : 1;
+int32_t ShellDropCommand(int index) {
+    return index == 0 ? 0 : kShellWaiting;
+}
+
+std::vector<DropChoice> DropCommands(const CommandCatalog& commands) {
+    std::vector<DropChoice> choices;
     for (auto& [id, name] : commands.ListedCommands(kFirstDropCommand, kLastDropCommand)) {
-        if (name.empty()) continue;
-        if (stored == id) choices.selected = static_cast<int>(choices.items.size());
-        choices.items.push_back({name, id});
+        if (!name.empty()) choices.push_back({name, id});
     }
     return choices;
+}
+
+int SelectDropChoice(const std::vector<int32_t>& itemCommands, int32_t stored) {
+    const int index = IndexOf(itemCommands, stored);
+    return index >= 0 ? index : IndexOf(itemCommands, kShellWaiting);
 }

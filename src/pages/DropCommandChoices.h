@@ -1,27 +1,27 @@
-// What the two drop combos of the common operation page offer: the shell's own copy or move, in the
-// background or waiting, then every external command the user's lists name, and which one stands
-// for the stored value.
+// What the two drop combos of the common operation page offer. The template puts the shell's own
+// copy or move first, in the background and then waiting, so that they are translated with the
+// dialog; behind them come the external commands the user's lists name.
 #pragma once
 
 #include <cstdint>
 #include <string>
-#include <utility>
 #include <vector>
 
 class CommandCatalog;
-
-enum class DropKind { Copy, Move };
 
 struct DropChoice {
     std::wstring text;
     int32_t command;  // what is stored when the choice is taken
 };
 
-struct DropChoices {
-    std::vector<DropChoice> items;
-    int selected = 0;
-};
+// What the template's item at index stands for: 0 the shell in the background, 1 (any later item)
+// the shell waiting.
+int32_t ShellDropCommand(int index);
 
-// The stored 0 is the first shell item; any other value the second, unless a listed command has
-// that number: a command that no longer exists falls back to the second shell item.
-DropChoices MakeDropChoices(DropKind kind, const CommandCatalog& commands, int32_t stored);
+// The commands a drop may run, in list order: the last group of external commands, named ones only.
+std::vector<DropChoice> DropCommands(const CommandCatalog& commands);
+
+// The item that shows the stored value, given what each item of a combo stands for: the item of
+// that value, or the waiting shell item for a value no item has (a command that no longer exists);
+// -1 when neither is there.
+int SelectDropChoice(const std::vector<int32_t>& itemCommands, int32_t stored);

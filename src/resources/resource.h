@@ -10,6 +10,10 @@
 // F1 in the option dialog, as the framework's help command.
 #define ID_HELP 57670
 
+// The resource type of a template's initial data (strings put into its combo boxes before the
+// dialog is set up); the windows headers of the cross compiler do not name it.
+#define RT_DIALOG_INIT 240
+
 // The option dialog.
 #define IDD_OPTION 159
 #define IDC_OPTION_APPLY 1301

@@ -5,6 +5,7 @@
 
 #include "platform/Platform.h"
 #include "ui/DataExchange.h"
+#include "ui/DialogInitData.h"
 
 namespace ui {
 
@@ -147,6 +148,7 @@ bool Dialog::UpdateData(bool saveAndValidate) {
 }
 
 bool Dialog::OnInitDialog() {
+    RunDialogInitData(window_, templateId_);
     UpdateData(false);
     return true;
 }

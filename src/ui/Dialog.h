@@ -46,7 +46,8 @@ protected:
     // is the answer the sender gets.
     virtual std::optional<LRESULT> OnMessage(UINT message, WPARAM wParam, LPARAM lParam);
 
-    // Fills the controls by UpdateData(false). True lets the system put the focus on the first control.
+    // Puts the template's initial data into its lists, then fills the controls by UpdateData(false). True lets the
+    // system put the focus on the first control.
     virtual bool OnInitDialog();
     // IDOK: take the controls' values and, if all were accepted, end with IDOK.
     virtual void OnOK();

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "unit/Utf16.h"
+#include "ui/ComboBox.h"
 #include "win32/support/OptionDialogFixture.h"
 
 namespace {
@@ -55,6 +56,71 @@ protected:
     void Click(HWND page, int id) const { SendMessageW(GetDlgItem(page, id), BM_CLICK, 0, 0); }
     void Apply(COptionDlg& dialog) const { SendMessageW(dialog.hwnd(), WM_COMMAND, MAKEWPARAM(kApply, BN_CLICKED), 0); }
 };
+
+// The words of the dialog and its pages that translators and the manual go by, as the templates
+// show them. Page 0 is the dialog itself; a control id of -1 is an unnamed static somewhere on the page.
+TEST_F(OptionPagesTest, DialogAndPagesShowTheirOwnWords) {
+    struct Case {
+        int page;
+        int control;
+        const wchar_t* text;
+    };
+    const Case cases[] = {
+        {0, 1301, L"適用"},
+        {0, IDOK, L"OK"},
+        {0, IDCANCEL, L"Cancel"},
+        {0, -1, L"F1:Help"},
+        {0, 1406, L"tree group reserve"},
+        {0, 1440, L"Enter/ダブルクリック/左クリック/右クリック/中クリック/進むボタン/戻るボタン"},
+        {0, 1441, L"(組み合わせなし)/+Ctrl/+Shift/+Ctrl+Shift"},
+        {20, 1251, L"圧縮フォルダー/ネットワークプレースを使う"},
+        {20, 1252, L"バーの自動非表示アニメーションを無効にする"},
+        {20, 1255, L"起動時に外部コマンドをキャッシュして呼び出しを速くする(本体の起動は遅くなります)"},
+        {20, 1254, L"アクティブになった時にIMEをOFFにする"},
+        {20, 1256, L"ドラッグヘルパーを表示する"},
+        {20, -1, L"アルゴリズム切り替え閾値"},
+        {20, -1,
+         L"ベンチマークテストですので、長い時間がかかります。(最大1分程度)"
+         L"\nSpeedStepやTurboBoostなどが有効になっていると大き"
+         L"く揺らぎます。\n適当なところで自動チューニングは妥協してください。"},
+        {24, 1251, L"ファイルのドロップを許可する"},
+        {24, 1252, L"ドラッグ開始を許可する"},
+        {24, 1258, L"埋込み先編集のリネームを許可する"},
+        {24, 1259, L"テキストや画像が貼り付けられたときは、ファイルを作成する"},
+        {30, 1251, L"ネットワークにアクセスする前に、ネットワーク先が有効であるか確認する"},
+        {30, -1, L"タイムアウト値:"},
+        {30, -1, L"リトライ回数:"},
+        {34, -1, L"起動時にバージョンチェックを行う間隔"},
+        {34, 1253, L"β版もチェック対象とする"},
+        {34, 1301, L"Reset"},
+        {37, 1201, L"Qor - [Folder]"},
+        {37, 1202, L"Folder"},
+        {37, 1203, L"Folder - Qor"},
+        {5, 1201, L"プロファイルで管理されるアプリケーションデータ格納フォルダー"},
+        {5, 1202, L"アプリケーションフォルダー"},
+        {5, 1203, L"任意のフォルダー"},
+        {5, 1251, L"複数起動しない"},
+        {5, 1252, L"タスクトレイに常駐する"},
+        {5, -1, L"同時実行するスクリプトの数"},
+        {39, 1402, L"Event/Message"},
+    };
+    SetStart(1000);
+    COptionDlg dialog(app_);
+    ASSERT_TRUE(dialog.Create(nullptr));
+    for (const Case& c : cases) {
+        SCOPED_TRACE(testing::Message() << "page " << c.page << ", control " << c.control);
+        if (c.page != 0) Select(dialog, c.page);
+        HWND window = c.page == 0 ? dialog.hwnd() : dialog.Page(c.page)->hwnd();
+        ASSERT_NE(nullptr, window);
+        std::wstring shown = L"<no such control>";
+        for (HWND child = GetWindow(window, GW_CHILD); child; child = GetWindow(child, GW_HWNDNEXT)) {
+            if (GetDlgCtrlID(child) != c.control || (c.control == -1 && TextOf(child) != c.text)) continue;
+            shown = TextOf(child);
+            break;
+        }
+        EXPECT_EQ(c.text, shown);
+    }
+}
 
 // A field out of range refuses Apply with the framework's words: nothing is stored and the host is
 // told nothing, although the value showed as it was stored.
@@ -198,20 +264,46 @@ int ComboSelection(HWND page, int id) {
     return static_cast<int>(SendMessageW(GetDlgItem(page, id), CB_GETCURSEL, 0, 0));
 }
 
-// The drop combos offer the user's external commands; a stored command that is gone shows, and is
-// stored, as the waiting shell operation. Without drops the combos are off.
+std::vector<std::wstring> ComboItems(HWND page, int id) {
+    const ui::ComboBox combo(GetDlgItem(page, id));
+    std::vector<std::wstring> items;
+    for (int index = 0; index < combo.GetCount(); ++index) items.push_back(combo.GetLBText(index));
+    return items;
+}
+
+constexpr const wchar_t* kCopyInBackground = L"内部コマンド:シェルのファイルコピー(バックグラウンド)";
+constexpr const wchar_t* kCopyWaiting = L"内部コマンド:シェルのファイルコピー(同期モード)";
+constexpr const wchar_t* kMoveInBackground = L"内部コマンド:シェルのファイル移動(バックグラウンド)";
+constexpr const wchar_t* kMoveWaiting = L"内部コマンド:シェルのファイル移動(同期モード)";
+constexpr const wchar_t* kCommonOperationText = L"C:\\Qor\\command\\Option\\.en-US\\Option\\196.txt";
+
+void LoadDropCommands(platform::fake::FakePlatform& fake, AppServices& app) {
+    fake.files().AddFile(L"C:\\User\\ExternalUserCommand.txt",
+                         Utf16Bytes(L"42001\t\t-\tzip.exe\tPack\r\n42600\t\t-\tmail.exe\tMail\r\n", true));
+    app.commands.LoadCommandLists(L"C:\\User\\");
+}
+
+// The drop combos offer the shell's operations of the template, then the user's external commands;
+// taking and showing the values again changes neither list. A stored command that is gone shows, and
+// is stored, as the waiting shell operation. Without drops the combos are off.
 TEST_F(OptionPagesTest, CommonOperationOffersTheUsersCommandsForDrops) {
-    fake_.files().AddFile(L"C:\\User\\ExternalUserCommand.txt",
-                          Utf16Bytes(L"42001\t\t-\tzip.exe\tPack\r\n42600\t\t-\tmail.exe\tMail\r\n", true));
-    app_.commands.LoadCommandLists(L"C:\\User\\");
+    LoadDropCommands(fake_, app_);
     DirectWriteInt(kAppInfo, L"DropExCommand0", 42600);
     DirectWriteInt(kAppInfo, L"DropExCommand1", 42999);
     COptionDlg dialog(app_);
     HWND page = Open(dialog, 24);
     ASSERT_NE(nullptr, page);
-    EXPECT_EQ(4, SendMessageW(GetDlgItem(page, 1151), CB_GETCOUNT, 0, 0));
-    EXPECT_EQ(3, ComboSelection(page, 1151));
-    EXPECT_EQ(1, ComboSelection(page, 1152));
+    const std::vector<std::wstring> copy = {kCopyInBackground, kCopyWaiting, L"Pack", L"Mail"};
+    const std::vector<std::wstring> move = {kMoveInBackground, kMoveWaiting, L"Pack", L"Mail"};
+    for (int exchange = 0; exchange < 3; ++exchange) {
+        SCOPED_TRACE(exchange);
+        EXPECT_EQ(copy, ComboItems(page, 1151));
+        EXPECT_EQ(move, ComboItems(page, 1152));
+        EXPECT_EQ(3, ComboSelection(page, 1151));
+        EXPECT_EQ(1, ComboSelection(page, 1152));
+        EXPECT_TRUE(dialog.Page(24)->UpdateData(true));
+        EXPECT_TRUE(dialog.Page(24)->UpdateData(false));
+    }
     EXPECT_TRUE(Enabled(page, 1151));
 
     Click(page, 1251);
@@ -223,6 +315,52 @@ TEST_F(OptionPagesTest, CommonOperationOffersTheUsersCommandsForDrops) {
     EXPECT_EQ(42001, DirectReadInt(kAppInfo, L"DropExCommand0", -1));
     EXPECT_EQ(1, DirectReadInt(kAppInfo, L"DropExCommand1", -1));
     EXPECT_EQ(std::vector<uint16_t>{49020}, Codes());
+}
+
+// In another language the shell's operations are the dialog text file's, and still stand for the
+// shell; the user's commands come behind them and never go into the file written for translators.
+TEST_F(OptionPagesTest, CommonOperationTranslatesOnlyTheShellOperations) {
+    struct Case {
+        const char* what;
+        const wchar_t* file;  // null: none yet, so one is written
+        std::vector<std::wstring> copy;
+    };
+    const Case cases[] = {
+        {"no file yet", nullptr, {kCopyInBackground, kCopyWaiting, L"Pack", L"Mail"}},
+        {"a file replaces the copy items",
+         L"Common\r\n1151\tComboBoxStart\r\n1151\tComboBox\tShell copy\r\n1151\tComboBox\tShell copy, waiting\r\n",
+         {L"Shell copy", L"Shell copy, waiting", L"Pack", L"Mail"}},
+    };
+    DirectWriteString(kSettings, L"NLS", L".en-US");
+    LoadDropCommands(fake_, app_);
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.what);
+        if (c.file) fake_.files().AddFile(kCommonOperationText, Utf16Bytes(c.file, true));
+        DirectWriteInt(kAppInfo, L"DropExCommand0", 1);
+        COptionDlg dialog(app_);
+        HWND page = Open(dialog, 24);
+        ASSERT_NE(nullptr, page);
+        EXPECT_EQ(c.copy, ComboItems(page, 1151));
+        EXPECT_EQ((std::vector<std::wstring>{kMoveInBackground, kMoveWaiting, L"Pack", L"Mail"}),
+                  ComboItems(page, 1152));
+        EXPECT_EQ(1, ComboSelection(page, 1151));
+        SendMessageW(GetDlgItem(page, 1151), CB_SETCURSEL, 0, 0);
+        Apply(dialog);
+        EXPECT_EQ(0, DirectReadInt(kAppInfo, L"DropExCommand0", -1));
+        if (c.file) continue;
+        const std::string text = fake_.files().FileText(kCommonOperationText);
+        for (const std::wstring& combo : {std::wstring(L"1151\tComboBoxStart\r\n1151\tComboBox\t") + kCopyInBackground +
+                                              L"\r\n1151\tComboBox\t" + kCopyWaiting + L"\r\n",
+                                          std::wstring(L"1152\tComboBoxStart\r\n1152\tComboBox\t") + kMoveInBackground +
+                                              L"\r\n1152\tComboBox\t" + kMoveWaiting + L"\r\n"}) {
+            const std::vector<uint8_t> written = Utf16Bytes(combo);
+            EXPECT_NE(std::string::npos, text.find(std::string(written.begin(), written.end())));
+        }
+        for (const wchar_t* name : {L"Pack", L"Mail"}) {
+            const std::vector<uint8_t> bytes = Utf16Bytes(name);
+            EXPECT_EQ(std::string::npos, text.find(std::string(bytes.begin(), bytes.end()))) << "a user's command";
+        }
+    }
 }
 
 // The chosen folder is typed or browsed only in its own mode; the open button shows the user
