@@ -63,18 +63,13 @@ TEST_F(COptionDlgTest, OpensOnTheStartItemAndCreatesOnlyWhatItShows) {
             std::wstring text = TextOf(dialog.Item(c.groupText));
             EXPECT_FALSE(text.empty());
             EXPECT_EQ(text, TextOf(GetDlgItem(shown, IDC_OPTION_NONE_TEXT)));
+            if (!c.start) {
+                EXPECT_EQ(0, text.rfind(L"画面の色、フォント、スキンなどを設定を行います。", 0));
+                EXPECT_EQ(kDefaultGroupId, dialog.StartValue());
+            }
         }
         EXPECT_EQ(fake_.windows().MainWindow(), reinterpret_cast<platform::WindowRef>(dialog.hwnd()));
     }
-}
-
-TEST_F(COptionDlgTest, TheAppearanceTextIsTheOneOfTheDefaultGroup) {
-    SetStart(std::nullopt);
-    COptionDlg dialog(app_);
-    ASSERT_TRUE(dialog.Create(nullptr));
-    EXPECT_EQ(0, TextOf(GetDlgItem(dialog.CurrentPage()->hwnd(), IDC_OPTION_NONE_TEXT))
-                     .rfind(L"画面の色、フォント、スキンなどを設定を行います。", 0));
-    EXPECT_EQ(kDefaultGroupId, dialog.StartValue());
 }
 
 TEST_F(COptionDlgTest, ReturningToAPageFindsItAsTheUserLeftIt) {

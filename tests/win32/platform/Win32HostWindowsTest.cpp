@@ -44,12 +44,7 @@ protected:
     void SetUp() override {
         if (FindWindowW(platform::win32::kHostClassName, nullptr))
             GTEST_SKIP() << "another host window runs on this desktop";
-        WNDCLASSEXW wc{};
-        wc.cbSize = sizeof(wc);
-        wc.lpfnWndProc = HostProc;
-        wc.hInstance = GetModuleHandleW(nullptr);
-        wc.lpszClassName = platform::win32::kHostClassName;
-        RegisterClassExW(&wc);
+        testing_support::RegisterWindowClass(platform::win32::kHostClassName, HostProc);
         for (HWND& host : hosts_)
             host = CreateWindowExW(0, platform::win32::kHostClassName, L"host", WS_POPUP, 0, 0, 10, 10, nullptr,
                                    nullptr, GetModuleHandleW(nullptr), nullptr);

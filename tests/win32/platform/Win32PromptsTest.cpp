@@ -17,44 +17,53 @@ namespace {
 
 using platform::FolderChoice;
 
-struct Search {
-    DWORD thread;
-    HWND found = nullptr;
-};
-
-// The browser the thread shows: a dialog holding a tree.
-HWND FindBrowser(DWORD thread) {
-    for (int tries = 0; tries < 200; ++tries) {
-        Search search{thread};
+// The first visible window of the thread that fits, once it shows.
+HWND ShownWindow(DWORD thread, bool (*fits)(HWND)) {
+    struct Search {
+        bool (*fits)(HWND);
+        HWND found = nullptr;
+    } search{fits};
+    for (int tries = 0; tries < 200 && !search.found; ++tries) {
         EnumThreadWindows(
             thread,
             [](HWND window, LPARAM data) -> BOOL {
-                if (!IsWindowVisible(window) || !FindWindowExW(window, nullptr, WC_TREEVIEWW, nullptr)) return TRUE;
-                reinterpret_cast<Search*>(data)->found = window;
+                auto& search = *reinterpret_cast<Search*>(data);
+                if (!IsWindowVisible(window) || !search.fits(window)) return TRUE;
+                search.found = window;
                 return FALSE;
             },
             reinterpret_cast<LPARAM>(&search));
-        if (search.found) return search.found;
-        Sleep(50);
+        if (!search.found) Sleep(50);
     }
-    return nullptr;
+    return search.found;
 }
 
-// The first visible window of the thread, once it shows.
-HWND ShownWindow(DWORD thread) {
-    HWND shown = nullptr;
-    for (int tries = 0; tries < 200 && !shown; ++tries) {
-        EnumThreadWindows(
-            thread,
-            [](HWND window, LPARAM data) -> BOOL {
-                if (!IsWindowVisible(window)) return TRUE;
-                *reinterpret_cast<HWND*>(data) = window;
-                return FALSE;
-            },
-            reinterpret_cast<LPARAM>(&shown));
-        if (!shown) Sleep(50);
-    }
-    return shown;
+bool AnyWindow(HWND) {
+    return true;
+}
+
+// The folder browser: a dialog holding a tree.
+bool HoldsATree(HWND window) {
+    return FindWindowExW(window, nullptr, WC_TREEVIEWW, nullptr) != nullptr;
+}
+
+// Asks on a thread of its own with COM, as the program does, lets work act on the window the question
+// shows, and gives the answer.
+template <typename Ask>
+auto OnItsOwnThread(Ask ask, const std::function<void(HWND)>& work, bool (*fits)(HWND) = AnyWindow) {
+    std::promise<DWORD> thread;
+    auto answer = std::async(std::launch::async, [&] {
+        CoInitialize(nullptr);
+        thread.set_value(GetCurrentThreadId());
+        platform::win32::Win32Prompts prompts;
+        auto result = ask(prompts);
+        CoUninitialize();
+        return result;
+    });
+    HWND window = ShownWindow(thread.get_future().get(), fits);
+    EXPECT_NE(nullptr, window);
+    if (window) work(window);
+    return answer.get();
 }
 
 std::wstring SelectedName(HWND browser) {
@@ -79,21 +88,9 @@ bool HasText(HWND dialog, const std::wstring& wanted) {
     return false;
 }
 
-// Opens the browser on a thread with COM, lets work act on it, and gives what the browser returned.
 FolderChoice Browse(const std::wstring& start, const std::function<void(HWND)>& work) {
-    std::promise<DWORD> thread;
-    auto choice = std::async(std::launch::async, [&] {
-        CoInitialize(nullptr);
-        thread.set_value(GetCurrentThreadId());
-        platform::win32::Win32Prompts prompts;
-        FolderChoice result = prompts.BrowseForFolder(L"Where to?", start);
-        CoUninitialize();
-        return result;
-    });
-    HWND browser = FindBrowser(thread.get_future().get());
-    EXPECT_NE(nullptr, browser);
-    if (browser) work(browser);
-    return choice.get();
+    return OnItsOwnThread([&](platform::Prompts& prompts) { return prompts.BrowseForFolder(L"Where to?", start); },
+                          work, HoldsATree);
 }
 
 TEST(Win32Prompts, FolderBrowser) {
@@ -139,16 +136,11 @@ TEST(Win32Prompts, ChoiceOfAlternatives) {
     };
     for (const Case& c : {Case{"the second link", 202, 1}, Case{"Cancel", IDCANCEL, -1}}) {
         SCOPED_TRACE(c.what);
-        std::promise<DWORD> thread;
-        auto choice = std::async(std::launch::async, [&] {
-            thread.set_value(GetCurrentThreadId());
-            platform::win32::Win32Prompts prompts;
+        auto choose = [](platform::Prompts& prompts) {
             return prompts.ChooseOne({L"Please select an application.", L"Report.txt", {L"one.exe", L"two.exe"}});
-        });
-        HWND dialog = ShownWindow(thread.get_future().get());
-        ASSERT_NE(nullptr, dialog);
-        PostMessageW(dialog, WM_COMMAND, c.pressed, 0);
-        EXPECT_EQ(c.chosen, choice.get());
+        };
+        EXPECT_EQ(c.chosen,
+                  OnItsOwnThread(choose, [&](HWND dialog) { PostMessageW(dialog, WM_COMMAND, c.pressed, 0); }));
     }
 }
 
@@ -163,22 +155,16 @@ TEST(Win32Prompts, MessageBoxIcons) {
     for (const Case& c : {Case{MB_OK, IDI_EXCLAMATION, IDOK}, Case{MB_YESNO, IDI_QUESTION, IDNO},
                           Case{MB_OK | MB_ICONINFORMATION, IDI_INFORMATION, IDOK}}) {
         SCOPED_TRACE(c.style);
-        std::promise<DWORD> thread;
-        auto answer = std::async(std::launch::async, [&] {
-            thread.set_value(GetCurrentThreadId());
-            platform::win32::Win32Prompts prompts;
-            return prompts.ShowMessage(L"Text of the box", c.style);
-        });
-        HWND box = ShownWindow(thread.get_future().get());
-        ASSERT_NE(nullptr, box);
         HICON shown = nullptr;
-        for (HWND child = FindWindowExW(box, nullptr, L"Static", nullptr); child && !shown;
-             child = FindWindowExW(box, child, L"Static", nullptr)) {
-            shown = reinterpret_cast<HICON>(SendMessageW(child, STM_GETICON, 0, 0));
-        }
+        auto show = [&](platform::Prompts& prompts) { return prompts.ShowMessage(L"Text of the box", c.style); };
+        int answer = OnItsOwnThread(show, [&](HWND box) {
+            for (HWND child = FindWindowExW(box, nullptr, L"Static", nullptr); child && !shown;
+                 child = FindWindowExW(box, child, L"Static", nullptr))
+                shown = reinterpret_cast<HICON>(SendMessageW(child, STM_GETICON, 0, 0));
+            PostMessageW(box, WM_COMMAND, c.answer, 0);
+        });
         EXPECT_EQ(LoadIconW(nullptr, c.icon), shown);
-        PostMessageW(box, WM_COMMAND, c.answer, 0);
-        EXPECT_EQ(static_cast<int>(c.answer), answer.get());
+        EXPECT_EQ(static_cast<int>(c.answer), answer);
     }
 }
 

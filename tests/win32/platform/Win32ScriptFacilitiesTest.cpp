@@ -34,10 +34,6 @@ TEST(Win32Processes, StartThreadRunsTheWorkOnAThreadOfItsOwn) {
     CloseHandle(done);
 }
 
-}  // namespace
-
-namespace {
-
 // Paths of the shell's name space: "My Computer" is a folder; a file's path is no name-space path.
 TEST(Win32FileSystem, ShellFoldersOfTheNameSpace) {
     CoInitialize(nullptr);

@@ -72,36 +72,13 @@ long long InterestingInteger(Generator& g) {
 }
 
 double InterestingDouble(Generator& g) {
-    static const double fixed[] = {0.0,
-                                   -0.0,
-                                   0.125,
-                                   0.375,
-                                   2.5,
-                                   1.5,
-                                   0.5,
-                                   -2.5,
-                                   1e30,
-                                   1e22,
-                                   1e23,
-                                   5e-324,
-                                   2.2250738585072014e-308,
-                                   1.7976931348623157e308,
-                                   0.1,
-                                   0.35,
-                                   2.675,
-                                   1.005,
-                                   123456789.0,
-                                   1e-5,
-                                   1e-4,
-                                   999999.5,
-                                   9.9999995,
-                                   0.00001234567,
-                                   1e15,
-                                   1e16,
-                                   1e17,
-                                   3.0,
-                                   1.96875,
-                                   1.03125};
+    // Ties, values just beside ties, the ends of the range and the switch points of %g.
+    // clang-format off
+    static const double fixed[] = {
+        0.0, -0.0, 0.125, 0.375, 2.5, 1.5, 0.5, -2.5, 1e30, 1e22, 1e23, 5e-324, 2.2250738585072014e-308,
+        1.7976931348623157e308, 0.1, 0.35, 2.675, 1.005, 123456789.0, 1e-5, 1e-4, 999999.5, 9.9999995,
+        0.00001234567, 1e15, 1e16, 1e17, 3.0, 1.96875, 1.03125};
+    // clang-format on
     // Only the two quiet NaNs arithmetic makes: the reference names every negative NaN "-nan(ind)"
     // and every positive one "nan", where the documented output tells payloads and signalling
     // NaNs apart ("-nan", "nan(snan)"), as we do.
@@ -218,24 +195,18 @@ TEST(FormatDifferential, CompositeFormatsMatch) {
         long long a = InterestingInteger(g), b = InterestingInteger(g);
         double x = InterestingDouble(g);
         const wchar_t* s = InterestingText(g);
-        struct Case {
-            const wchar_t* format;
-            std::wstring expected, found;
-        } cases[] = {
-            {L"%s=%d", ReferenceFormat(L"%s=%d", s, a), crt::Format(L"%s=%d", s, a)},
-            {L"%lld\t%08X|%.2f", ReferenceFormat(L"%lld\t%08X|%.2f", a, b, x),
-             crt::Format(L"%lld\t%08X|%.2f", a, b, x)},
-            {L"[%-10s][%10.3e][%%][%I64u]", ReferenceFormat(L"[%-10s][%10.3e][%%][%I64u]", s, x, a),
-             crt::Format(L"[%-10s][%10.3e][%%][%I64u]", s, x, a)},
-            {L"%f %g %lf", ReferenceFormat(L"%f %g %lf", x, x, x), crt::Format(L"%f %g %lf", x, x, x)},
-            {L"%c%c%d", ReferenceFormat(L"%c%c%d", 0x41 + (a & 7), 0x3042, b),
-             crt::Format(L"%c%c%d", 0x41 + (a & 7), 0x3042, b)},
-            {L"%p", ReferenceFormat(L"%p", a), crt::Format(L"%p", a)},
+        auto check = [&](const wchar_t* format, auto... args) {
+            std::wstring expected = ReferenceFormat(format, args...), found = crt::Format(format, args...);
+            if (expected != found)
+                mismatches.Add(differential::Narrow(format) + " expected \"" + differential::Narrow(expected) +
+                               "\" got \"" + differential::Narrow(found) + "\"");
         };
-        for (const Case& c : cases)
-            if (c.expected != c.found)
-                mismatches.Add(differential::Narrow(c.format) + " expected \"" + differential::Narrow(c.expected) +
-                               "\" got \"" + differential::Narrow(c.found) + "\"");
+        check(L"%s=%d", s, a);
+        check(L"%lld\t%08X|%.2f", a, b, x);
+        check(L"[%-10s][%10.3e][%%][%I64u]", s, x, a);
+        check(L"%f %g %lf", x, x, x);
+        check(L"%c%c%d", 0x41 + (a & 7), 0x3042, b);
+        check(L"%p", a);
     }
     EXPECT_EQ(0u, mismatches.count()) << mismatches.Report();
 }

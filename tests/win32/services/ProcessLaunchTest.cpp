@@ -92,14 +92,9 @@ LRESULT CALLBACK DropWindowProc(HWND hwnd, UINT msg, WPARAM wp, LPARAM lp) {
 
 TEST(DropFilesOnWindows, ThePostedBlockReadsBackAsTheFiles) {
     testing_support::RealHostPlatform platform;
-    WNDCLASSEXW wc{};
-    wc.cbSize = sizeof(wc);
-    wc.lpfnWndProc = DropWindowProc;
-    wc.hInstance = GetModuleHandleW(nullptr);
-    wc.lpszClassName = L"OptionTests.DropHere";
-    RegisterClassExW(&wc);
-    HWND window =
-        CreateWindowExW(0, wc.lpszClassName, L"", WS_POPUP, 0, 0, 10, 10, nullptr, nullptr, wc.hInstance, nullptr);
+    testing_support::RegisterWindowClass(L"OptionTests.DropHere", DropWindowProc);
+    HWND window = CreateWindowExW(0, L"OptionTests.DropHere", L"", WS_POPUP, 0, 0, 10, 10, nullptr, nullptr,
+                                  GetModuleHandleW(nullptr), nullptr);
     ASSERT_NE(nullptr, window);
     droppedHere.clear();
     platform::Current().processes.PostDropFiles(reinterpret_cast<platform::WindowRef>(window),
@@ -125,43 +120,25 @@ TEST_F(LaunchTest, ShellLaunchStartsTheProgramInItsOwnDirectory) {
     EXPECT_EQ(Utf8(L"args --log \"" + log + L"\""), WaitForLine(log, "args"));
 }
 
-// A handle to the waiting program, taken while the question is on the screen.
-class WatchingPrompts : public platform::Prompts {
+// The fake's prompts that also take a handle to the waiting program while the question is shown.
+class WatchingPrompts : public platform::fake::FakePrompts {
 public:
-    explicit WatchingPrompts(int answer) : answer_(answer) {}
     ~WatchingPrompts() override {
-        if (process_) CloseHandle(process_);
+        if (process) CloseHandle(process);
     }
-    int ShowMessage(const std::wstring& text, unsigned style) override {
-        shown.push_back({text, style});
-        process_ = OpenChild(L"ExitLater.exe");
-        return answer_;
-    }
-    int Ask(const std::wstring& text, const std::wstring&, unsigned style) override { return ShowMessage(text, style); }
-    int ShowOwnedMessage(uintptr_t, const std::wstring& text, const std::wstring&, unsigned flags) override {
-        return ShowMessage(text, flags);
-    }
-    platform::FolderChoice BrowseForFolder(const std::wstring&, const std::wstring&) override { return {}; }
-    int ChooseOne(const platform::ChoiceRequest&) override { return -1; }
-
-    HANDLE process() const { return process_; }
-    std::vector<ShownMessage> shown;
-
-private:
-    static HANDLE OpenChild(const wchar_t* name) {
+    int Ask(const std::wstring& text, const std::wstring& caption, unsigned style) override {
         HANDLE snapshot = CreateToolhelp32Snapshot(TH32CS_SNAPPROCESS, 0);
         PROCESSENTRY32W entry{};
         entry.dwSize = sizeof(entry);
-        HANDLE process = nullptr;
         for (BOOL more = Process32FirstW(snapshot, &entry); more && !process; more = Process32NextW(snapshot, &entry))
-            if (entry.th32ParentProcessID == GetCurrentProcessId() && _wcsicmp(entry.szExeFile, name) == 0)
+            if (entry.th32ParentProcessID == GetCurrentProcessId() && _wcsicmp(entry.szExeFile, L"ExitLater.exe") == 0)
                 process = OpenProcess(SYNCHRONIZE | PROCESS_QUERY_INFORMATION | PROCESS_TERMINATE, FALSE,
                                       entry.th32ProcessID);
         CloseHandle(snapshot);
-        return process;
+        return FakePrompts::Ask(text, caption, style);
     }
-    int answer_;
-    HANDLE process_ = nullptr;
+
+    HANDLE process = nullptr;
 };
 
 TEST(WaitedLaunchOnWindows, AProgramThatOutlivesTheWaitIsKilledOnlyOnYes) {
@@ -170,43 +147,42 @@ TEST(WaitedLaunchOnWindows, AProgramThatOutlivesTheWaitIsKilledOnlyOnYes) {
     for (int answer : {IDNO, IDYES}) {
         SCOPED_TRACE(answer == IDYES ? "Yes" : "No");
         testing_support::RealHostPlatform base;
-        WatchingPrompts prompts(answer);
+        WatchingPrompts prompts;
+        prompts.Answer(answer);
         platform::Platform& real = platform::Current();
         platform::Platform withPrompts{real.registry, real.files,   real.environment,  prompts,
                                        real.system,   real.windows, real.sharedMemory, real.processes};
         platform::Installed installed(withPrompts);
 
         EXPECT_FALSE(WaitedLaunch(program, L"10000 5", L"", SW_HIDE, 300));
-        EXPECT_EQ(std::vector<ShownMessage>{question}, prompts.shown);
-        ASSERT_NE(nullptr, prompts.process());
+        EXPECT_EQ(std::vector<ShownMessage>{question}, prompts.shown());
+        ASSERT_NE(nullptr, prompts.process);
         DWORD code = 0;
         if (answer == IDYES) {
-            EXPECT_EQ(WAIT_OBJECT_0, WaitForSingleObject(prompts.process(), 5000));
-            GetExitCodeProcess(prompts.process(), &code);
+            EXPECT_EQ(WAIT_OBJECT_0, WaitForSingleObject(prompts.process, 5000));
+            GetExitCodeProcess(prompts.process, &code);
             EXPECT_EQ(999u, code);
         } else {
-            EXPECT_EQ(WAIT_TIMEOUT, WaitForSingleObject(prompts.process(), 0)) << "still running";
-            TerminateProcess(prompts.process(), 0);
+            EXPECT_EQ(WAIT_TIMEOUT, WaitForSingleObject(prompts.process, 0)) << "still running";
+            TerminateProcess(prompts.process, 0);
         }
     }
 }
 
-TEST(WaitedLaunchOnWindows, SucceedsWhenTheProgramEndsInTimeAndFailsSilentlyWhenItCannotStart) {
+// A waited launch succeeds when the program ends in time and fails silently when it cannot start;
+// "call" gives the exit code of a program that ended, "exec" 259 of one that still runs.
+TEST(WaitedLaunchOnWindows, AProgramThatEndsInTimeGivesItsResult) {
     testing_support::RealHostPlatform platform;
     const std::wstring program = L"\"" + HelperPath(L"ExitLater.exe") + L"\"";
     EXPECT_TRUE(WaitedLaunch(program, L"0 3", L"C:\\", SW_HIDE, 10000));
     EXPECT_FALSE(WaitedLaunch(L"C:\\NoSuchProgram.exe", L"", L"", SW_HIDE, 10000));
     EXPECT_FALSE(WaitedLaunch(program, L"0 3", L"C:\\NoSuchDirectory", SW_HIDE, 10000));
     EXPECT_TRUE(platform.fake().prompts().shown().empty());
-}
 
-// "call" and "exec" with real processes: the exit code of a program that ended, 259 of one that
-// still runs.
-TEST(ScriptCallOnWindows, CallGivesTheExitCodeAndExecDoesNotWait) {
-    testing_support::RealHostPlatform platform;
-    const std::wstring program = L"\"" + HelperPath(L"ExitLater.exe") + L"\"";
-    EXPECT_EQ(L"3", CallProgram(CallKind::Call, program + L" 0 3", {.show = SW_HIDE}).value_or(L"none"));
-    EXPECT_EQ(L"259", CallProgram(CallKind::Exec, program + L" 2000 4", {.show = SW_HIDE}).value_or(L"none"));
+    CallSettings hidden;
+    hidden.show = SW_HIDE;
+    EXPECT_EQ(L"3", CallProgram(CallKind::Call, program + L" 0 3", hidden).value_or(L"none"));
+    EXPECT_EQ(L"259", CallProgram(CallKind::Exec, program + L" 2000 4", hidden).value_or(L"none"));
     EXPECT_FALSE(CallProgram(CallKind::Exec, L"C:\\NoSuchProgram.exe", {}));
     ASSERT_EQ(1u, platform.fake().prompts().shown().size()) << "the system's reason";
 }

@@ -55,29 +55,14 @@ TEST(ShareBlockOnWindows, ReadsTheHostsBlockAndLeavesZerosWhereItsTabsWere) {
         std::wstring after;
     };
     using namespace std::string_literals;
+    // clang-format off
     const Case cases[] = {
-        {"c1 0 and c2 2",
-         L"0\t2\tC:\\w\topt\ta\tb\t",
-         256,
-         {},
-         {L"a", L"b"},
-         L"0\0"
-         L"2\0C:\\w\0opt\0a\0b\0"s},
-        {"no final tab",
-         L"1\t0\tC:\\w\topt\ta",
-         256,
-         {},
-         {},
-         L"1\0"
-         L"0\0C:\\w\0opt\0a"s},
-        {"a size in bytes read as characters",
-         L"2\t0\tC:\\w\to\tx\tyyyyy\tz\t",
-         20,
-         {L"x", L"yyyyy"},
-         {},
-         L"2\0"
-         L"0\0C:\\w\0o\0x\0yyyyy\0z\t"s},
+        {"c1 0 and c2 2", L"0\t2\tC:\\w\topt\ta\tb\t", 256, {}, {L"a", L"b"}, L"0\0" L"2\0C:\\w\0opt\0a\0b\0"s},
+        {"no final tab", L"1\t0\tC:\\w\topt\ta", 256, {}, {}, L"1\0" L"0\0C:\\w\0opt\0a"s},
+        {"a size in bytes read as characters", L"2\t0\tC:\\w\to\tx\tyyyyy\tz\t", 20, {L"x", L"yyyyy"}, {},
+         L"2\0" L"0\0C:\\w\0o\0x\0yyyyy\0z\t"s},
     };
+    // clang-format on
     int second = 0;
     for (const Case& c : cases) {
         SCOPED_TRACE(c.what);
@@ -93,16 +78,12 @@ TEST(ShareBlockOnWindows, ReadsTheHostsBlockAndLeavesZerosWhereItsTabsWere) {
     }
 }
 
-TEST(ShareBlockOnWindows, WithoutAHostBlockAFreshEmptyOneIsRead) {
+// Without a host's block a fresh empty one is read; a mapping the system refuses (one of the paging
+// file cannot have size 0) is told and skipped.
+TEST(ShareBlockOnWindows, WithoutAHostsBlockNothingIsRead) {
     testing_support::RealHostPlatform platform;
-    ShareBlock block = ReadShareBlock(GetCurrentProcessId(), 9999, 4096);
-    EXPECT_EQ(L"ShareMemMap\nCurrentDir:\nOption:\n\n", block.inspection);
+    EXPECT_EQ(L"ShareMemMap\nCurrentDir:\nOption:\n\n", ReadShareBlock(GetCurrentProcessId(), 9999, 4096).inspection);
     EXPECT_TRUE(platform.fake().prompts().shown().empty());
-}
-
-TEST(ShareBlockOnWindows, AMappingTheSystemRefusesIsToldAndSkipped) {
-    testing_support::RealHostPlatform platform;
-    // A mapping of the paging file cannot have size 0.
     EXPECT_EQ(ShareBlock{}, ReadShareBlock(GetCurrentProcessId(), 9998, 0));
     ASSERT_EQ(1u, platform.fake().prompts().shown().size());
     EXPECT_FALSE(platform.fake().prompts().shown()[0].text.empty());

@@ -3,6 +3,7 @@
 #include <windows.h>
 
 #include <string>
+#include <tuple>
 #include <vector>
 
 #include "platform/win32/Win32Platform.h"
@@ -86,45 +87,30 @@ TEST_F(SettingsStoreRegistryTest, ReadingCreatesTheSectionAndOtherCaseReopens) {
     EXPECT_EQ(1, store.ReadInt(L"y", 0));
 }
 
-TEST_F(SettingsStoreRegistryTest, FontRoundTrip) {
-    SettingsStore store;
-    store.SelectSection(kSection);
-    LogFont font;
-    font.lfHeight = -13;
-    font.lfWeight = 700;
-    font.lfItalic = 1;
-    font.lfUnderline = 1;
-    font.lfStrikeOut = 1;
-    font.lfCharSet = 128;
-    std::wstring face = L"メイリオ";
-    std::copy(face.begin(), face.end(), font.lfFaceName);
-    store.WriteFont(font);
-    LogFont read;
-    store.ReadFont(read);
-    EXPECT_EQ(-13, read.lfHeight);
-    EXPECT_EQ(700, read.lfWeight);
-    EXPECT_EQ(1, read.lfItalic);
-    EXPECT_EQ(0, read.lfUnderline);
-    EXPECT_EQ(0, read.lfStrikeOut);
-    EXPECT_EQ(128, read.lfCharSet);
-    EXPECT_EQ(face, std::wstring(read.lfFaceName));
-}
-
-}  // namespace
-
-namespace {
-
-TEST_F(SettingsStoreRegistryTest, AnEmptySectionGivesTheIconTitleFont) {
+// An empty section gives the system's icon title font; a written font reads back without underline
+// and strike-out.
+TEST_F(SettingsStoreRegistryTest, FontsReadBackAsTheSystemAndTheWriterGaveThem) {
     LOGFONTW system = {};
     ASSERT_TRUE(SystemParametersInfoW(SPI_GETICONTITLELOGFONT, sizeof system, &system, 0));
     SettingsStore store;
     store.SelectSection(kSection);
     LogFont read;
     store.ReadFont(read);
-    EXPECT_EQ(system.lfHeight, read.lfHeight);
-    EXPECT_EQ(system.lfWeight, read.lfWeight);
-    EXPECT_EQ(system.lfCharSet, read.lfCharSet);
-    EXPECT_EQ(std::wstring(system.lfFaceName), std::wstring(read.lfFaceName));
+    EXPECT_EQ((std::tuple{system.lfHeight, system.lfWeight, system.lfCharSet, std::wstring(system.lfFaceName)}),
+              (std::tuple{read.lfHeight, read.lfWeight, read.lfCharSet, std::wstring(read.lfFaceName)}));
+
+    LogFont font;
+    font.lfHeight = -13;
+    font.lfWeight = 700;
+    font.lfItalic = font.lfUnderline = font.lfStrikeOut = 1;
+    font.lfCharSet = 128;
+    std::wstring face = L"メイリオ";
+    std::copy(face.begin(), face.end(), font.lfFaceName);
+    store.WriteFont(font);
+    store.ReadFont(read);
+    EXPECT_EQ((std::tuple{-13, 700, 1, 0, 0, 128, face}),
+              (std::tuple{int(read.lfHeight), int(read.lfWeight), int(read.lfItalic), int(read.lfUnderline),
+                          int(read.lfStrikeOut), int(read.lfCharSet), std::wstring(read.lfFaceName)}));
 }
 
 }  // namespace

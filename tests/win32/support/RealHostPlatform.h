@@ -41,6 +41,16 @@ inline void PumpMessages(DWORD milliseconds) {
     } while (GetTickCount() - start < milliseconds);
 }
 
+// Registers a window class of this program whose windows the procedure handles.
+inline void RegisterWindowClass(const wchar_t* name, WNDPROC procedure) {
+    WNDCLASSEXW wc{};
+    wc.cbSize = sizeof(wc);
+    wc.lpfnWndProc = procedure;
+    wc.hInstance = GetModuleHandleW(nullptr);
+    wc.lpszClassName = name;
+    RegisterClassExW(&wc);
+}
+
 // The folder of the running test program, without a trailing backslash.
 inline std::wstring TestDirectory() {
     wchar_t path[MAX_PATH];

@@ -1,5 +1,6 @@
 // The option dialog's placement and coming forward, on plain windows of this process: one of the
-// host's class, one that stands for the dialog, and one that holds the foreground before.
+// host's class, one that stands for the dialog, and one that holds the foreground before; and the
+// centre a window is placed around.
 #include "ui/HostPlacement.h"
 
 #include <gtest/gtest.h>
@@ -7,11 +8,13 @@
 
 #include "platform/win32/Win32HostWindows.h"
 #include "services/HostHandshake.h"
+#include "ui/WindowCentre.h"
 #include "win32/support/RealHostPlatform.h"
 
 namespace {
 
 using testing_support::PumpMessages;
+using testing_support::RegisterWindowClass;
 
 constexpr wchar_t kDialogClass[] = L"OptionTests.Dialog";
 int bringToFrontTimers = 0;
@@ -24,15 +27,6 @@ LRESULT CALLBACK DialogProc(HWND hwnd, UINT msg, WPARAM wp, LPARAM lp) {
         return 0;
     }
     return DefWindowProcW(hwnd, msg, wp, lp);
-}
-
-void RegisterClass(const wchar_t* name, WNDPROC proc) {
-    WNDCLASSEXW wc{};
-    wc.cbSize = sizeof(wc);
-    wc.lpfnWndProc = proc;
-    wc.hInstance = GetModuleHandleW(nullptr);
-    wc.lpszClassName = name;
-    RegisterClassExW(&wc);
 }
 
 HWND CreateTopLevel(const wchar_t* className, RECT rect, HWND owner = nullptr) {
@@ -53,7 +47,7 @@ void HoldCtrl(bool held) {
 class HostPlacementTest : public testing::Test {
 protected:
     static void SetUpTestSuite() {
-        RegisterClass(kDialogClass, DialogProc);
+        RegisterWindowClass(kDialogClass, DialogProc);
         other_ = CreateTopLevel(L"STATIC", {0, 0, 50, 50});
         dialog_ = CreateTopLevel(kDialogClass, kDialogPlace);
     }
@@ -79,7 +73,7 @@ protected:
     }
 
     void StartHost() {
-        RegisterClass(platform::win32::kHostClassName, DefWindowProcW);
+        RegisterWindowClass(platform::win32::kHostClassName, DefWindowProcW);
         host_ = CreateWindowExW(0, platform::win32::kHostClassName, L"host", WS_POPUP | WS_CAPTION, 100, 100, 640, 480,
                                 nullptr, nullptr, GetModuleHandleW(nullptr), nullptr);
     }
@@ -104,6 +98,9 @@ TEST_F(HostPlacementTest, EachModePlacesTheDialogAndBringsItForward) {
         bool toolWindow;
     };
     const Case cases[] = {{0, false, false}, {1, true, false}, {2, true, true}, {4, false, true}, {7, false, false}};
+    ui::PrepareOptionDialog(dialog_, 0);
+    EXPECT_EQ(5, Rect(dialog_).left) << "no host: no centring";
+    EXPECT_EQ(7, Rect(dialog_).top);
     StartHost();
     for (const Case& c : cases) {
         SCOPED_TRACE(testing::Message() << "mode " << c.mode);
@@ -139,12 +136,6 @@ TEST_F(HostPlacementTest, ModeThreeMakesTheHostTheParentAndLeavesTheDialogAlone)
     DestroyWindow(owned);
 }
 
-TEST_F(HostPlacementTest, NoHostNoCentring) {
-    ui::PrepareOptionDialog(dialog_, 0);
-    EXPECT_EQ(5, Rect(dialog_).left);
-    EXPECT_EQ(7, Rect(dialog_).top);
-}
-
 TEST_F(HostPlacementTest, HoldingCtrlKeepsTheDialogBackUntilTheKeyIsUp) {
     HoldCtrl(true);
     bringToFrontTimers = 0;
@@ -159,6 +150,26 @@ TEST_F(HostPlacementTest, HoldingCtrlKeepsTheDialogBackUntilTheKeyIsUp) {
     int timers = bringToFrontTimers;
     PumpMessages(150);
     EXPECT_EQ(timers, bringToFrontTimers) << "the timer stops once it came forward";
+}
+
+TEST(WindowCentre, TheMiddleOfTheClientAreaOnTheScreen) {
+    HWND frame = CreateWindowExW(0, L"STATIC", L"", WS_POPUP | WS_BORDER, 100, 200, 302, 102, nullptr, nullptr,
+                                 GetModuleHandleW(nullptr), nullptr);
+    HWND child = CreateWindowExW(0, L"STATIC", L"", WS_CHILD, 10, 20, 41, 60, frame, nullptr, GetModuleHandleW(nullptr),
+                                 nullptr);
+    const struct {
+        HWND window;
+        POINT centre;
+    } cases[] = {
+        {frame, {101 + 150, 201 + 50}},           // the border is no part of the client area
+        {child, {101 + 10 + 20, 201 + 20 + 30}},  // halves are rounded down
+    };
+    for (const auto& c : cases) {
+        POINT centre = ui::WindowCentre(c.window);
+        EXPECT_EQ(c.centre.x, centre.x);
+        EXPECT_EQ(c.centre.y, centre.y);
+    }
+    DestroyWindow(frame);
 }
 
 }  // namespace

@@ -11,8 +11,11 @@
 #include "settings/SettingsStore.h"
 #include "ui/LocaliseDialog.h"
 #include "win32/resources/LocaliseDialogTestRes.h"
+#include "win32/ui/ScriptedDialog.h"
 
 namespace {
+
+using testing_support::TextOf;
 
 // What a dialog's own code does in OnInitDialog before it asks for its translation.
 struct InitDialog {
@@ -26,12 +29,6 @@ INT_PTR CALLBACK TestDialogProc(HWND dialog, UINT message, WPARAM, LPARAM lParam
     if (init->setUp) init->setUp(dialog);
     ui::LocaliseDialog(dialog, IDD_LOCALISE_TEST, *init->language);
     return TRUE;
-}
-
-std::wstring Text(HWND window) {
-    std::vector<wchar_t> buffer(1024, 0);
-    GetWindowTextW(window, buffer.data(), static_cast<int>(buffer.size()));
-    return buffer.data();
 }
 
 std::vector<std::wstring> ComboEntries(HWND combo) {
@@ -111,13 +108,13 @@ TEST_F(LocaliseDialogTest, FirstOpeningWritesWhatTheDialogShowsAndTheNextReadsIt
         SendDlgItemMessageW(dialog, IDC_LOCALISE_MODE, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(L"filled by code"));
         SetDlgItemTextW(dialog, IDC_LOCALISE_PATH, L"C:\\second");
     });
-    EXPECT_EQ(L"Réglages 設定", Text(second));
-    EXPECT_EQ(L"Nom :\tgauche", Text(GetDlgItem(second, IDC_LOCALISE_NAME)));
-    EXPECT_EQ(L"Browse...", Text(GetDlgItem(second, IDC_LOCALISE_BROWSE)));
+    EXPECT_EQ(L"Réglages 設定", TextOf(second));
+    EXPECT_EQ(L"Nom :\tgauche", TextOf(GetDlgItem(second, IDC_LOCALISE_NAME)));
+    EXPECT_EQ(L"Browse...", TextOf(GetDlgItem(second, IDC_LOCALISE_BROWSE)));
     // An entry with a tab splits into four fields and is lost; the rest replaces what code put there.
     EXPECT_EQ(std::vector<std::wstring>{L"Petit"}, ComboEntries(GetDlgItem(second, IDC_LOCALISE_MODE)));
-    EXPECT_EQ(L"C:\\second", Text(GetDlgItem(second, IDC_LOCALISE_PATH)));
-    EXPECT_EQ(L"Général/Vue/Couleurs", Text(GetDlgItem(second, IDC_LOCALISE_LABEL)));
+    EXPECT_EQ(L"C:\\second", TextOf(GetDlgItem(second, IDC_LOCALISE_PATH)));
+    EXPECT_EQ(L"Général/Vue/Couleurs", TextOf(GetDlgItem(second, IDC_LOCALISE_LABEL)));
     EXPECT_FALSE(IsWindowVisible(GetDlgItem(second, IDC_LOCALISE_LABEL)));
     DestroyWindow(second);
 }
@@ -127,7 +124,7 @@ TEST_F(LocaliseDialogTest, TheTemplatesLanguageWithoutLangOutTouchesNothing) {
     fake_.files().AddFile(L"C:\\Scratch\\.ja-JP\\Option\\9001.txt", std::string_view("\xFF\xFEX\0", 4));
 
     HWND dialog = Open(nullptr);
-    EXPECT_EQ(L"Template title", Text(dialog)) << "the file is not read";
+    EXPECT_EQ(L"Template title", TextOf(dialog)) << "the file is not read";
     DestroyWindow(dialog);
     EXPECT_EQ(L"\uFEFFX", FileText(L".ja-JP")) << "nor written";
 }
