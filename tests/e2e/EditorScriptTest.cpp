@@ -1,5 +1,7 @@
 // "/A" as the host uses it: a file that is no definition file opens through the user's editor
-// script, which here starts a test program that logs how it was started.
+// script. The scripts here start a test program that logs how it was started, and steer the test
+// host: messages and texts posted and sent to it, message boxes that its window owns.
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <windows.h>
@@ -7,40 +9,166 @@
 #include <string>
 #include <vector>
 
-#include "support/EditorScript.h"
 #include "support/FakeHostProcess.h"
 #include "support/Files.h"
 #include "support/Process.h"
+#include "support/OptionWindow.h"
+
+using testing::ElementsAre;
+using testing::HasSubstr;
 
 namespace {
 
-std::wstring Variable(const wchar_t* name) {
-    wchar_t value[MAX_PATH] = {};
-    GetEnvironmentVariableW(name, value, MAX_PATH);
-    return value;
+std::wstring TempPath(const wchar_t* name) {
+    wchar_t temp[MAX_PATH + 1] = {};
+    GetTempPathW(MAX_PATH + 1, temp);
+    return std::wstring(temp) + name;
 }
 
-TEST(EditorScript, SlashAOpensTheFileThroughTheUsersScript) {
-    const std::wstring temp = Variable(L"TEMP");
-    const std::wstring log = temp + L"\\option-editor-script.log";
-    const std::wstring file = temp + L"\\option notes.txt";
-    DeleteFileW(log.c_str());
-    ASSERT_TRUE(e2e::WriteFileBytes(file, "plain text, no definition file\r\n"));
-    e2e::EditorScript script(L"commandlineoption = --log \"" + log + L"\" ?SelFile?\r\nrun = " + e2e::TestDirectory() +
-                             L"\\DropTarget.exe\r\n");
+// The user's "Script\Editor.txt", which "/A" runs, replaced for a test and put back after it.
+class EditorScript {
+public:
+    // text without its byte order mark, lines ended by CR LF.
+    explicit EditorScript(const std::wstring& text) : saved_(e2e::ReadFileBytes(Path())) {
+        CreateDirectoryW(Folder().c_str(), nullptr);
+        e2e::WriteUtf16File(Path(), L"\uFEFF" + text);
+    }
+    ~EditorScript() {
+        if (saved_.empty())
+            DeleteFileW(Path().c_str());
+        else
+            e2e::WriteFileBytes(Path(), saved_);
+    }
 
-    EXPECT_EQ(0u, e2e::RunOption({L"/A", file}));
-    const std::string expected = "args --log \"" + e2e::Utf8(log) + "\" \"" + e2e::Utf8(file) + "\"";
+private:
+    static std::wstring Folder() {
+        wchar_t value[MAX_PATH] = {};
+        GetEnvironmentVariableW(L"LOCALAPPDATA", value, MAX_PATH);
+        return std::wstring(value) + L"\\Qor\\Script";
+    }
+    static std::wstring Path() { return Folder() + L"\\Editor.txt"; }
+
+    std::string saved_;
+};
+
+// The file the editor script is run for, a plain text file with a blank in its name.
+class SelectedFile {
+public:
+    SelectedFile() : path_(TempPath(L"option notes.txt")) { e2e::WriteFileBytes(path_, "plain text\r\n"); }
+    ~SelectedFile() { DeleteFileW(path_.c_str()); }
+    const std::wstring& path() const { return path_; }
+
+private:
+    std::wstring path_;
+};
+
+// The lines a log has once count of them are there, or what it has after five seconds.
+template <typename Take>
+std::vector<std::string> WaitForLines(size_t count, Take take) {
     std::vector<std::string> lines;
     for (int tries = 0; tries < 100; ++tries) {
-        lines = e2e::ReadLogLines(log);
-        if (lines.size() >= 2) break;
+        std::vector<std::string> more = take();
+        lines.insert(lines.end(), more.begin(), more.end());
+        if (lines.size() >= count) break;
         Sleep(50);
     }
-    ASSERT_GE(lines.size(), 2u) << "the editor did not start";
-    EXPECT_EQ(expected, lines[1]);
-    if (HWND editor = FindWindowW(L"OptionTests.DropTarget", nullptr)) PostMessageW(editor, WM_CLOSE, 0, 0);
-    DeleteFileW(file.c_str());
+    return lines;
+}
+
+std::vector<std::string> TakeLines(e2e::FakeHost& host, size_t count) {
+    return WaitForLines(count, [&] { return host.TakeLines(); });
+}
+
+// The editor starts with the script's command line, the selected file quoted in it; posted messages
+// reach the host; a line the script cannot run is shown and ends the run.
+TEST(EditorScript, TheScriptStartsTheEditorPostsToTheHostAndStopsAtABadLine) {
+    e2e::FakeHost host({.hidden = true});
+    ASSERT_TRUE(host.Window());
+    SelectedFile file;
+    const std::wstring log = TempPath(L"option-editor-script.log");
+    DeleteFileW(log.c_str());
+    // Posted messages wait in the host's queue while sent ones come first, hence posts only here.
+    EditorScript script(L"commandlineoption = --log \"" + log + L"\" ?SelFile?\r\nrun = " + e2e::TestDirectory() +
+                        L"\\DropTarget.exe\r\n"
+                        L"var id = 40001\r\npostmessage = id, 7\r\npostmessage1 = 3,4\r\npostmessage2 = 5\r\n"
+                        L"postwait = 6\r\npostmessagebar = 7\r\npostmessageall = -1,-2\r\n"
+                        L"ubjump = 11, x\r\npostmessage = 40009\r\n");
+    e2e::Process option = e2e::StartOption({L"/A", file.path()});
+    ASSERT_TRUE(option);
+    HWND error = e2e::FindMessageBox(option.Id());
+    ASSERT_TRUE(error);
+    EXPECT_THAT(e2e::Utf8(e2e::DialogText(error)), HasSubstr("ubjump = 11, x"));
+    ASSERT_TRUE(e2e::Answer(error, IDOK));
+    EXPECT_EQ(0u, option.WaitOrKill());
+
+    const std::vector<std::string> editor = WaitForLines(2, [&] { return e2e::ReadLogLines(log); });
+    ASSERT_GE(editor.size(), 2u) << "the editor did not start";
+    EXPECT_EQ("args --log \"" + e2e::Utf8(log) + "\" \"" + e2e::Utf8(file.path()) + "\"", editor[1]);
+    if (HWND window = FindWindowW(L"OptionTests.DropTarget", nullptr)) PostMessageW(window, WM_CLOSE, 0, 0);
+    // A message posted now comes behind anything the script posted, so nothing was after the bad line.
+    PostMessageW(host.Window(), WM_COMMAND, 1, 0);
+    EXPECT_THAT(TakeLines(host, 7),
+                ElementsAre("command 40001 7", "message 32777 3 4", "message 32778 5 0", "message 32779 6 0",
+                            "message 32780 7 0", "message 32776 18446744073709551615 -2", "command 1"));
+}
+
+// The visible buttons of a message box among OK, Cancel, Yes and No.
+std::vector<int> Buttons(HWND box) {
+    std::vector<int> buttons;
+    for (int id : {IDOK, IDCANCEL, IDYES, IDNO}) {
+        HWND button = GetDlgItem(box, id);
+        if (button && IsWindowVisible(button)) buttons.push_back(id);
+    }
+    return buttons;
+}
+
+// Sent messages and texts reach the host in the script's order, each waiting for it; the script's
+// message boxes are the host's, their answers count, and No ends the run.
+TEST(EditorScript, SentWordsReachTheHostInOrderAndItsMessageBoxesAreTheHosts) {
+    e2e::FakeHost host({.hidden = true});
+    ASSERT_TRUE(host.Window());
+    SelectedFile file;
+    EditorScript script(
+        L"sendmessage = 40002\r\nsendmessageall = 8,9\r\nselect = C:\\a b.txt\r\nfolderjump = 2, C:\\Data\r\n"
+        L"filejump = 0, C:\\Data\\.\\x.txt\r\nfavoritejump = 0, C:\\Data\\..\\Tools\r\nubjump = 10, x\r\n"
+        L"system_command = 3000, hi\r\nfullstateopen = ?Date?\r\n"
+        L"messageboxyn = Go on?\r\nvar button\r\nbutton = messagebox, 0x21, Pick one\r\n"
+        L"messageboxok = Got button\r\nmessageboxyn = Stop here?\r\nmessageboxok = never shown\r\n"
+        L"select = not sent\r\n");
+    e2e::Process option = e2e::StartOption({L"/A", file.path()});
+    ASSERT_TRUE(option);
+    EXPECT_THAT(TakeLines(host, 9),
+                ElementsAre("command 40002", "message 32776 8 9", "copydata 800 C:\\a b.txt", "copydata 300 C:\\Data",
+                            "copydata 103 C:\\Data\\x.txt", "copydata 901 10/C:\\Tools", "copydata 1003 9/x",
+                            "copydata 3000 hi", "copydata 201 ?Date?"));
+
+    struct Step {
+        const char* text;
+        std::vector<int> buttons;
+        int answer;
+    };
+    const Step steps[] = {
+        {"Go on?", {IDYES, IDNO}, IDYES},
+        {"Pick one", {IDOK, IDCANCEL}, IDCANCEL},
+        {"Got 2", {IDOK}, IDOK},
+        {"Stop here?", {IDYES, IDNO}, IDNO},
+    };
+    for (const Step& step : steps) {
+        SCOPED_TRACE(step.text);
+        HWND box = e2e::FindMessageBox(option.Id());
+        ASSERT_TRUE(box);
+        wchar_t title[64] = {};
+        GetWindowTextW(box, title, 64);
+        EXPECT_EQ(std::wstring(L"Qor"), title);
+        EXPECT_EQ(host.Window(), GetWindow(box, GW_OWNER));
+        EXPECT_THAT(e2e::Utf8(e2e::DialogText(box)), HasSubstr(step.text));
+        EXPECT_EQ(step.buttons, Buttons(box));
+        ASSERT_TRUE(e2e::Answer(box, step.answer));
+    }
+    // No ended the run: the last box never comes, nothing more is sent (the host only comes forward
+    // as each box closes), and the program ends by itself.
+    EXPECT_EQ(0u, option.WaitOrKill());
+    EXPECT_THAT(host.TakeLines(), testing::Each("activate"));
 }
 
 }  // namespace

@@ -1,33 +1,27 @@
 // A stand-in for the file manager's main window, for end-to-end tests.
 //
-//   FakeHost.exe --log <file> [--title <text>] [--class <name>] [--hidden] [--print-env <name>]...
+//   FakeHost.exe --log <file> [--title <text>] [--hidden]
 //
-// Owns one top-level window (by default of the host's window class) and appends one UTF-8 line per
-// message of interest to the log, written through at once so that a test reads it as soon as the
-// sender's SendMessageW has returned:
-//   env <name>=<value>         before "ready", for each --print-env ("env <name> unset" when absent)
+// Owns one top-level window of the host's window class and appends one UTF-8 line per message of
+// interest to the log, written through at once so that a test reads it as soon as the sender's
+// SendMessageW has returned:
 //   ready                      the window exists
 //   command <wParam> [<lParam>]   WM_COMMAND; lParam only when it is not 0
 //   copydata <dwData> <text>   WM_COPYDATA, text up to its terminating zero (the sender's size may be
 //                              longer than the text); characters below U+0020 appear as \u00XX
 //   message <msg> <wParam> <lParam>   a private message (WM_APP and above)
-//   dropfiles <path>|<path>    WM_DROPFILES
 //   activate                   the window became active
-// It ends on WM_CLOSE or on the registered message "FakeHost.Quit", with exit code 0.
+// It ends on WM_CLOSE, with exit code 0.
 #include <windows.h>
-// after windows.h, which it needs
-#include <shellapi.h>
 
 #include <cstdio>
 #include <string>
-#include <vector>
 
 namespace {
 
 constexpr wchar_t kHostClass[] = L"{0F04AF43-7B85-46A5-A0A7-6D323A84AD7C}";
 
 HANDLE logFile = INVALID_HANDLE_VALUE;
-UINT quitMessage = 0;
 
 std::string ToUtf8(const std::wstring& text) {
     if (text.empty()) return {};
@@ -67,21 +61,8 @@ void LogCopyData(const COPYDATASTRUCT& data) {
     WriteLine(L"copydata " + std::to_wstring(data.dwData) + L" " + EscapeControls(text, length));
 }
 
-void LogDrop(HDROP drop) {
-    std::wstring line = L"dropfiles ";
-    UINT count = DragQueryFileW(drop, 0xFFFFFFFF, nullptr, 0);
-    for (UINT i = 0; i < count; ++i) {
-        std::wstring path(DragQueryFileW(drop, i, nullptr, 0) + 1, L'\0');
-        path.resize(DragQueryFileW(drop, i, path.data(), static_cast<UINT>(path.size())));
-        if (i > 0) line += L"|";
-        line += path;
-    }
-    DragFinish(drop);
-    WriteLine(line);
-}
-
 LRESULT CALLBACK WindowProc(HWND hwnd, UINT msg, WPARAM wp, LPARAM lp) {
-    if (msg == quitMessage || msg == WM_CLOSE) {
+    if (msg == WM_CLOSE) {
         // Destroying a shown window costs Wine seconds on a display with no window manager; nothing
         // is left to tidy (every log line is already written through), so end at once.
         CloseHandle(logFile);
@@ -95,9 +76,6 @@ LRESULT CALLBACK WindowProc(HWND hwnd, UINT msg, WPARAM wp, LPARAM lp) {
         case WM_COPYDATA:
             LogCopyData(*reinterpret_cast<const COPYDATASTRUCT*>(lp));
             return TRUE;
-        case WM_DROPFILES:
-            LogDrop(reinterpret_cast<HDROP>(wp));
-            return 0;
         case WM_ACTIVATE:
             if (LOWORD(wp) != WA_INACTIVE) WriteLine(L"activate");
             break;
@@ -117,9 +95,7 @@ LRESULT CALLBACK WindowProc(HWND hwnd, UINT msg, WPARAM wp, LPARAM lp) {
 struct Arguments {
     std::wstring log;
     std::wstring title = L"FakeHost";
-    std::wstring className = kHostClass;
     bool hidden = false;
-    std::vector<std::wstring> printEnv;
 };
 
 bool ParseArguments(Arguments& args) {
@@ -133,10 +109,6 @@ bool ParseArguments(Arguments& args) {
             args.log = argv[++i];
         } else if (name == L"--title" && hasValue) {
             args.title = argv[++i];
-        } else if (name == L"--class" && hasValue) {
-            args.className = argv[++i];
-        } else if (name == L"--print-env" && hasValue) {
-            args.printEnv.push_back(argv[++i]);
         } else if (name == L"--hidden") {
             args.hidden = true;
         } else {
@@ -158,7 +130,6 @@ int WINAPI wWinMain(HINSTANCE instance, HINSTANCE, PWSTR, int) {
     logFile = CreateFileW(args.log.c_str(), FILE_APPEND_DATA, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE,
                           nullptr, OPEN_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr);
     if (logFile == INVALID_HANDLE_VALUE) return 3;
-    quitMessage = RegisterWindowMessageW(L"FakeHost.Quit");
 
     WNDCLASSEXW wc{};
     wc.cbSize = sizeof(wc);
@@ -166,25 +137,15 @@ int WINAPI wWinMain(HINSTANCE instance, HINSTANCE, PWSTR, int) {
     wc.hInstance = instance;
     wc.hCursor = LoadCursorW(nullptr, reinterpret_cast<LPCWSTR>(IDC_ARROW));
     wc.hbrBackground = reinterpret_cast<HBRUSH>(COLOR_WINDOW + 1);
-    wc.lpszClassName = args.className.c_str();
+    wc.lpszClassName = kHostClass;
     if (!RegisterClassExW(&wc)) return 4;
 
-    HWND hwnd = CreateWindowExW(0, args.className.c_str(), args.title.c_str(), WS_OVERLAPPEDWINDOW, 100, 100, 640, 480,
-                                nullptr, nullptr, instance, nullptr);
+    HWND hwnd = CreateWindowExW(0, kHostClass, args.title.c_str(), WS_OVERLAPPEDWINDOW, 100, 100, 640, 480, nullptr,
+                                nullptr, instance, nullptr);
     if (!hwnd) return 5;
-    DragAcceptFiles(hwnd, TRUE);
     if (!args.hidden) {
         ShowWindow(hwnd, SW_SHOWNORMAL);
         UpdateWindow(hwnd);
-    }
-    for (const std::wstring& name : args.printEnv) {
-        std::wstring value(32767, L'\0');
-        SetLastError(0);
-        DWORD length = GetEnvironmentVariableW(name.c_str(), value.data(), static_cast<DWORD>(value.size()));
-        if (length == 0 && GetLastError() == ERROR_ENVVAR_NOT_FOUND)
-            WriteLine(L"env " + name + L" unset");
-        else
-            WriteLine(L"env " + name + L"=" + EscapeControls(value.c_str(), length));
     }
     WriteLine(L"ready");
 

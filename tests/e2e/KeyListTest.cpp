@@ -10,8 +10,9 @@
 #include <string>
 #include <vector>
 
+#include "support/Files.h"
 #include "support/Process.h"
-#include "support/ProcessDialogs.h"
+#include "support/OptionWindow.h"
 #include "support/Registry.h"
 
 namespace {
@@ -28,19 +29,12 @@ const wchar_t* const kListNames[] = {
 
 // The lines of a UTF-16 file, each with its line end.
 std::vector<std::wstring> Lines(const fs::path& path) {
-    std::ifstream file(path, std::ios::binary);
-    std::string bytes((std::istreambuf_iterator<char>(file)), {});
-    std::wstring text;
-    for (size_t i = 0; i + 1 < bytes.size(); i += 2) {
-        text.push_back(
-            static_cast<wchar_t>(static_cast<uint8_t>(bytes[i]) | (static_cast<uint8_t>(bytes[i + 1]) << 8)));
-    }
+    const std::wstring text = e2e::ReadUtf16File(path.wstring());
     std::vector<std::wstring> lines;
-    for (size_t start = 0; start < text.size();) {
-        size_t end = text.find(L"\r\n", start);
+    for (size_t start = 0, end; start < text.size(); start = end) {
+        end = text.find(L"\r\n", start);
         end = end == std::wstring::npos ? text.size() : end + 2;
         lines.push_back(text.substr(start, end - start));
-        start = end;
     }
     return lines;
 }
@@ -107,10 +101,20 @@ protected:
     e2e::Process option;
 };
 
-TEST_F(KeyListTest, WithoutKeyFilesTheDefaultsAreListed) {
+// A virtual folder cannot take the lists: the program says so and asks again; without key files
+// the lists show the default keys.
+TEST_F(KeyListTest, AVirtualFolderIsRefusedAndTheDefaultsAreListed) {
     HWND browser = Start();
     ASSERT_NE(nullptr, browser);
     EXPECT_NE(std::wstring::npos, e2e::DialogText(browser).find(L"Choose the folder to write to"));
+    ASSERT_TRUE(e2e::SelectMyComputer(option.Handle(), browser));
+    ASSERT_TRUE(e2e::Answer(browser, IDOK));
+    HWND box = e2e::FindMessageBox(option.Id());
+    ASSERT_NE(nullptr, box);
+    EXPECT_NE(std::wstring::npos, e2e::DialogText(box).find(L"It can not be output to this directory."));
+    ASSERT_TRUE(e2e::Answer(box, IDOK));
+    browser = e2e::FindFolderBrowser(option.Id());
+    ASSERT_NE(nullptr, browser);
     Choose(browser);
     EXPECT_EQ(0u, option.WaitOrKill());
 
@@ -129,24 +133,14 @@ TEST_F(KeyListTest, WithoutKeyFilesTheDefaultsAreListed) {
     EXPECT_EQ(L"\"N1\",\"---\"\r\n", Lines(out / L"Search mode Ctrl.csv")[36]);
 }
 
-TEST_F(KeyListTest, SavedKeyFilesAreListed) {
+// Saved key files are what the lists show; each list already there is overwritten only when the
+// user says yes to it.
+TEST_F(KeyListTest, SavedKeysAreListedAndNoKeepsThatOneFile) {
     const int a = 0, shiftA = 76, ctrlShiftEnt = 3 * 76 + 75;
     WriteKeyFile(user / L"CommandMode.key", {{a, 33000}, {ctrlShiftEnt, 42600}});
     WriteKeyFile(user / L"SerchMode.key", {{shiftA, 42501}});
     WriteKeyFile(user / L"SearchMode.key", {{a, 35900}});
-    HWND browser = Start();
-    ASSERT_NE(nullptr, browser);
-    Choose(browser);
-    EXPECT_EQ(0u, option.WaitOrKill());
-
-    EXPECT_EQ(L"\uFEFF\"A\",\"User bar 1 button 1\"\r\n", Lines(out / L"Command mode.csv")[0]);
-    EXPECT_EQ(L"\"Ent\",\"---\"\r\n", Lines(out / L"Command mode.csv")[75]);
-    EXPECT_EQ(L"\"Ent\",\"External command 42600\"\r\n", Lines(out / L"Command mode Ctrl+Shift.csv")[75]);
-    EXPECT_EQ(L"\uFEFF\"A\",\"Open in Paint\"\r\n", Lines(out / L"Search mode Shift.csv")[0]);
-    EXPECT_EQ(L"\uFEFF\"A\",\"---\"\r\n", Lines(out / L"Search mode.csv")[0]);
-}
-
-TEST_F(KeyListTest, NoForOneExistingFileSkipsOnlyThatFile) {
+    const std::wstring kept = L"Command mode Shift.csv";
     for (const wchar_t* name : kListNames) std::ofstream(out / name) << "old";
     HWND browser = Start();
     ASSERT_NE(nullptr, browser);
@@ -157,17 +151,23 @@ TEST_F(KeyListTest, NoForOneExistingFileSkipsOnlyThatFile) {
         std::wstring expected = L"Do you want to overwrite it?\n" + (out / name).wstring();
         EXPECT_NE(std::wstring::npos, e2e::DialogText(box).find(expected))
             << testing::PrintToString(e2e::DialogText(box));
-        ASSERT_TRUE(e2e::Answer(box, std::wstring(name) == L"Command mode Shift.csv" ? IDNO : IDYES));
+        ASSERT_TRUE(e2e::Answer(box, name == kept ? IDNO : IDYES));
     }
     EXPECT_EQ(0u, option.WaitOrKill());
+
     for (const wchar_t* name : kListNames) {
-        if (std::wstring(name) == L"Command mode Shift.csv") {
+        if (name == kept) {
             std::ifstream file(out / name, std::ios::binary);
             EXPECT_EQ("old", std::string((std::istreambuf_iterator<char>(file)), {}));
         } else {
             EXPECT_EQ(76u, Lines(out / name).size()) << testing::PrintToString(std::wstring(name));
         }
     }
+    EXPECT_EQ(L"\uFEFF\"A\",\"User bar 1 button 1\"\r\n", Lines(out / L"Command mode.csv")[0]);
+    EXPECT_EQ(L"\"Ent\",\"---\"\r\n", Lines(out / L"Command mode.csv")[75]);
+    EXPECT_EQ(L"\"Ent\",\"External command 42600\"\r\n", Lines(out / L"Command mode Ctrl+Shift.csv")[75]);
+    EXPECT_EQ(L"\uFEFF\"A\",\"Open in Paint\"\r\n", Lines(out / L"Search mode Shift.csv")[0]);
+    EXPECT_EQ(L"\uFEFF\"A\",\"---\"\r\n", Lines(out / L"Search mode.csv")[0]);
 }
 
 TEST_F(KeyListTest, CancelWritesNothing) {
@@ -176,22 +176,6 @@ TEST_F(KeyListTest, CancelWritesNothing) {
     ASSERT_TRUE(e2e::Answer(browser, IDCANCEL));
     EXPECT_EQ(0u, option.WaitOrKill());
     EXPECT_TRUE(FilesIn(out).empty());
-}
-
-TEST_F(KeyListTest, AVirtualFolderIsToldAndTheBrowserAsksAgain) {
-    HWND browser = Start();
-    ASSERT_NE(nullptr, browser);
-    ASSERT_TRUE(e2e::SelectMyComputer(option.Handle(), browser));
-    ASSERT_TRUE(e2e::Answer(browser, IDOK));
-    HWND box = e2e::FindMessageBox(option.Id());
-    ASSERT_NE(nullptr, box);
-    EXPECT_NE(std::wstring::npos, e2e::DialogText(box).find(L"It can not be output to this directory."));
-    ASSERT_TRUE(e2e::Answer(box, IDOK));
-    browser = e2e::FindFolderBrowser(option.Id());
-    ASSERT_NE(nullptr, browser);
-    Choose(browser);
-    EXPECT_EQ(0u, option.WaitOrKill());
-    EXPECT_EQ(AllListNames(), FilesIn(out));
 }
 
 }  // namespace

@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "support/Process.h"
-#include "support/ProcessDialogs.h"
+#include "support/OptionWindow.h"
 #include "support/Registry.h"
 
 namespace {

@@ -1,4 +1,6 @@
-// The option dialog as the user and the host meet it: a window of the running Option.exe.
+// The option dialog as the user and the host meet it: a window of the running Option.exe, its pages
+// worked as a user would, and what reaches the registry and every running host.
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <windows.h>
@@ -6,96 +8,128 @@
 #include <commctrl.h>
 
 #include <string>
+#include <vector>
 
 #include "support/FakeHostProcess.h"
 #include "support/Files.h"
 #include "support/HostHandshake.h"
+#include "support/OptionTree.h"
 #include "support/OptionWindow.h"
 #include "support/Process.h"
 #include "support/Registry.h"
 
 namespace {
 
+namespace reg = e2e::registry;
+
 constexpr wchar_t kOptionPage[] = L"Software\\Tarnwick\\QOR\\Command\\Option\\OptionPage";
-constexpr int kTreeId = 1621;
+constexpr wchar_t kAppInfo[] = L"Software\\Tarnwick\\QOR\\Main001\\AppInfo";
+constexpr wchar_t kSettings[] = L"Software\\Tarnwick\\Qor\\Main001\\Settings";
+constexpr int kApply = 1301;
 // Every row of the tree: the pages and groups the user can reach.
 constexpr LRESULT kTreeItems = 51;
+// What each Apply tells the hosts: the series starts and ends with these.
+constexpr unsigned kSeriesStart = 48999;
+constexpr unsigned kSeriesEnd = 49099;
 
-// Closes the dialog as its Cancel button would and gives the exit code.
-DWORD Cancel(e2e::Process& option, HWND dialog) {
-    PostMessageW(dialog, WM_COMMAND, MAKEWPARAM(IDCANCEL, BN_CLICKED), 0);
+void Click(HWND window, int id) {
+    SendMessageW(window, WM_COMMAND, MAKEWPARAM(id, BN_CLICKED), 0);
+}
+
+void SetCheck(HWND page, int id, bool on) {
+    SendMessageW(GetDlgItem(page, id), BM_SETCHECK, on ? BST_CHECKED : BST_UNCHECKED, 0);
+}
+
+// Asked of the control itself: GetWindowText does not ask another process's controls.
+std::wstring Text(HWND window) {
+    wchar_t text[256] = {};
+    SendMessageW(window, WM_GETTEXT, 256, reinterpret_cast<LPARAM>(text));
+    return text;
+}
+
+// Closes the dialog as its button would and gives the exit code.
+DWORD Close(e2e::Process& option, HWND dialog, int button = IDCANCEL) {
+    PostMessageW(dialog, WM_COMMAND, MAKEWPARAM(button, BN_CLICKED), 0);
     return option.WaitOrKill();
 }
 
-TEST(OptionDialog, AppearsWithItsTreeAndItsButtons) {
-    e2e::registry::ScopedKey key(kOptionPage);
-    e2e::registry::DeleteKey(kOptionPage);
-    e2e::Process option = e2e::StartOption();
-    ASSERT_TRUE(option);
-    HWND dialog = e2e::FindOptionDialog(option.Id());
-    ASSERT_NE(nullptr, dialog);
+// The framework's message box over the dialog: its text, closed with OK. Empty when none came.
+std::wstring TakeMessageBox(const e2e::Process& option) {
+    HWND box = e2e::FindVisibleWindow(option.Id(), L"Option", 5000);
+    if (!box) return L"";
+    std::wstring text = Text(GetDlgItem(box, 0xFFFF));
+    PostMessageW(box, WM_COMMAND, MAKEWPARAM(IDOK, BN_CLICKED), 0);
+    for (int i = 0; i < 100 && IsWindow(box); ++i) Sleep(50);
+    return text;
+}
 
-    HWND tree = GetDlgItem(dialog, kTreeId);
-    ASSERT_NE(nullptr, tree);
+bool Checked(HWND list, int row) {
+    return (SendMessageW(list, LVM_GETITEMSTATE, row, LVIS_STATEIMAGEMASK) >> 12) == 2;
+}
+
+// Opened by a host in window mode 3, the dialog is owned by the host's window, serves the folder
+// request at once and answers the host's probe; Cancel stores nothing and sends the host nothing.
+// With LangOut on it writes its text file for translators, and a translated file is what the next
+// opening shows.
+TEST(OptionDialog, OpensOverTheHostInItsOwnOrTranslatedWordsAndCancelStoresNothing) {
+    reg::ScopedKey page(kOptionPage);
+    reg::ScopedKey settings(kSettings);
+    reg::WriteDword(kOptionPage, L"Start", 36);
+    reg::WriteString(kOptionPage, L"SetFolder", L"C:\\Work");
+    reg::WriteString(kSettings, L"NLS", L".ja-JP");
+    reg::WriteDword(kSettings, L"LangOut", 1);
+    const std::wstring file = e2e::StageRoot() + L"\\command\\Option\\.ja-JP\\Option\\159.txt";
+    DeleteFileW(file.c_str());
+    e2e::FakeHost host;
+    ASSERT_TRUE(host.Window());
+
+    e2e::Process first = e2e::StartOption({}, {e2e::HostSwitch(e2e::SwitchString(3, 0, 0, 0, 0, L"none"))});
+    ASSERT_TRUE(first);
+    HWND dialog = e2e::FindOptionDialog(first.Id());
+    ASSERT_NE(nullptr, dialog);
+    EXPECT_EQ(host.Window(), GetWindow(dialog, GW_OWNER));
+    HWND tree = GetDlgItem(dialog, e2e::kOptionTreeId);
     EXPECT_TRUE(IsWindowVisible(tree));
     EXPECT_EQ(kTreeItems, SendMessageW(tree, TVM_GETCOUNT, 0, 0));
-    EXPECT_NE(nullptr, reinterpret_cast<HTREEITEM>(SendMessageW(tree, TVM_GETNEXTITEM, TVGN_CARET, 0)));
-    for (int button : {IDOK, IDCANCEL, 1301}) {
+    EXPECT_NE(nullptr, e2e::NextTreeItem(tree, nullptr, TVGN_CARET));
+    for (int button : {IDOK, IDCANCEL, kApply}) {
         SCOPED_TRACE(button);
         EXPECT_TRUE(IsWindowVisible(GetDlgItem(dialog, button)));
     }
     EXPECT_EQ(1, SendMessageW(dialog, 0x8030, 0, 0)) << "the host's probe is answered";
-    EXPECT_EQ(0u, Cancel(option, dialog));
+    EXPECT_EQ(L"", reg::ReadString(kOptionPage, L"SetFolder").value_or(L"<absent>"));
+    EXPECT_EQ(0u, Close(first, dialog));
+    EXPECT_EQ(L"", reg::ReadString(kOptionPage, L"SetFolder").value_or(L"<absent>"));
+    EXPECT_EQ(36u, reg::ReadDword(kOptionPage, L"Start").value_or(0));
+    EXPECT_THAT(host.Commands(), testing::IsEmpty());
+    std::wstring text = e2e::ReadUtf16File(file);
+    ASSERT_TRUE(text.starts_with(L"\uFEFFオプション\r\n")) << "no dialog text file written";
+    EXPECT_NE(std::wstring::npos, text.find(L"1301\tButton\t適用\r\n"));
+
+    // No page stored and no host this time.
+    reg::DeleteKey(kOptionPage);
+    ASSERT_TRUE(e2e::WriteUtf16File(file, L"\uFEFFOptions\r\n1301\tButton\tApply\r\n"));
+    e2e::Process second = e2e::StartOption();
+    ASSERT_TRUE(second);
+    HWND translated = e2e::FindVisibleWindow(second.Id(), L"Options");
+    ASSERT_NE(nullptr, translated);
+    EXPECT_EQ(L"Apply", Text(GetDlgItem(translated, kApply)));
+    EXPECT_EQ(0u, Close(second, translated));
+    DeleteFileW(file.c_str());
 }
 
-TEST(OptionDialog, CancelServesTheFolderRequestAndKeepsStart) {
-    e2e::registry::ScopedKey key(kOptionPage);
-    e2e::registry::WriteDword(kOptionPage, L"Start", 36);
-    e2e::registry::WriteString(kOptionPage, L"SetFolder", L"C:\\Work");
-    e2e::Process option = e2e::StartOption();
-    ASSERT_TRUE(option);
-    HWND dialog = e2e::FindOptionDialog(option.Id());
-    ASSERT_NE(nullptr, dialog);
-    EXPECT_EQ(L"", e2e::registry::ReadString(kOptionPage, L"SetFolder").value_or(L"<absent>"));
-
-    EXPECT_EQ(0u, Cancel(option, dialog));
-    EXPECT_EQ(L"", e2e::registry::ReadString(kOptionPage, L"SetFolder").value_or(L"<absent>"));
-    EXPECT_EQ(36u, e2e::registry::ReadDword(kOptionPage, L"Start").value_or(0));
-}
-
-// In window mode 3 the host's window owns the dialog, so the dialog stays above it.
-TEST(OptionDialog, InModeThreeTheHostOwnsIt) {
-    e2e::FakeHost host;
-    ASSERT_TRUE(host.Window());
-    e2e::Process option = e2e::StartOption({}, {e2e::HostSwitch(e2e::SwitchString(3, 0, 0, 0, 0, L"none"))});
-    ASSERT_TRUE(option);
-    HWND dialog = e2e::FindOptionDialog(option.Id());
-    ASSERT_NE(nullptr, dialog);
-    EXPECT_EQ(host.Window(), GetWindow(dialog, GW_OWNER));
-    EXPECT_EQ(0u, Cancel(option, dialog));
-}
-
-}  // namespace
-
-namespace {
-
-// Selects the tree item of an id: the dialog shows it as the user would have chosen it.
-void SelectItem(HWND dialog, int index) {
-    HWND tree = GetDlgItem(dialog, kTreeId);
-    HTREEITEM item = reinterpret_cast<HTREEITEM>(SendMessageW(tree, TVM_GETNEXTITEM, TVGN_ROOT, 0));
-    for (int i = 0; i < index && item; ++i) {
-        item =
-            reinterpret_cast<HTREEITEM>(SendMessageW(tree, TVM_GETNEXTITEM, TVGN_NEXT, reinterpret_cast<LPARAM>(item)));
-    }
-    ASSERT_NE(nullptr, item);
-    SendMessageW(tree, TVM_SELECTITEM, TVGN_CARET, reinterpret_cast<LPARAM>(item));
-}
-
-// Apply with nothing that records a code: every host hears the empty series, and the selected
-// item becomes Start; a second Apply says it all again; OK closes after its own Apply.
-TEST(OptionDialog, ApplyTellsEveryHostAndStoresStart) {
-    e2e::registry::ScopedKey key(kOptionPage);
-    e2e::registry::WriteDword(kOptionPage, L"Start", 1000);
+// Apply stores what the user changed on each page, stores the selected item as the page to open
+// next time, and tells every running host the codes of the groups to reread between the series'
+// brackets; each Apply says it all again, and OK closes after an Apply of its own.
+TEST(OptionDialog, ApplyStoresEveryPageAndEveryHostHearsWhatToReread) {
+    reg::ScopedKey page(kOptionPage);
+    reg::ScopedKey appInfo(kAppInfo);
+    reg::ScopedKey settings(kSettings);
+    reg::WriteDword(kOptionPage, L"Start", 37);
+    reg::WriteDword(kAppInfo, L"TitleBarType", 0);
+    reg::WriteDword(kAppInfo, L"DragHelper", 1);
+    reg::DeleteValue(kAppInfo, L"ListReserveVal");
+    reg::WriteDword(kAppInfo, L"Message", 0x12340005);
     e2e::FakeHost first;
     e2e::FakeHost second({.title = L"Qor 2"});
     ASSERT_TRUE(first.Window());
@@ -104,119 +138,94 @@ TEST(OptionDialog, ApplyTellsEveryHostAndStoresStart) {
     ASSERT_TRUE(option);
     HWND dialog = e2e::FindOptionDialog(option.Id());
     ASSERT_NE(nullptr, dialog);
+    std::vector<unsigned> heard;
+    auto expectHeard = [&](std::vector<unsigned> series) {
+        heard.insert(heard.end(), series.begin(), series.end());
+        EXPECT_EQ(heard, first.Commands());
+        EXPECT_EQ(heard, second.Commands());
+    };
 
-    SelectItem(dialog, 3);  // the fourth root, "インターフェイス"
-    SendMessageW(dialog, WM_COMMAND, MAKEWPARAM(1301, BN_CLICKED), 0);
-    EXPECT_EQ(1003u, e2e::registry::ReadDword(kOptionPage, L"Start").value_or(0));
-    SendMessageW(dialog, WM_COMMAND, MAKEWPARAM(1301, BN_CLICKED), 0);
-    PostMessageW(dialog, WM_COMMAND, MAKEWPARAM(IDOK, BN_CLICKED), 0);
-    EXPECT_EQ(0u, option.WaitOrKill());
+    // The title bar form: the host takes it at its next start, so it hears only the brackets.
+    HWND style = e2e::PageWith(dialog, 1203);
+    ASSERT_NE(nullptr, style);
+    EXPECT_EQ(BST_CHECKED, SendMessageW(GetDlgItem(style, 1201), BM_GETCHECK, 0, 0));
+    SetCheck(style, 1201, false);
+    SetCheck(style, 1203, true);
+    Click(dialog, kApply);
+    EXPECT_EQ(2u, reg::ReadDword(kAppInfo, L"TitleBarType").value_or(0));
+    expectHeard({kSeriesStart, kSeriesEnd});
 
-    const std::vector<unsigned> series = {48999, 49099, 48999, 49099, 48999, 49099};
-    EXPECT_EQ(series, first.Commands());
-    EXPECT_EQ(series, second.Commands());
-}
+    // The general page: a check and the sort threshold, IME in its own section.
+    ASSERT_TRUE(e2e::SelectTreeItem(dialog, 20));
+    HWND general = e2e::PageWith(dialog, 1003);
+    ASSERT_NE(nullptr, general);
+    EXPECT_EQ(L"10", Text(GetDlgItem(general, 1003)));
+    SetCheck(general, 1256, false);
+    SetWindowTextW(GetDlgItem(general, 1003), L"25");
+    Click(dialog, kApply);
+    EXPECT_EQ(0u, reg::ReadDword(kAppInfo, L"DragHelper").value_or(99));
+    EXPECT_EQ(25u, reg::ReadDword(kAppInfo, L"ChgSortAlg").value_or(0));
+    EXPECT_EQ(1u, reg::ReadDword(kSettings, L"IME").value_or(0));
+    EXPECT_FALSE(reg::ReadDword(kAppInfo, L"ListReserveVal")) << "loaded only, never written";
+    EXPECT_EQ(20u, reg::ReadDword(kOptionPage, L"Start").value_or(0));
+    expectHeard({kSeriesStart, 49017, kSeriesEnd});
 
-}  // namespace
-
-namespace {
-
-constexpr wchar_t kSettings[] = L"Software\\Tarnwick\\Qor\\Main001\\Settings";
-
-// With LangOut on, the first opening writes the dialog's text file for translators; a translated
-// file is what the next opening shows.
-TEST(OptionDialog, WritesItsTextFileAndReadsATranslation) {
-    e2e::registry::ScopedKey settings(kSettings);
-    e2e::registry::WriteString(kSettings, L"NLS", L".ja-JP");
-    e2e::registry::WriteDword(kSettings, L"LangOut", 1);
-    const std::wstring folder = e2e::StageRoot() + L"\\command\\Option\\.ja-JP\\Option";
-    const std::wstring file = folder + L"\\159.txt";
-    DeleteFileW(file.c_str());
-
-    e2e::Process first = e2e::StartOption();
-    ASSERT_TRUE(first);
-    HWND dialog = e2e::FindOptionDialog(first.Id());
-    ASSERT_NE(nullptr, dialog);
-    EXPECT_EQ(0u, Cancel(first, dialog));
-    std::wstring text = e2e::ReadUtf16File(file);
-    ASSERT_TRUE(text.starts_with(L"\uFEFFオプション\r\n")) << "no dialog text file written";
-    EXPECT_NE(std::wstring::npos, text.find(L"1301\tButton\t適用\r\n"));
-
-    ASSERT_TRUE(e2e::WriteUtf16File(file, L"\uFEFFOptions\r\n1301\tButton\tApply\r\n"));
-    e2e::Process second = e2e::StartOption();
-    ASSERT_TRUE(second);
-    HWND translated = e2e::FindVisibleWindow(second.Id(), L"Options");
-    ASSERT_NE(nullptr, translated);
-    wchar_t apply[32] = {};
-    GetWindowTextW(GetDlgItem(translated, 1301), apply, 32);
-    EXPECT_EQ(std::wstring(L"Apply"), apply);
-    EXPECT_EQ(0u, Cancel(second, translated));
-    DeleteFileW(file.c_str());
-}
-
-}  // namespace
-
-namespace {
-
-constexpr wchar_t kAppInfo[] = L"Software\\Tarnwick\\QOR\\Main001\\AppInfo";
-
-bool Checked(HWND list, int row) {
-    return (SendMessageW(list, LVM_GETITEMSTATE, row, LVIS_STATEIMAGEMASK) >> 12) == 2;
-}
-
-// The confirmation page: its rows follow the stored bits, a preset changes the checks, and Apply
-// stores them (higher bits kept) and tells the host to reread them.
-TEST(OptionDialog, ConfirmationPageStoresItsBitsAndTellsTheHost) {
-    e2e::registry::ScopedKey page(kOptionPage);
-    e2e::registry::ScopedKey appInfo(kAppInfo);
-    e2e::registry::WriteDword(kOptionPage, L"Start", 39);
-    e2e::registry::WriteDword(kAppInfo, L"Message", 0x12340005);
-    e2e::FakeHost host;
-    ASSERT_TRUE(host.Window());
-    e2e::Process option = e2e::StartOption();
-    ASSERT_TRUE(option);
-    HWND dialog = e2e::FindOptionDialog(option.Id());
-    ASSERT_NE(nullptr, dialog);
+    // The confirmation page: its rows follow the stored bits, a preset changes the checks, and the
+    // bits are stored with the higher ones kept.
+    ASSERT_TRUE(e2e::SelectTreeItem(dialog, 39));
     HWND confirmations = e2e::PageWith(dialog, 1601);
     ASSERT_NE(nullptr, confirmations);
     HWND list = GetDlgItem(confirmations, 1601);
     ASSERT_EQ(15, SendMessageW(list, LVM_GETITEMCOUNT, 0, 0));
     for (int row = 0; row < 15; ++row) EXPECT_EQ(row == 0 || row == 2, Checked(list, row)) << row;
+    Click(confirmations, 1303);
+    Click(dialog, kApply);
+    EXPECT_EQ(0x12344704u, reg::ReadDword(kAppInfo, L"Message").value_or(0));
+    expectHeard({kSeriesStart, 49017, 49036, kSeriesEnd});
 
-    SendMessageW(confirmations, WM_COMMAND, MAKEWPARAM(1303, BN_CLICKED), 0);
-    SendMessageW(dialog, WM_COMMAND, MAKEWPARAM(1301, BN_CLICKED), 0);
-    EXPECT_EQ(0x12344704u, e2e::registry::ReadDword(kAppInfo, L"Message").value_or(0));
-    EXPECT_EQ((std::vector<unsigned>{48999, 49036, 49099}), host.Commands());
-    EXPECT_EQ(0u, Cancel(option, dialog));
+    // A group item selected, OK: its own Apply says it all again.
+    ASSERT_TRUE(e2e::SelectTreeItem(dialog, 1003));
+    EXPECT_EQ(0u, Close(option, dialog, IDOK));
+    EXPECT_EQ(1003u, reg::ReadDword(kOptionPage, L"Start").value_or(0));
+    expectHeard({kSeriesStart, 49017, 49036, kSeriesEnd});
 }
 
-}  // namespace
-
-namespace {
-
-// The title bar form is taken by the host at its next start: stored, but the host hears only the
-// brackets of the series.
-TEST(OptionDialog, TitleBarFormIsStoredAndOnlyTheBracketsAreSent) {
-    e2e::registry::ScopedKey page(kOptionPage);
-    e2e::registry::ScopedKey appInfo(kAppInfo);
-    e2e::registry::WriteDword(kOptionPage, L"Start", 37);
-    e2e::registry::WriteDword(kAppInfo, L"TitleBarType", 0);
+// A value out of range: the framework says which range, nothing is stored and no host hears
+// anything; OK still closes the dialog and leaves the page to open next time as it was.
+TEST(OptionDialog, OutOfRangeValueRefusesAndOkStillCloses) {
+    reg::ScopedKey page(kOptionPage);
+    reg::ScopedKey appInfo(kAppInfo);
+    reg::WriteDword(kOptionPage, L"Start", 30);
+    reg::WriteDword(kAppInfo, L"UsePing", 0);
+    reg::WriteDword(kAppInfo, L"NetworkTimeout", 500);
     e2e::FakeHost host;
     ASSERT_TRUE(host.Window());
     e2e::Process option = e2e::StartOption();
     ASSERT_TRUE(option);
     HWND dialog = e2e::FindOptionDialog(option.Id());
     ASSERT_NE(nullptr, dialog);
-    HWND style = e2e::PageWith(dialog, 1203);
-    ASSERT_NE(nullptr, style);
-    EXPECT_EQ(BST_CHECKED, SendMessageW(GetDlgItem(style, 1201), BM_GETCHECK, 0, 0));
+    HWND network = e2e::PageWith(dialog, 1001);
+    ASSERT_NE(nullptr, network);
+    EXPECT_FALSE(IsWindowEnabled(GetDlgItem(network, 1001))) << "no ping, no time-out";
+    SetCheck(network, 1251, true);
+    Click(network, 1251);
+    EXPECT_TRUE(IsWindowEnabled(GetDlgItem(network, 1001)));
+    SetWindowTextW(GetDlgItem(network, 1001), L"5");
 
-    SendMessageW(GetDlgItem(style, 1201), BM_SETCHECK, BST_UNCHECKED, 0);
-    SendMessageW(GetDlgItem(style, 1203), BM_SETCHECK, BST_CHECKED, 0);
+    PostMessageW(dialog, WM_COMMAND, MAKEWPARAM(kApply, BN_CLICKED), 0);
+    EXPECT_EQ(L"Please enter an integer between 10 and 5000000.", TakeMessageBox(option));
+    SendMessageW(dialog, WM_NULL, 0, 0);
+    EXPECT_EQ(0u, reg::ReadDword(kAppInfo, L"UsePing").value_or(99));
+    EXPECT_TRUE(host.Commands().empty());
+
+    // A full pass would make the selected root the page to open next time.
+    ASSERT_TRUE(e2e::SelectTreeItem(dialog, 1007));
     PostMessageW(dialog, WM_COMMAND, MAKEWPARAM(IDOK, BN_CLICKED), 0);
+    EXPECT_EQ(L"Please enter an integer between 10 and 5000000.", TakeMessageBox(option));
     EXPECT_EQ(0u, option.WaitOrKill());
-    EXPECT_EQ(2u, e2e::registry::ReadDword(kAppInfo, L"TitleBarType").value_or(0));
-    EXPECT_EQ((std::vector<unsigned>{48999, 49099}), host.Commands());
+    EXPECT_EQ(30u, reg::ReadDword(kOptionPage, L"Start").value_or(0));
+    EXPECT_EQ(500u, reg::ReadDword(kAppInfo, L"NetworkTimeout").value_or(0));
+    EXPECT_TRUE(host.Commands().empty());
 }
 
 }  // namespace

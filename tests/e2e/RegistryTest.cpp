@@ -60,27 +60,20 @@ TEST(Registry, ScopedKeyPutsBackEveryValueAndSubkey) {
     reg::DeleteKey(kRoot);
 }
 
-TEST(Registry, ScopedKeyRemovesAKeyThatWasNotThere) {
+TEST(Registry, ReadsTellTypesAndAbsenceApartAndANewKeyIsRemovedAgain) {
     reg::DeleteKey(kRoot);
     {
         reg::ScopedKey saved(kRoot);
-        reg::WriteString(kRoot + L"\\Sub", L"Name", L"value");
-        EXPECT_EQ(L"value", reg::ReadString(kRoot + L"\\Sub", L"Name"));
+        reg::WriteDword(kRoot, L"Number", 0xFFFFFFFF);
+        reg::WriteString(kRoot + L"\\Sub", L"Text", L"設定");
+        reg::Write(kRoot, L"Unterminated", Bytes(REG_SZ, {'o', 0, 'k', 0}));
+
+        EXPECT_EQ(0xFFFFFFFFu, reg::ReadDword(kRoot, L"Number"));
+        EXPECT_EQ(L"設定", reg::ReadString(kRoot + L"\\Sub", L"Text"));
+        EXPECT_EQ(L"ok", reg::ReadString(kRoot, L"Unterminated"));
+        EXPECT_EQ(std::nullopt, reg::ReadDword(kRoot + L"\\Sub", L"Text"));
+        EXPECT_EQ(std::nullopt, reg::ReadString(kRoot, L"Number"));
+        EXPECT_EQ(std::nullopt, reg::ReadString(kRoot + L"\\MissingKey", L"Text"));
     }
     EXPECT_FALSE(reg::KeyExists(kRoot));
-}
-
-TEST(Registry, ReadsTellTypesAndAbsenceApart) {
-    reg::ScopedKey saved(kRoot);
-    reg::WriteDword(kRoot, L"Number", 0xFFFFFFFF);
-    reg::WriteString(kRoot, L"Text", L"設定");
-    reg::Write(kRoot, L"Unterminated", Bytes(REG_SZ, {'o', 0, 'k', 0}));
-
-    EXPECT_EQ(0xFFFFFFFFu, reg::ReadDword(kRoot, L"Number"));
-    EXPECT_EQ(L"設定", reg::ReadString(kRoot, L"Text"));
-    EXPECT_EQ(L"ok", reg::ReadString(kRoot, L"Unterminated"));
-    EXPECT_EQ(std::nullopt, reg::ReadDword(kRoot, L"Text"));
-    EXPECT_EQ(std::nullopt, reg::ReadString(kRoot, L"Number"));
-    EXPECT_EQ(std::nullopt, reg::ReadDword(kRoot, L"Missing"));
-    EXPECT_EQ(std::nullopt, reg::ReadString(kRoot + L"\\MissingKey", L"Text"));
 }

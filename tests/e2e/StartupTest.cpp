@@ -1,63 +1,97 @@
-// Option.exe as the host and the user start it: a whole process, from the staged installation.
+// Runs that end at once, as the host starts the program for a file ("/T"): what they read of the
+// block the host filled, and what the host sees of them afterwards.
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <string>
 #include <vector>
 
 #include "support/FakeHostProcess.h"
 #include "support/HostHandshake.h"
-#include "support/OptionWindow.h"
 #include "support/Process.h"
 
-using e2e::EnvChanges;
-using e2e::RunOption;
-using testing::IsEmpty;
+namespace {
 
-TEST(Startup, TheStagedProgramIsThere) {
-    std::wstring exe = e2e::OptionExePath();
-    EXPECT_NE(INVALID_FILE_ATTRIBUTES, GetFileAttributesW(exe.c_str())) << "missing: " << exe.size() << " chars";
+// Another window takes the foreground, so that coming forward is a change the host logs.
+class OtherWindow {
+public:
+    OtherWindow() {
+        window_ = CreateWindowExW(0, L"STATIC", L"other", WS_POPUP | WS_VISIBLE, 0, 0, 50, 50, nullptr, nullptr,
+                                  nullptr, nullptr);
+        SetForegroundWindow(window_);
+        Pump();
+    }
+    ~OtherWindow() { DestroyWindow(window_); }
+
+    static void Pump() {
+        MSG msg;
+        for (int i = 0; i < 20; ++i) {
+            while (PeekMessageW(&msg, nullptr, 0, 0, PM_REMOVE)) DispatchMessageW(&msg);
+            Sleep(10);
+        }
+    }
+
+private:
+    HWND window_;
+};
+
+const int kBlockFirst = static_cast<int>(GetCurrentProcessId());
+constexpr int kBlockSecond = 1;
+
+// A switch string that names the block each row lays out, or another one.
+std::wstring NamingTheBlock(int windowMode, int reactivate, const wchar_t* word, int second = kBlockSecond) {
+    return e2e::SwitchString(windowMode, reactivate, kBlockFirst, second, 1024, word);
 }
 
-TEST(Startup, EndsWithExitCodeZero) {
+// The program reads the block (leaving a zero where each tab was) exactly when the switch string
+// names it with "Share", and naming one that does not exist is no fault. The host comes forward
+// exactly when it asked with reactivate 1 in a string of ten fields, and hears nothing else. A copy
+// already running changes none of that.
+TEST(Startup, ARunThatEndsAtOnceReadsTheBlockAndHandsBackOnlyWhenAsked) {
     struct Case {
         const char* what;
         std::vector<std::wstring> args;
-        EnvChanges env;
+        std::wstring switches;
+        bool read;
+        bool forward;
     };
     const Case cases[] = {
-        {"/T with a file ends at once", {L"/T", L"C:\\none.txt"}, {}},
-        {"switches ignore case", {L"/t", L"x"}, {}},
-        {"the last switch counts", {L"/E", L"a", L"/T", L"b"}, {}},
-        {"a malformed switch string is ignored", {L"/T", L"x"}, {e2e::HostSwitch(L"1:1:2:3")}},
-        {"a switch string without a block",
-         {L"/T", L"x"},
-         {e2e::HostSwitch(e2e::SwitchString(0, 0, 1, 2, 64, L"share"))}},
-        {"an empty switch string", {L"/T", L"x"}, {e2e::HostSwitch(L"")}},
+        {"Share, reactivate 1", {L"/T", L"C:\\none.txt"}, NamingTheBlock(0, 1, L"Share"), true, true},
+        {"share in other case, reactivate 1", {L"/T", L"x"}, NamingTheBlock(2, 1, L"share"), false, true},
+        {"another word, reactivate 2", {L"/T", L"x"}, NamingTheBlock(0, 2, L"None"), false, false},
+        {"Share, no such block", {L"/T", L"x"}, NamingTheBlock(3, 0, L"Share", 424242), false, false},
+        {"switches ignore case; nine fields", {L"/t", L"x"}, L"0:1:1:2:64:0:0:0:None", false, false},
+        {"last switch counts; 11 fields", {L"/E", L"a", L"/T", L"b"}, L"0:1:1:2:64:0:0:0:None:x:y", false, false},
+        {"an empty switch string", {L"/T", L"x"}, L"", false, false},
+        {"a malformed switch string", {L"/T", L"x"}, L"1:1:2:3", false, false},
     };
+    // The mark a first copy leaves; every run here must start and end as usual beside it.
+    e2e::UniqueHandle otherCopy(CreateMutexW(nullptr, FALSE, L"ExCommand.Option.exe"));
+    ASSERT_TRUE(otherCopy);
+    e2e::FakeHost host;
+    ASSERT_TRUE(host.Window());
+    const std::wstring text =
+        e2e::ShareBlockText(L"C:\\work", L"-o", {L"C:\\work\\a.txt", L"C:\\work\\b.txt"}, {L"C:\\x"});
+    std::wstring read = text;
+    std::replace(read.begin(), read.end(), L'\t', L'\0');
     for (const Case& c : cases) {
         SCOPED_TRACE(c.what);
-        EXPECT_EQ(0u, RunOption(c.args, c.env));
+        e2e::ShareBlock block(kBlockFirst, kBlockSecond, 1024, text);
+        ASSERT_TRUE(block.Valid());
+        OtherWindow other;
+        host.TakeLines();
+
+        EXPECT_EQ(0u, e2e::RunOption(c.args, {e2e::HostSwitch(c.switches)}));
+        EXPECT_EQ(c.read ? read : text, block.Contents().substr(0, text.size()));
+        for (int tries = 0; c.forward && tries < 60 && GetForegroundWindow() != host.Window(); ++tries) {
+            OtherWindow::Pump();
+        }
+        OtherWindow::Pump();
+        EXPECT_EQ(c.forward, GetForegroundWindow() == host.Window());
+        const std::vector<std::string> heard = host.TakeLines();
+        EXPECT_EQ(c.forward ? std::vector<std::string>{"activate"} : std::vector<std::string>{}, heard);
     }
 }
 
-// No arguments: the option dialog opens and the program ends when it is closed.
-TEST(Startup, NoArgumentsOpensTheOptionDialog) {
-    e2e::Process option = e2e::StartOption();
-    ASSERT_TRUE(option);
-    HWND dialog = e2e::FindOptionDialog(option.Id());
-    ASSERT_NE(nullptr, dialog);
-    EXPECT_TRUE(IsWindowVisible(dialog));
-    PostMessageW(dialog, WM_COMMAND, MAKEWPARAM(IDCANCEL, BN_CLICKED), 0);
-    EXPECT_EQ(0u, option.WaitOrKill());
-}
-
-TEST(Startup, EndingAtOnceSendsTheHostNothing) {
-    e2e::FakeHost host;
-    ASSERT_TRUE(host.Window());
-    e2e::ShareBlock block(4242, 1, 1024, e2e::ShareBlockText(L"C:\\work", L"", {L"C:\\work\\a.txt"}, {}));
-    ASSERT_TRUE(block.Valid());
-
-    EXPECT_EQ(0u, RunOption({L"/T", L"C:\\none.txt"}, {e2e::HostSwitch(block.Switch())}));
-    EXPECT_THAT(host.Lines(), IsEmpty());
-}
+}  // namespace

@@ -1,5 +1,7 @@
 #include "FakeHostProcess.h"
 
+#include "OptionWindow.h"
+
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -17,24 +19,6 @@ std::wstring NewLogPath() {
     DWORD length = GetTempPathW(MAX_PATH + 1, temp);
     return std::wstring(temp, length) + L"FakeHost-" + std::to_wstring(GetCurrentProcessId()) + L"-" +
            std::to_wstring(++counter) + L".log";
-}
-
-struct WindowSearch {
-    DWORD processId;
-    std::wstring className;
-    HWND found;
-};
-
-BOOL CALLBACK MatchWindow(HWND hwnd, LPARAM lp) {
-    auto& search = *reinterpret_cast<WindowSearch*>(lp);
-    DWORD owner = 0;
-    GetWindowThreadProcessId(hwnd, &owner);
-    wchar_t name[256];
-    if (owner == search.processId && GetClassNameW(hwnd, name, 256) && search.className == name) {
-        search.found = hwnd;
-        return FALSE;
-    }
-    return TRUE;
 }
 
 // The lines after the first "ready"; all of them when there is none.
@@ -68,21 +52,21 @@ std::vector<std::string> ReadLogLines(const std::wstring& path) {
 }
 
 FakeHost::FakeHost(FakeHostOptions options, std::source_location where) : logPath_(NewLogPath()) {
-    std::vector<std::wstring> args = {L"--log", logPath_, L"--title", options.title, L"--class", options.className};
+    std::vector<std::wstring> args = {L"--log", logPath_, L"--title", options.title};
     if (options.hidden) args.push_back(L"--hidden");
-    for (const std::wstring& name : options.printEnv) args.insert(args.end(), {L"--print-env", name});
-    process_ = Process::Start(TestDirectory() + L"\\FakeHost.exe", args, options.env, where);
+    process_ = Process::Start(TestDirectory() + L"\\FakeHost.exe", args, {}, where);
     if (!process_) return;
 
     ULONGLONG deadline = GetTickCount64() + kStartTimeoutMs;
-    while (!window_ && GetTickCount64() < deadline && process_.Running()) {
-        std::vector<std::string> lines = AllLines();
-        if (std::find(lines.begin(), lines.end(), kReady) != lines.end()) {
-            WindowSearch search{process_.Id(), options.className, nullptr};
-            EnumWindows(MatchWindow, reinterpret_cast<LPARAM>(&search));
-            window_ = search.found;
-        }
-        if (!window_) Sleep(20);
+    for (std::vector<std::string> lines; GetTickCount64() < deadline && process_.Running(); Sleep(20)) {
+        lines = ReadLogLines(logPath_);
+        if (std::find(lines.begin(), lines.end(), kReady) == lines.end()) continue;
+        auto isHost = [](HWND window) {
+            wchar_t name[64] = {};
+            return GetClassNameW(window, name, 64) && std::wstring(name) == kHostClassName;
+        };
+        window_ = FindWindowOf(process_.Id(), isHost, 0);
+        break;
     }
     if (!window_) ADD_FAILURE_AT(where.file_name(), where.line()) << "FakeHost.exe did not come up";
 }
@@ -96,12 +80,8 @@ FakeHost::~FakeHost() {
     DeleteFileW(logPath_.c_str());
 }
 
-std::vector<std::string> FakeHost::AllLines() const {
-    return ReadLogLines(logPath_);
-}
-
 std::vector<std::string> FakeHost::Lines() const {
-    return AfterReady(AllLines());
+    return AfterReady(ReadLogLines(logPath_));
 }
 
 std::vector<std::string> FakeHost::TakeLines() {
@@ -117,22 +97,6 @@ std::vector<unsigned> FakeHost::Commands() const {
         if (line.rfind("command ", 0) == 0) commands.push_back(static_cast<unsigned>(std::stoul(line.substr(8))));
     }
     return commands;
-}
-
-bool FakeHost::WaitForLine(const std::string& line, DWORD timeoutMs) const {
-    ULONGLONG deadline = GetTickCount64() + timeoutMs;
-    for (;;) {
-        std::vector<std::string> lines = Lines();
-        if (std::find(lines.begin(), lines.end(), line) != lines.end()) return true;
-        if (GetTickCount64() >= deadline) return false;
-        Sleep(20);
-    }
-}
-
-DWORD FakeHost::Stop(std::source_location where) {
-    static const UINT quit = RegisterWindowMessageW(L"FakeHost.Quit");
-    if (process_.Running()) PostMessageW(window_, quit, 0, 0);
-    return process_.WaitOrKill(5000, where);
 }
 
 }  // namespace e2e

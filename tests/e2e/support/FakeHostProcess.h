@@ -15,12 +15,7 @@ constexpr wchar_t kHostClassName[] = L"{0F04AF43-7B85-46A5-A0A7-6D323A84AD7C}";
 
 struct FakeHostOptions {
     std::wstring title = L"Qor";
-    // Another class makes a window that is no host, e.g. a trace window found by its title only.
-    std::wstring className = kHostClassName;
     bool hidden = false;
-    // Changes to the environment FakeHost.exe starts with, and variables it logs before "ready".
-    EnvChanges env;
-    std::vector<std::wstring> printEnv;
 };
 
 // One FakeHost.exe with its own log file. The constructor returns once its window exists;
@@ -34,8 +29,6 @@ public:
 
     // Null when the host did not come up (the test has failed then).
     HWND Window() const { return window_; }
-    const std::wstring& LogPath() const { return logPath_; }
-    const Process& GetProcess() const { return process_; }
 
     // Every line logged after "ready", e.g. "command 48999", "copydata 1 text", "activate".
     std::vector<std::string> Lines() const;
@@ -43,15 +36,8 @@ public:
     std::vector<std::string> TakeLines();
     // Only the "command <n>" lines, as numbers.
     std::vector<unsigned> Commands() const;
-    // Waits for a line equal to line; false on time-out.
-    bool WaitForLine(const std::string& line, DWORD timeoutMs = 5000) const;
-
-    // Asks the host to end and waits for it; kills it when it does not. Returns its exit code.
-    DWORD Stop(std::source_location where = std::source_location::current());
 
 private:
-    std::vector<std::string> AllLines() const;
-
     std::wstring logPath_;
     Process process_;
     HWND window_ = nullptr;

@@ -8,6 +8,8 @@
 
 #include <vector>
 
+#include "app/OptionPageTable.h"
+
 namespace e2e {
 
 constexpr int kOptionTreeId = 1621;
@@ -37,6 +39,17 @@ inline std::vector<HTREEITEM> ExpandAllTreeItems(HWND tree) {
         stack.insert(stack.end(), children.rbegin(), children.rend());
     }
     return items;
+}
+
+// Selects the item of a page or group id, as a click on it would; false when the tree has none.
+inline bool SelectTreeItem(HWND dialog, int id) {
+    HWND tree = GetDlgItem(dialog, kOptionTreeId);
+    const auto rows = OptionTreeRows();
+    const std::vector<HTREEITEM> items = ExpandAllTreeItems(tree);
+    for (size_t i = 0; i < rows.size() && i < items.size(); ++i) {
+        if (rows[i].id == id) return SendMessageW(tree, TVM_SELECTITEM, TVGN_CARET, reinterpret_cast<LPARAM>(items[i]));
+    }
+    return false;
 }
 
 // Returns once the dialog's thread has handled what it was sent, painted what it must and waits

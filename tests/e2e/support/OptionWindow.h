@@ -1,16 +1,35 @@
-// The option dialog of a running Option.exe, as another process finds and works it.
+// The windows of a running Option.exe as another process finds and works them: the option dialog,
+// message boxes and the folder browser.
 #pragma once
 
 #include <windows.h>
 
+#include <functional>
+#include <string>
+
 namespace e2e {
 
-// The visible top-level window titled title that the process shows; null when none appears in time.
+// The first top-level window of the process that match accepts; null when none comes in time.
+HWND FindWindowOf(DWORD processId, const std::function<bool(HWND)>& match, DWORD timeoutMs = 10000, DWORD pollMs = 50);
+// The visible top-level window titled title that the process shows.
 HWND FindVisibleWindow(DWORD processId, const wchar_t* title, DWORD timeoutMs = 10000, DWORD pollMs = 50);
-// The visible top-level dialog titled "オプション" that the process shows; null when none appears in
-// time.
+// The visible top-level dialog titled "オプション" that the process shows.
 HWND FindOptionDialog(DWORD processId, DWORD timeoutMs = 10000);
 // The page of the dialog that holds a control, found among the dialog's child windows.
 HWND PageWith(HWND dialog, int controlId);
+
+// All static texts of a dialog, joined: a message box's text is one of them.
+std::wstring DialogText(HWND dialog);
+// A visible message box of the process (a dialog without a tree) once its text is in.
+HWND FindMessageBox(DWORD processId, DWORD timeoutMs = 10000);
+// The visible folder browser of the process (a dialog holding a tree).
+HWND FindFolderBrowser(DWORD processId, DWORD timeoutMs = 10000);
+// Answers a dialog with a button and waits until it is gone.
+bool Answer(HWND dialog, int button, DWORD timeoutMs = 10000);
+
+// Selects a folder in the browser of process by its path, or "My Computer", which has none.
+// process needs PROCESS_VM_OPERATION and PROCESS_VM_WRITE.
+bool SelectFolder(HANDLE process, HWND browser, const std::wstring& path);
+bool SelectMyComputer(HANDLE process, HWND browser);
 
 }  // namespace e2e

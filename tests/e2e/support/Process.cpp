@@ -21,20 +21,7 @@ std::wstring StripFileName(const std::wstring& path) {
     return slash == std::wstring::npos ? std::wstring() : path.substr(0, slash);
 }
 
-}  // namespace
-
-std::wstring TestDirectory() {
-    std::wstring path(MAX_PATH, L'\0');
-    for (;;) {
-        DWORD length = GetModuleFileNameW(nullptr, path.data(), static_cast<DWORD>(path.size()));
-        if (length < path.size()) {
-            path.resize(length);
-            return StripFileName(path);
-        }
-        path.resize(path.size() * 2);
-    }
-}
-
+// A Unix path as Wine's Z: drive shows it.
 std::wstring WinePath(const std::string& unixPath) {
     int size = MultiByteToWideChar(CP_UTF8, 0, unixPath.c_str(), -1, nullptr, 0);
     std::wstring wide(size > 0 ? size - 1 : 0, L'\0');
@@ -44,22 +31,7 @@ std::wstring WinePath(const std::string& unixPath) {
     return L"Z:" + wide;
 }
 
-std::wstring StageRoot() {
-    wchar_t value[4096];
-    DWORD length = GetEnvironmentVariableW(L"OPTION_STAGE", value, 4096);
-    if (length > 0 && length < 4096) {
-        std::wstring root(value, length);
-        // Set by the Unix side, so normally a Unix path; a Windows path is taken as it stands.
-        return root.front() == L'/' ? WinePath(Utf8(root)) : root;
-    }
-    // build/win64/tests/e2e/e2e_tests.exe -> build/stage
-    return StripFileName(StripFileName(StripFileName(TestDirectory()))) + L"\\stage";
-}
-
-std::wstring OptionExePath() {
-    return StageRoot() + L"\\command\\Option\\Option.exe";
-}
-
+// The command line CommandLineToArgvW and the C runtime split back into exactly these arguments.
 std::wstring QuoteArgument(const std::wstring& argument) {
     if (!argument.empty() && argument.find_first_of(L" \t\n\v\"") == std::wstring::npos) return argument;
     std::wstring quoted = L"\"";
@@ -78,6 +50,7 @@ std::wstring QuoteArgument(const std::wstring& argument) {
     return quoted + L"\"";
 }
 
+// This process's environment with the changes applied, as a sorted CREATE_UNICODE_ENVIRONMENT block.
 std::wstring EnvironmentBlock(const EnvChanges& changes) {
     // Keyed by the upper-case name: Windows sorts and matches variables without regard to case.
     std::map<std::wstring, std::wstring> variables;
@@ -91,12 +64,7 @@ std::wstring EnvironmentBlock(const EnvChanges& changes) {
         }
         FreeEnvironmentStringsW(strings);
     }
-    for (const EnvVar& change : changes) {
-        if (change.value)
-            variables[Upper(change.name)] = change.name + L"=" + *change.value;
-        else
-            variables.erase(Upper(change.name));
-    }
+    for (const EnvVar& change : changes) variables[Upper(change.name)] = change.name + L"=" + change.value;
     std::wstring block;
     for (const auto& [key, entry] : variables) {
         block += entry;
@@ -105,6 +73,36 @@ std::wstring EnvironmentBlock(const EnvChanges& changes) {
     if (block.empty()) block += L'\0';
     block += L'\0';
     return block;
+}
+
+}  // namespace
+
+std::wstring TestDirectory() {
+    std::wstring path(MAX_PATH, L'\0');
+    for (;;) {
+        DWORD length = GetModuleFileNameW(nullptr, path.data(), static_cast<DWORD>(path.size()));
+        if (length < path.size()) {
+            path.resize(length);
+            return StripFileName(path);
+        }
+        path.resize(path.size() * 2);
+    }
+}
+
+std::wstring StageRoot() {
+    wchar_t value[4096];
+    DWORD length = GetEnvironmentVariableW(L"OPTION_STAGE", value, 4096);
+    if (length > 0 && length < 4096) {
+        std::wstring root(value, length);
+        // Set by the Unix side, so normally a Unix path; a Windows path is taken as it stands.
+        return root.front() == L'/' ? WinePath(Utf8(root)) : root;
+    }
+    // build/win64/tests/e2e/e2e_tests.exe -> build/stage
+    return StripFileName(StripFileName(StripFileName(TestDirectory()))) + L"\\stage";
+}
+
+std::wstring OptionExePath() {
+    return StageRoot() + L"\\command\\Option\\Option.exe";
 }
 
 Process::~Process() {

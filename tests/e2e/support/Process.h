@@ -18,26 +18,19 @@ constexpr DWORD kDefaultTimeoutMs = 20000;
 // The exit code a process gets when a test has to kill it.
 constexpr DWORD kKilledExitCode = 0xDEAD;
 
-// One change to the environment a child inherits: a value sets the variable, nullopt removes it.
+// A variable set in the environment a child inherits.
 struct EnvVar {
     std::wstring name;
-    std::optional<std::wstring> value;
+    std::wstring value;
 };
 using EnvChanges = std::vector<EnvVar>;
 
 // The folder that holds the running test executable (and FakeHost.exe beside it), no trailing backslash.
 std::wstring TestDirectory();
-// A Unix path as Wine's Z: drive shows it.
-std::wstring WinePath(const std::string& unixPath);
 // Root of the staged installation: OPTION_STAGE, or build/stage seen from the test executable.
 std::wstring StageRoot();
 // <root>\command\Option\Option.exe
 std::wstring OptionExePath();
-
-// The command line CommandLineToArgvW and the C runtime split back into exactly these arguments.
-std::wstring QuoteArgument(const std::wstring& argument);
-// This process's environment with the changes applied, as a sorted CREATE_UNICODE_ENVIRONMENT block.
-std::wstring EnvironmentBlock(const EnvChanges& changes);
 
 // A child process; killed on destruction if it still runs.
 class Process {

@@ -105,6 +105,8 @@ std::vector<double> TimeApplies(const Shown& shown, int count) {
 }
 
 struct Figures {
+    explicit Figures(const char* name) : what(name) {}
+
     const char* what;
     std::vector<double> times;
 
