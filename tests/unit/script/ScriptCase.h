@@ -8,11 +8,19 @@
 #include "unit/script/ScriptFixture.h"
 
 struct ScriptCase {
+    using Values = std::vector<std::pair<std::wstring, std::wstring>>;
+
+    // Rows name what they check; what they leave out is expected empty, and the result 0.
+    ScriptCase(const char* label, std::vector<std::wstring> lines, Values values = {},
+               std::vector<std::wstring> messages = {}, int32_t result = 0)
+        : label(label), lines(std::move(lines)), values(std::move(values)), messages(std::move(messages)),
+          result(result) {}
+
     const char* label;
     std::vector<std::wstring> lines;
-    std::vector<std::pair<std::wstring, std::wstring>> values;
+    Values values;
     std::vector<std::wstring> messages;
-    int32_t result = 0;
+    int32_t result;
 };
 
 class ScriptCaseTest : public ScriptFixture {

@@ -58,6 +58,12 @@ protected:
         return value ? *value : L"<none>";
     }
 
+    // What the user is told of a line whose form is wrong, and asked of a line nobody understands.
+    static std::wstring SyntaxError(const std::wstring& line) { return L"Syntax error!\n" + line; }
+    static std::wstring NotUnderstood(const std::wstring& numberedLine) {
+        return L"This is the line that I do not understand.\nDo you want to continue?\n" + numberedLine;
+    }
+
     std::vector<std::wstring> Messages() {
         std::vector<std::wstring> texts;
         for (const auto& shown : fake.prompts().shown()) texts.push_back(shown.text);
