@@ -24,17 +24,8 @@ TEST(ScriptCall, WaitsAsTheKindSaysAndGivesTheExitCode) {
         std::vector<std::wstring> events;
         size_t questions;
     };
-    FakeProgram ends;
-    ends.exitCode = 7;
-    FakeProgram negative;
-    negative.exitCode = 0xFFFFFFFF;
-    FakeProgram outlives;
-    outlives.waitResult = platform::kWaitTimeout;
-    outlives.exitCode = 259;
-    FakeProgram noCode;
-    noCode.exitCodeError = 6;
-    FakeProgram cannotStart;
-    cannotStart.starts = false;
+    const FakeProgram ends{.exitCode = 7}, negative{.exitCode = 0xFFFFFFFF}, noCode{.exitCodeError = 6};
+    const FakeProgram outlives{.waitResult = platform::kWaitTimeout, .exitCode = 259}, cannotStart{.starts = false};
     // clang-format off
     const Case cases[] = {
         {"call of a program that ends", CallKind::Call, ends, {}, L"7", {L"wait 4000", L"exit code", L"close"}, 0},

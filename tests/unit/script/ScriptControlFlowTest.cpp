@@ -1,10 +1,10 @@
 #include <gtest/gtest.h>
 
-#include "unit/script/ScriptCase.h"
+#include "unit/script/ScriptFixture.h"
 
 namespace {
 
-class ScriptControlFlowTest : public ScriptCaseTest {};
+class ScriptControlFlowTest : public ScriptFixture {};
 
 // Blocks, loops and jumps; a question about a line is answered Yes.
 TEST_F(ScriptControlFlowTest, BlocksLoopsAndJumps) {

@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "unit/script/ScriptCase.h"
+#include "unit/script/ScriptFixture.h"
 
 namespace {
 
@@ -19,7 +19,7 @@ std::string Wide(std::wstring_view text) {
 
 const std::string kMark = "\xFF\xFE";
 
-class ScriptFileWordsTest : public ScriptCaseTest {
+class ScriptFileWordsTest : public ScriptFixture {
 protected:
     ScriptFileWordsTest() {
         fake.files().AddFile(L"C:\\data\\a.txt", Utf16Bytes(L"a1\r\na2\r\n", true));

@@ -1,11 +1,11 @@
 // The functions of an assignment: the value stored, the messages shown, and how the run goes on.
 #include <gtest/gtest.h>
 
-#include "unit/script/ScriptCase.h"
+#include "unit/script/ScriptFixture.h"
 
 namespace {
 
-class ScriptFunctionsTest : public ScriptCaseTest {
+class ScriptFunctionsTest : public ScriptFixture {
 protected:
     ScriptFunctionsTest() {
         fake.files().AddFile(L"C:\\Data\\notes.txt", std::string_view("n"));

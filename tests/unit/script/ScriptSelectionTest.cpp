@@ -5,11 +5,11 @@
 #include <vector>
 
 #include "script/DirectoryItems.h"
-#include "unit/script/ScriptCase.h"
+#include "unit/script/ScriptFixture.h"
 
 namespace {
 
-class ScriptSelectionTest : public ScriptCaseTest {
+class ScriptSelectionTest : public ScriptFixture {
 protected:
     ScriptSelectionTest() {
         fake.files().AddFile(L"C:\\Pics\\a.jpg", std::string_view("a"));

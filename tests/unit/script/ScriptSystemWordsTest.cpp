@@ -7,13 +7,13 @@
 #include <vector>
 
 #include "services/Format.h"
-#include "unit/script/ScriptCase.h"
+#include "unit/script/ScriptFixture.h"
 
 namespace {
 
 constexpr const wchar_t* kBase = L"Software\\Tarnwick\\Qor\\Main001\\";
 
-class ScriptSystemWordsTest : public ScriptCaseTest {
+class ScriptSystemWordsTest : public ScriptFixture {
 protected:
     // "dword:<n>" or "sz:<text up to its NUL>/<bytes>" of a value under the scripts' key. The system
     // stores a string's terminator when it stands right behind the counted bytes, hence two bytes more.

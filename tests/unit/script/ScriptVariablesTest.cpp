@@ -1,10 +1,10 @@
 #include <gtest/gtest.h>
 
-#include "unit/script/ScriptCase.h"
+#include "unit/script/ScriptFixture.h"
 
 namespace {
 
-class ScriptVariablesTest : public ScriptCaseTest {};
+class ScriptVariablesTest : public ScriptFixture {};
 
 TEST_F(ScriptVariablesTest, AssignmentsAndDeclarations) {
     // clang-format off
