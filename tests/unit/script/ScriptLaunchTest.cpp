@@ -34,7 +34,13 @@ protected:
     }
 };
 
+// An included script runs its own entries when it ends, before the parent goes on; a list that shrank
+// under the entries ends the whole run, the including scripts too, while without entries nothing is
+// looked at.
 TEST_F(ScriptLaunchTest, WhatStartsAndWhen) {
+    const std::wstring include = std::wstring(L"include = ") + kScriptDirectory;
+    AddScript(L"child.txt", {L"commandlineoption = ?SelFile?", L"exrun = child.exe"});
+    AddScript(L"shrink.txt", {L"commandlineoption = ?SelFile?", L"exrun = v.exe", L"removeselectitems = *.txt"});
     struct Case {
         const char* label;
         std::vector<std::wstring> lines, started;
@@ -81,6 +87,17 @@ TEST_F(ScriptLaunchTest, WhatStartsAndWhen) {
         {"too many backward jumps still run them",
          {L"commandlineoption = ?SelFile?", L"filter = jpg", L"exrun = v.exe", L"exitloopcount = 0", L"top:",
           L"goto top"}, {L"v.exe \"C:\\Data\\b.jpg\" @ C:\\Now"}},
+        {"an included script's entries first",
+         {include + L"child.txt", L"openmode = 1", L"run = p.exe", L"exrun = o.exe"},
+         {L"child.exe \"C:\\Data\\a.txt\" @ C:\\Now", L"child.exe \"C:\\Data\\b.jpg\" @ C:\\Now",
+          L"child.exe \"C:\\Data\\c.TXT\" @ C:\\Now", L"p.exe \"C:\\Data\\a.txt\" @ C:\\Now",
+          L"p.exe \"C:\\Data\\b.jpg\" @ C:\\Now", L"p.exe \"C:\\Data\\c.TXT\" @ C:\\Now",
+          L"o.exe \"C:\\Data\\a.txt\" @ C:\\Now", L"o.exe \"C:\\Data\\b.jpg\" @ C:\\Now",
+          L"o.exe \"C:\\Data\\c.TXT\" @ C:\\Now"}},
+        {"a list that shrank under an included script's entries ends the parent too",
+         {include + L"shrink.txt", L"openmode = 1", L"run = p.exe"}, {L"v.exe \"C:\\Data\\b.jpg\" @ C:\\Now"}},
+        {"without entries a shrunk list ends nothing",
+         {L"removeselectitems", L"openmode = 1", L"commandlineoption = /x", L"run = p.exe"}, {L"p.exe /x @ C:\\Now"}},
     };
     // clang-format on
     for (const Case& c : cases) {
@@ -100,32 +117,6 @@ TEST_F(ScriptLaunchTest, AlternativesAreOfferedPerItem) {
     ASSERT_EQ(2u, fake.prompts().offered().size());
     EXPECT_EQ((platform::ChoiceRequest{L"Please select an application.", L"b.txt", {L"edit.exe", L"view.exe"}}),
               fake.prompts().offered()[1]);
-}
-
-// An included script runs its own entries when it ends, before the parent goes on.
-TEST_F(ScriptLaunchTest, AnIncludedScriptRunsItsOwnEntriesFirst) {
-    selection = {L"C:\\Data\\a.txt"};
-    AddScript(L"child.txt", {L"commandlineoption = ?SelFile?", L"exrun = child.exe"});
-    const std::vector<std::wstring> started = RunFor({std::wstring(L"include = ") + kScriptDirectory + L"child.txt",
-                                                      L"openmode = 1", L"run = parent.exe", L"exrun = own.exe"});
-    EXPECT_EQ((std::vector<std::wstring>{L"child.exe \"C:\\Data\\a.txt\" @ C:\\Now",
-                                         L"parent.exe \"C:\\Data\\a.txt\" @ C:\\Now",
-                                         L"own.exe \"C:\\Data\\a.txt\" @ C:\\Now"}),
-              started);
-}
-
-// A list that shrank under the entries ends the whole run, the including scripts too; without
-// entries nothing is looked at.
-TEST_F(ScriptLaunchTest, AShrunkListEndsTheWholeRun) {
-    selection = {L"C:\\Data\\a.txt", L"C:\\Data\\b.jpg", L"C:\\Data\\c.TXT"};
-    AddScript(L"child.txt", {L"commandlineoption = ?SelFile?", L"exrun = v.exe", L"removeselectitems = *.txt"});
-    const std::vector<std::wstring> started =
-        RunFor({std::wstring(L"include = ") + kScriptDirectory + L"child.txt", L"appendselectitem = after"});
-    EXPECT_EQ(std::vector<std::wstring>{L"v.exe \"C:\\Data\\b.jpg\" @ C:\\Now"}, started);
-    EXPECT_EQ(SelectionList{L"C:\\Data\\b.jpg"}, selection) << "the parent did not go on";
-
-    EXPECT_TRUE(RunFor({L"removeselectitems", L"var x = 1"}).empty());
-    EXPECT_EQ(L"1", Value(L"x"));
 }
 
 // An unknown line answered No ends the run; a checkgrammar option other than "1" is the user's

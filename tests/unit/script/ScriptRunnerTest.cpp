@@ -138,22 +138,20 @@ TEST_F(ScriptRunnerTest, OptionLinesWriteTheSharedTable) {
     EXPECT_TRUE(Messages().empty());
 }
 
-TEST_F(ScriptRunnerTest, CommandLinesAsTheCallerAllows) {
-    const std::wstring path = AddScript(L"options.txt", {L"commandlineoption = /x ?SelFile?"});
-    for (const auto& [allow, selectionLine, kept] :
-         {std::tuple{0, 0, L""}, std::tuple{1, 1, L"?SelFile?"}, std::tuple{1, 0, L"/x ?SelFile?"}}) {
+// The caller decides whether a script may set its command line, or only the selection's, and may force
+// the open mode, which then leaves the table alone.
+TEST_F(ScriptRunnerTest, WhatTheCallerAllows) {
+    const std::wstring path = AddScript(L"options.txt", {L"commandlineoption = /x ?SelFile?", L"openmode = 3"});
+    for (const auto& [forced, allow, selectionLine, commandLine, openMode] :
+         {std::tuple{-1, 0, 0, L"", L"3"}, std::tuple{-1, 1, 1, L"?SelFile?", L"3"},
+          std::tuple{-1, 1, 0, L"/x ?SelFile?", L"3"}, std::tuple{2, 1, 0, L"/x ?SelFile?", L"0"}}) {
         RunOptionTable options;
         FillRunOptionDefaults(options);
-        runner.Run(path, L"", L"", selection, static_cast<uint32_t>(-1), allow, 0, selectionLine, 1, nullptr, &options);
-        EXPECT_EQ(kept, *options.Find(L"commandlineoption")) << allow << selectionLine;
+        runner.Run(path, L"", L"", selection, static_cast<uint32_t>(forced), allow, 0, selectionLine, 1, nullptr,
+                   &options);
+        EXPECT_EQ(commandLine, *options.Find(L"commandlineoption")) << allow << selectionLine;
+        EXPECT_EQ(openMode, *options.Find(L"openmode")) << forced;
     }
-}
-
-TEST_F(ScriptRunnerTest, AForcedOpenModeLeavesTheTableAlone) {
-    RunOptionTable options;
-    FillRunOptionDefaults(options);
-    runner.Run(AddScript(L"options.txt", {L"openmode = 3"}), L"", L"", selection, 2, 1, 0, 0, 1, nullptr, &options);
-    EXPECT_EQ(L"0", *options.Find(L"openmode"));
 }
 
 }  // namespace
