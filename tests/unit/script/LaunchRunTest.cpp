@@ -17,14 +17,6 @@ const SelectionList kThreeItems = {L"C:\\Data\\a.txt", L"C:\\Data\\b b.txt", L"C
 
 class LaunchRunTest : public testing::Test {
 protected:
-    // The argument texts of the shell starts, in turn.
-    std::vector<std::wstring> ShellArguments() {
-        std::vector<std::wstring> arguments;
-        for (const platform::ShellRequest& request : fake.processes().shellRequests()) {
-            arguments.push_back(request.parameters);
-        }
-        return arguments;
-    }
     static constexpr uint64_t kStartTicks = 1000000;
     platform::fake::FakePlatform fake;
 };
@@ -35,26 +27,29 @@ TEST_F(LaunchRunTest, ArgumentTextsDecideHowManyStarts) {
         SelectionList selection;
         std::wstring arguments;
         bool multi;
-        bool shiftDown;
+        int shift;                          // 0 up, 1 held, 2 held but the line does not ask for silence
         std::vector<std::wstring> started;  // the argument text of each start
     };
+    // clang-format off
     const Case cases[] = {
-        {"one start per item", kThreeItems, L"/v ?SelFile?", false, false,
+        {"one start per item", kThreeItems, L"/v ?SelFile?", false, 0,
          {L"/v \"C:\\Data\\a.txt\"", L"/v \"C:\\Data\\b b.txt\"", L"/v \"C:\\Data\\c.log\""}},
-        {"one start for all, a blank behind each", kThreeItems, L"/v ?SelFile?", true, false,
+        {"one start for all, a blank behind each", kThreeItems, L"/v ?SelFile?", true, 0,
          {L"/v \"C:\\Data\\a.txt\" \"C:\\Data\\b b.txt\" \"C:\\Data\\c.log\" "}},
-        {"joined names", kThreeItems, L"?name?|?Ext?", true, false, {L"\"a\" \"b b\" \"c\" |.txt .txt .log "}},
-        {"no item macro: one start", kThreeItems, L"/new", false, false, {L"/new"}},
-        {"no items: the macros go", {}, L"/v ?SelFile? ?ext?", false, false, {L"/v  "}},
-        {"no arguments: one start", kThreeItems, L"", false, false, {L""}},
-        {"Shift held: no arguments, one start", kThreeItems, L"/v ?SelFile?", false, true, {L""}},
-        {"a line feed alone starts nothing", kThreeItems, L"\n", false, false, {}},
+        {"joined names", kThreeItems, L"?name?|?Ext?", true, 0, {L"\"a\" \"b b\" \"c\" |.txt .txt .log "}},
+        {"no item macro: one start", kThreeItems, L"/new", false, 0, {L"/new"}},
+        {"no items: the macros go", {}, L"/v ?SelFile? ?ext?", false, 0, {L"/v  "}},
+        {"no arguments: one start", kThreeItems, L"", false, 0, {L""}},
+        {"Shift held: no arguments, one start", kThreeItems, L"/v ?SelFile?", false, 1, {L""}},
+        {"Shift held but no silence asked", kThreeItems, L"/v", false, 2, {L"/v"}},
+        {"a line feed alone starts nothing", kThreeItems, L"\n", false, 0, {}},
     };
+    // clang-format on
     for (const Case& c : cases) {
         SCOPED_TRACE(c.what);
         platform::fake::FakePlatform fresh;
-        fresh.windows().SetKeyDown(16, c.shiftDown);
-        LaunchRun(kViewer, c.selection, kWorkDir, true, c.arguments, c.multi, {});
+        fresh.windows().SetKeyDown(16, c.shift != 0);
+        LaunchRun(kViewer, c.selection, kWorkDir, c.shift != 2, c.arguments, c.multi, {});
         std::vector<std::wstring> started;
         for (const platform::ShellRequest& request : fresh.processes().shellRequests()) {
             EXPECT_EQ(kViewer, request.file);
@@ -65,20 +60,12 @@ TEST_F(LaunchRunTest, ArgumentTextsDecideHowManyStarts) {
     }
 }
 
-// Shift is looked at only when the line asks for it.
-TEST_F(LaunchRunTest, ShiftKeepsTheArgumentsWithoutShiftSilence) {
-    fake.windows().SetKeyDown(16, true);
-    LaunchRun(kViewer, kThreeItems, kWorkDir, false, L"/v", false, {});
-    EXPECT_EQ(std::vector<std::wstring>{L"/v"}, ShellArguments());
-}
-
 TEST_F(LaunchRunTest, LaunchModesWaitPauseOrStopAsTheySay) {
     struct Case {
         const char* what;
         int32_t mode;
         bool firstFails;
-        size_t shellStarts;
-        size_t processStarts;
+        size_t shellStarts, processStarts;
         uint32_t shellMask;  // of the shell starts
         uint64_t slept;      // 300 of it is the line's wait time
     };
@@ -126,14 +113,12 @@ TEST_F(LaunchRunTest, BackgroundModeStartsFromItsOwnThread) {
 TEST_F(LaunchRunTest, ExRunEntriesTakeTheItemsTheirFilterAndArgumentsAllow) {
     struct Case {
         const char* what;
-        std::wstring program;
-        std::wstring item;
-        std::wstring arguments;
-        std::wstring filter;
+        std::wstring program, item, arguments, filter;
         std::vector<int> choices;  // scripted answers of the task dialog
         bool dealt;
         std::wstring started;  // the program started, empty for none
     };
+    // clang-format off
     const Case cases[] = {
         {"started for its item", L"edit.exe", L"C:\\D\\a.txt", L"?SelFile?", L"", {}, true, L"edit.exe"},
         {"no argument text", L"edit.exe", L"C:\\D\\a.txt", L"", L"", {}, false, L""},
@@ -148,6 +133,7 @@ TEST_F(LaunchRunTest, ExRunEntriesTakeTheItemsTheirFilterAndArgumentsAllow) {
          L" one.exe |"},
         {"the host's preview bar", L"PreviewBar", L"C:\\D\\a.txt", L"?SelFile?", L"", {}, false, L""},
     };
+    // clang-format on
     for (const Case& c : cases) {
         SCOPED_TRACE(c.what);
         platform::fake::FakePlatform fresh;
@@ -163,13 +149,6 @@ TEST_F(LaunchRunTest, ExRunEntriesTakeTheItemsTheirFilterAndArgumentsAllow) {
             EXPECT_EQ(50u, fresh.processes().Ticks() - kStartTicks);
         }
     }
-}
-
-TEST_F(LaunchRunTest, AlternativesAreOfferedWithTheItemsFileName) {
-    LaunchExRunEntry(L"one.exe|two.exe", L"C:\\Data\\Report.txt", kWorkDir, L"?SelFile?", L"", {});
-    ASSERT_EQ(1u, fake.prompts().offered().size());
-    EXPECT_EQ((platform::ChoiceRequest{L"Please select an application.", L"Report.txt", {L"one.exe", L"two.exe"}}),
-              fake.prompts().offered()[0]);
 }
 
 }  // namespace

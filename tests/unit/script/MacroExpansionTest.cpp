@@ -7,87 +7,72 @@ namespace {
 
 class MacroExpansionTest : public ScriptFixture {
 protected:
-    std::wstring Expand(std::wstring text, int32_t itemIndex, bool trim = false) {
-        ExpandScriptText(text, variables, L"", L"", selection, itemIndex, trim, directories);
-        return text;
-    }
-
     VariableTable variables;
 };
 
-TEST_F(MacroExpansionTest, DatesFromOneReadingOfTheClock) {
+// A line's text as the script sees it: variables first, then directories, dates (one reading of the
+// clock), places and, inside a loop, the item's macros; names compare with case except the
+// environment's.
+TEST_F(MacroExpansionTest, EachGroupInItsOrder) {
+    fake.environment().SetVariable(L"TEMP", L"C:\\Temp");
+    variables.Set(L"TARGET", L"?SelFile?");
+    variables.Set(L"WHERE", L"%Script_dir%");
     struct Case {
         const char* label;
-        int32_t utcOffset;
-        std::wstring text;
-        std::wstring expected;
+        std::wstring item;  // the loop's item; none outside a loop
+        std::wstring now, target, text, expected;
     };
-    const Case cases[] = {
-        {"a name fit for a file", 0, L"log_?Date?_?Time?.txt", L"log_2024-03-05_14-07-09.txt"},
-        {"the parts", 0, L"?Year?|?Month?|?Day?|?Hour?|?Minute?|?Second?", L"2024|03|05|14|07|09"},
-        {"weekday names and the locale's form", 0, L"?Week? ?WEEK? ?ShellTime?", L"Tue Tuesday 03/05/24 14:07:09"},
-        {"every occurrence", 0, L"?Day??Day?", L"0505"},
-        {"names compare with case", 0, L"?date? ?TIME? ?week?", L"?date? ?TIME? ?week?"},
-        {"local time across midnight", 10 * 3600, L"?Date? ?Time? ?WEEK?", L"2024-03-06 00-07-09 Wednesday"},
-    };
-    for (const auto& c : cases) {
-        fake.environment().SetUtcOffset(c.utcOffset);
-        std::wstring text = c.text;
-        ExpandDateMacros(text);
-        EXPECT_EQ(c.expected, text) << c.label;
-    }
-}
-
-TEST_F(MacroExpansionTest, Places) {
-    struct Case {
-        const char* label;
-        std::wstring now;
-        std::wstring target;
-        std::wstring text;
-        std::wstring expected;
-    };
-    const Case cases[] = {
-        {"no now-directory: all six vanish", L"", L"D:\\x\\y.txt",
-         L"a?Drive??Dir??NowDir??nowdir??TargetDir??TargetDrive?b", L"ab"},
-        {"with a now-directory", L"C:\\Work\\", L"D:\\dir\\file.txt", L"?Drive?|?Dir?|?NowDir?|?nowdir?|?TargetDir?",
-         L"D:|\\dir\\|\"C:\\Work\"|C:\\Work|"},
-        {"a drive root keeps its separator", L"C:\\", L"", L"?NowDir??nowdir?", L"\"C:\\\"C:\\"},
-        {"a network target has no drive", L"C:\\w", L"\\\\srv\\share\\f", L"[?Drive?][?Dir?]", L"[][\\\\srv\\share\\]"},
-        {"names compare with case", L"C:\\w", L"", L"?NOWDIR? ?drive?", L"?NOWDIR? ?drive?"},
-        {"empty text", L"C:\\w", L"", L"", L""},
-    };
-    for (const auto& c : cases) {
-        std::wstring text = c.text;
-        ExpandPlaceMacros(c.now, c.target, text);
-        EXPECT_EQ(c.expected, text) << c.label;
-    }
-}
-
-TEST_F(MacroExpansionTest, ItemMacros) {
-    struct Case {
-        const char* label;
-        std::wstring item;
-        std::wstring text;
-        std::wstring expected;
-    };
+    const std::wstring script = kScriptDirectory;
     const std::wstring all =
         L"?SelFile?|?selfile?|?FileName?|?Name?|?Ext?|?filename?|?name?|?ext?|?selpath?|?SelPath?|?SelParent?";
     const Case cases[] = {
-        {"all eleven", L"C:\\Data\\report.txt", all,
+        {"a date fit for a file name", L"", L"", L"", L"log_?Date?_?Time?.txt", L"log_2024-03-05_14-07-09.txt"},
+        {"the parts of the date", L"", L"", L"", L"?Year?|?Month?|?Day?|?Hour?|?Minute?|?Second?",
+         L"2024|03|05|14|07|09"},
+        {"weekday names and the locale's form", L"", L"", L"", L"?Week? ?WEEK? ?ShellTime?",
+         L"Tue Tuesday 03/05/24 14:07:09"},
+        {"every occurrence", L"", L"", L"", L"?Day??Day?", L"0505"},
+        {"date names compare with case", L"", L"", L"", L"?date? ?TIME? ?week?", L"?date? ?TIME? ?week?"},
+        {"no now-directory: all six places vanish", L"", L"", L"D:\\x\\y.txt",
+         L"a?Drive??Dir??NowDir??nowdir??TargetDir??TargetDrive?b", L"ab"},
+        {"places with a now-directory", L"", L"C:\\Work\\", L"D:\\dir\\file.txt",
+         L"?Drive?|?Dir?|?NowDir?|?nowdir?|?TargetDir?", L"D:|\\dir\\|\"C:\\Work\"|C:\\Work|"},
+        {"a drive root keeps its separator", L"", L"C:\\", L"", L"?NowDir??nowdir?", L"\"C:\\\"C:\\"},
+        {"a network target has no drive", L"", L"C:\\w", L"\\\\srv\\share\\f", L"[?Drive?][?Dir?]",
+         L"[][\\\\srv\\share\\]"},
+        {"place names compare with case", L"", L"C:\\w", L"", L"?NOWDIR? ?drive?", L"?NOWDIR? ?drive?"},
+        {"outside a loop item macros stay", L"", L"", L"", L"?SelFile? ?ext?", L"?SelFile? ?ext?"},
+        {"all eleven of the item", L"C:\\Data\\report.txt", L"", L"", all,
          L"\"C:\\Data\\report.txt\"|C:\\Data\\report.txt|report.txt|report|.txt|\"report.txt\"|\"report\"|\".txt\"|"
          L"\"C:\\Data\\\"|C:\\Data\\|C:\\Data"},
-        {"no extension", L"C:\\a.b\\file", L"[?Ext?][?ext?][?Name?]", L"[][\"\"][file]"},
-        {"only a point", L"C:\\d\\.txt", L"[?Name?][?Ext?]", L"[][.txt]"},
-        {"no directory", L"file.txt", L"[?SelPath?][?SelParent?][?selpath?]", L"[][][\"\"]"},
-        {"a value holding a later macro is expanded again", L"C:\\?Name?\\x.y", L"?selfile?", L"C:\\x\\x.y"},
-        {"other case is no macro", L"C:\\a.txt", L"?SELFILE? ?fileName?", L"?SELFILE? ?fileName?"},
-        {"empty text", L"C:\\a.txt", L"", L""},
+        {"no extension", L"C:\\a.b\\file", L"", L"", L"[?Ext?][?ext?][?Name?]", L"[][\"\"][file]"},
+        {"only a point", L"C:\\d\\.txt", L"", L"", L"[?Name?][?Ext?]", L"[][.txt]"},
+        {"no directory", L"file.txt", L"", L"", L"[?SelPath?][?SelParent?][?selpath?]", L"[][][\"\"]"},
+        {"an item holding a later macro is expanded again", L"C:\\?Name?\\x.y", L"", L"", L"?selfile?", L"C:\\x\\x.y"},
+        {"item names compare with case", L"C:\\a.txt", L"", L"", L"?SELFILE? ?fileName?", L"?SELFILE? ?fileName?"},
+        {"a variable's value is expanded", L"C:\\one.txt", L"", L"", L"TARGET", L"\"C:\\one.txt\""},
+        {"variables come before directories", L"", L"", L"", L"WHEREx.txt", script + L"x.txt"},
+        {"directory macros compare with case", L"", L"", L"", L"%script_dir%", L"%script_dir%"},
+        {"environment names in any case", L"", L"", L"", L"%temp%\\?Year?", L"C:\\Temp\\2024"},
+        {"the other directories", L"", L"", L"", L"%User_dir%|%Menu_dir%|%App_Dir%|%CMD_Dir%",
+         L"C:\\Users\\tester\\AppData\\Local\\Qor\\|C:\\Users\\tester\\AppData\\Local\\Qor\\Menu\\|C:\\Qor\\|"
+         L"C:\\Qor\\command\\Default\\"},
+        {"names this program leaves", L"", L"", L"", L"%Focus_Item%%window.top%", L"%Focus_Item%%window.top%"},
+        {"empty text", L"C:\\a.txt", L"C:\\w", L"", L"", L""},
     };
     for (const auto& c : cases) {
+        selection = {c.item};
         std::wstring text = c.text;
-        ExpandItemMacros(c.item, text);
+        ExpandScriptText(text, variables, c.now, c.target, selection, c.item.empty() ? -1 : 0, false, directories);
         EXPECT_EQ(c.expected, text) << c.label;
     }
+    std::wstring text = L" \ta?NowDir?b \t";
+    ExpandScriptText(text, variables, L"", L"", selection, 0, true, directories);
+    EXPECT_EQ(L"ab", text) << "trimmed when asked";
+    fake.environment().SetUtcOffset(10 * 3600);
+    text = L"?Date? ?Time? ?WEEK?";
+    ExpandDateMacros(text);
+    EXPECT_EQ(L"2024-03-06 00-07-09 Wednesday", text) << "local time across midnight";
 }
 
 TEST_F(MacroExpansionTest, LongItemPathsTakeTheirShortForm) {
@@ -122,79 +107,35 @@ TEST_F(MacroExpansionTest, LongItemPathsTakeTheirShortForm) {
     EXPECT_EQ(directory, shorter) << "below 260 characters the path stays";
 }
 
+// Drive, directory, name and extension, as the place and item macros show them.
 TEST_F(MacroExpansionTest, SplittingAnItemPath) {
-    struct Case {
-        std::wstring path;
-        PathParts parts;
+    const std::pair<std::wstring, std::wstring> cases[] = {
+        {L"", L"|||"},
+        {L"C:\\x\\y.z", L"C:|\\x\\|y|.z"},
+        {L"C:\\y", L"C:|\\|y|"},
+        {L"file.tar.gz", L"||file.tar|.gz"},
+        {L"\\\\server\\share\\f.x", L"|\\\\server\\share\\|f|.x"},
+        {L"a\\b", L"a\\||b|"},
+        {L"ab\\cd\\e", L"ab|\\cd\\|e|"},
+        {L"1\\b", L"|1\\|b|"},
+        {L"C:/x/y.z", L"||C:/x/y|.z"},
+        {L"C:\\dir.d\\", L"C:|\\dir.d\\||"},
     };
-    const Case cases[] = {
-        {L"", {}},
-        {L"C:\\x\\y.z", {L"C:", L"\\x\\", L"y", L".z"}},
-        {L"C:\\y", {L"C:", L"\\", L"y", L""}},
-        {L"file.tar.gz", {L"", L"", L"file.tar", L".gz"}},
-        {L"\\\\server\\share\\f.x", {L"", L"\\\\server\\share\\", L"f", L".x"}},
-        {L"a\\b", {L"a\\", L"", L"b", L""}},
-        {L"ab\\cd\\e", {L"ab", L"\\cd\\", L"e", L""}},
-        {L"1\\b", {L"", L"1\\", L"b", L""}},
-        {L"C:/x/y.z", {L"", L"", L"C:/x/y", L".z"}},
-        {L"C:\\dir.d\\", {L"C:", L"\\dir.d\\", L"", L""}},
-    };
-    for (const auto& c : cases) {
-        const PathParts parts = SplitItemPath(c.path);
-        EXPECT_EQ(c.parts.drive, parts.drive) << testing::PrintToString(c.path);
-        EXPECT_EQ(c.parts.directory, parts.directory) << testing::PrintToString(c.path);
-        EXPECT_EQ(c.parts.name, parts.name) << testing::PrintToString(c.path);
-        EXPECT_EQ(c.parts.extension, parts.extension) << testing::PrintToString(c.path);
+    for (const auto& [path, expected] : cases) {
+        const PathParts parts = SplitItemPath(path);
+        EXPECT_EQ(expected, parts.drive + L"|" + parts.directory + L"|" + parts.name + L"|" + parts.extension)
+            << testing::PrintToString(path);
     }
-}
-
-TEST_F(MacroExpansionTest, ContainsItemMacro) {
-    EXPECT_TRUE(ContainsItemMacro(L"open ?SelParent? now"));
-    EXPECT_TRUE(ContainsItemMacro(L"?ext?"));
-    EXPECT_FALSE(ContainsItemMacro(L"?SelectedCount? ?Date? ?NAME? ?Sel File?"));
-    EXPECT_FALSE(ContainsItemMacro(L""));
-}
-
-TEST_F(MacroExpansionTest, TheWholeExpansionInItsOrder) {
-    fake.environment().SetVariable(L"TEMP", L"C:\\Temp");
-    variables.Set(L"TARGET", L"?SelFile?");
-    variables.Set(L"WHERE", L"%Script_dir%");
-    selection = {L"C:\\one.txt", L"C:\\two.log"};
-    struct Case {
-        const char* label;
-        std::wstring text;
-        int32_t itemIndex;
-        bool trim;
-        std::wstring expected;
-    };
-    const std::wstring script = kScriptDirectory;
-    const Case cases[] = {
-        {"outside a loop item macros stay", L"?SelFile? ?ext?", -1, false, L"?SelFile? ?ext?"},
-        {"inside a loop they are the item's", L"?SelFile? ?ext?", 1, false, L"\"C:\\two.log\" \".log\""},
-        {"a variable's value is expanded", L"TARGET", 0, false, L"\"C:\\one.txt\""},
-        {"variables come before directories", L"WHEREx.txt", -1, false, script + L"x.txt"},
-        {"directory macros compare with case", L"%script_dir%", -1, false, L"%script_dir%"},
-        {"environment names in any case", L"%temp%\\?Year?", -1, false, L"C:\\Temp\\2024"},
-        {"the other directories", L"%User_dir%|%Menu_dir%|%App_Dir%|%CMD_Dir%", -1, false,
-         L"C:\\Users\\tester\\AppData\\Local\\Qor\\|C:\\Users\\tester\\AppData\\Local\\Qor\\Menu\\|C:\\Qor\\|"
-         L"C:\\Qor\\command\\Default\\"},
-        {"names this program leaves", L"%Focus_Item%%window.top%", -1, false, L"%Focus_Item%%window.top%"},
-        {"now-directory macros vanish", L" a?NowDir?b ", -1, false, L" ab "},
-        {"trimmed when asked", L" \ta?NowDir?b \t", 0, true, L"ab"},
-    };
-    for (const auto& c : cases) EXPECT_EQ(c.expected, Expand(c.text, c.itemIndex, c.trim)) << c.label;
 }
 
 TEST_F(MacroExpansionTest, VariablesResolveInRoundsWithALimit) {
     struct Case {
         const char* label;
         std::vector<std::pair<std::wstring, std::wstring>> entries;
-        std::wstring text;
-        std::wstring expected;
+        std::wstring text, expected;
     };
     const Case cases[] = {
         {"an index through another variable", {{L"i", L"2"}, {L"a[2]", L"two"}}, L"=a[i]=", L"=two="},
-        {"inside words, with case", {{L"n", L"N"}}, L"none Name", L"NoNe Name"},
         {"a name equal to its value is left", {{L"x", L"x"}}, L"x", L"x"},
         {"a circular pair stops", {{L"p", L"q"}, {L"q", L"p"}}, L"p", L"p"},
         {"a growing value stops after ten rounds", {{L"g", L"gg"}}, L"g", std::wstring(1024, L'g')},

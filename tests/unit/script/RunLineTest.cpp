@@ -16,9 +16,9 @@ namespace {
 constexpr platform::WindowRef kHost = 0x99;
 
 struct Outcome {
-    std::vector<std::pair<uint32_t, std::wstring>> hostTexts;  // code and text
+    std::vector<std::pair<uint32_t, std::wstring>> hostTexts;        // code and text
     std::vector<std::pair<std::wstring, std::wstring>> shellStarts;  // file and directory
-    std::vector<std::wstring> processStarts;  // command lines (drops)
+    std::vector<std::wstring> processStarts;                         // command lines (drops)
     int32_t openModeAfter;
     bool operator==(const Outcome&) const = default;
 };
@@ -49,12 +49,15 @@ TEST(RunLine, TheOpenModeDecidesBetweenHostAndProgram) {
     RunOptions dropping = start;
     dropping.sendInfoMode = 1;
     dropping.runWait = 40;
+    // clang-format off
     const Case cases[] = {
-        {"a missing path counts as a directory", RunWord::Run, L" C:\\Gone ", decide, {}, {{{200, L"C:\\Gone"}}, {}, {}, 3}},
+        {"a missing path counts as a directory", RunWord::Run, L" C:\\Gone ", decide, {},
+         {{{200, L"C:\\Gone"}}, {}, {}, 3}},
         {"a directory", RunWord::Run, L"C:\\Data", decide, {}, {{{200, L"C:\\Data"}}, {}, {}, 3}},
         {"a file starts, and decides so for later lines", RunWord::Run, L"C:\\Tools\\view.exe", decide, {},
          {{}, {{L"C:\\Tools\\view.exe", L"C:\\Now"}}, {}, 1}},
-        {"a shell folder of the name space", RunWord::Run, L"::{FOLDER}", decide, {}, {{{200, L"::{FOLDER}"}}, {}, {}, 3}},
+        {"a shell folder of the name space", RunWord::Run, L"::{FOLDER}", decide, {},
+         {{{200, L"::{FOLDER}"}}, {}, {}, 3}},
         {"a name-space item that is no folder", RunWord::Run, L"::{ITEM}", decide, {},
          {{}, {{L"::{ITEM}", L"C:\\Now"}}, {}, 1}},
         {"bootdir 1 with a trailing separator: the parent", RunWord::Run, L"C:\\Tools\\App\\", ownDirectory, {},
@@ -68,6 +71,7 @@ TEST(RunLine, TheOpenModeDecidesBetweenHostAndProgram) {
          {{}, {}, {L"C:\\Tools\\view.exe"}, 1}},
         {"nothing to run", RunWord::Run, L"   ", decide, {}, {{}, {}, {}, 0}},
     };
+    // clang-format on
     for (const Case& c : cases) {
         SCOPED_TRACE(c.what);
         platform::fake::FakePlatform fake;

@@ -24,17 +24,9 @@ TEST(ScriptCall, WaitsAsTheKindSaysAndGivesTheExitCode) {
         std::vector<std::wstring> events;
         size_t questions;
     };
-    FakeProgram ends;
-    ends.exitCode = 7;
-    FakeProgram negative;
-    negative.exitCode = 0xFFFFFFFF;
-    FakeProgram outlives;
-    outlives.waitResult = platform::kWaitTimeout;
-    outlives.exitCode = 259;
-    FakeProgram noCode;
-    noCode.exitCodeError = 6;
-    FakeProgram cannotStart;
-    cannotStart.starts = false;
+    const FakeProgram ends{.exitCode = 7}, negative{.exitCode = 0xFFFFFFFF}, noCode{.exitCodeError = 6};
+    const FakeProgram outlives{.waitResult = platform::kWaitTimeout, .exitCode = 259}, cannotStart{.starts = false};
+    // clang-format off
     const Case cases[] = {
         {"call of a program that ends", CallKind::Call, ends, {}, L"7", {L"wait 4000", L"exit code", L"close"}, 0},
         {"exit codes are signed", CallKind::Call, negative, {}, L"-1", {L"wait 4000", L"exit code", L"close"}, 0},
@@ -47,15 +39,17 @@ TEST(ScriptCall, WaitsAsTheKindSaysAndGivesTheExitCode) {
          {L"wait 4000", L"exit code", L"close"}, 1},
         {"cannot start", CallKind::Call, cannotStart, {}, std::nullopt, {}, 1},
     };
+    // clang-format on
     for (const Case& c : cases) {
         SCOPED_TRACE(c.what);
         FakePlatform fake;
         fake.processes().SetProgram(c.program);
         for (int answer : c.answers) fake.prompts().Answer(answer);
         const uint64_t before = fake.processes().Ticks();
-        EXPECT_EQ(c.result, CallProgram(c.kind, L"tool.exe /x",
-                                        {.bootDirectory = L"", .nowDirectory = L"C:\\Now", .show = 0, .timeout = 4000,
-                                         .runWait = 30}));
+        EXPECT_EQ(
+            c.result,
+            CallProgram(c.kind, L"tool.exe /x",
+                        {.bootDirectory = L"", .nowDirectory = L"C:\\Now", .show = 0, .timeout = 4000, .runWait = 30}));
         EXPECT_EQ(c.events, fake.processes().events());
         EXPECT_EQ(c.questions, fake.prompts().shown().size());
         ASSERT_EQ(1u, fake.processes().starts().size());
@@ -67,9 +61,7 @@ TEST(ScriptCall, WaitsAsTheKindSaysAndGivesTheExitCode) {
 // bootdir goes as it stands, "1" too; without it the now-directory; without both none.
 TEST(ScriptCall, StartsInBootDirectoryOrNowDirectory) {
     struct Case {
-        std::wstring bootDirectory;
-        std::wstring nowDirectory;
-        std::wstring used;
+        std::wstring bootDirectory, nowDirectory, used;
     };
     for (const Case& c : {Case{L"D:\\Boot", L"C:\\Now", L"D:\\Boot"}, Case{L"1", L"C:\\Now", L"1"},
                           Case{L"", L"C:\\Now", L"C:\\Now"}, Case{L"", L"", L""}}) {

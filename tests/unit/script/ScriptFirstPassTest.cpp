@@ -67,12 +67,6 @@ TEST_F(ScriptFirstPassTest, LabelsByLine) {
     }
 }
 
-TEST_F(ScriptFirstPassTest, ALabelTwiceEndsTheRun) {
-    const Outcome outcome = Pass({L"again:", L"x = 1", L"\t again :"});
-    EXPECT_FALSE(outcome.goesOn);
-    EXPECT_EQ(std::vector<std::wstring>{L"This label is already in use.\nagain :"}, outcome.messages);
-}
-
 TEST_F(ScriptFirstPassTest, DebugFindsTheTraceWindowByTitle) {
     EXPECT_EQ(0u, Pass({L"debug"}).traceWindow);
     fake.windows().SetTitledWindow(L"Qor Script Debugger", 0x77);

@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "platform/fake/FakePlatform.h"
@@ -11,6 +12,23 @@
 #include "services/MessageCatalog.h"
 #include "settings/UserDirectories.h"
 #include "unit/Utf16.h"
+
+// A script and what a user sees of its run: values left in variables, messages shown, the result.
+// Rows name what they check; what they leave out is expected empty, and the result 0.
+struct ScriptCase {
+    using Values = std::vector<std::pair<std::wstring, std::wstring>>;
+
+    ScriptCase(const char* label, std::vector<std::wstring> lines, Values values = {},
+               std::vector<std::wstring> messages = {}, int32_t result = 0)
+        : label(label), lines(std::move(lines)), values(std::move(values)), messages(std::move(messages)),
+          result(result) {}
+
+    const char* label;
+    std::vector<std::wstring> lines;
+    Values values;
+    std::vector<std::wstring> messages;
+    int32_t result;
+};
 
 class ScriptFixture : public testing::Test {
 protected:
@@ -58,10 +76,23 @@ protected:
         return value ? *value : L"<none>";
     }
 
+    // What the user is told of a line whose form is wrong, and asked of a line nobody understands.
+    static std::wstring SyntaxError(const std::wstring& line) { return L"Syntax error!\n" + line; }
+    static std::wstring NotUnderstood(const std::wstring& numberedLine) {
+        return L"This is the line that I do not understand.\nDo you want to continue?\n" + numberedLine;
+    }
+
     std::vector<std::wstring> Messages() {
         std::vector<std::wstring> texts;
         for (const auto& shown : fake.prompts().shown()) texts.push_back(shown.text);
         return texts;
+    }
+
+    void Check(const ScriptCase& c) {
+        EXPECT_EQ(c.result, RunLines(c.lines)) << c.label;
+        for (const auto& [name, value] : c.values)
+            EXPECT_EQ(value, Value(name)) << c.label << ": " << testing::PrintToString(name);
+        EXPECT_EQ(c.messages, Messages()) << c.label;
     }
 
     platform::fake::FakePlatform fake;

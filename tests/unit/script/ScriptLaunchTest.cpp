@@ -1,4 +1,6 @@
-// Scripts that start programs: what the system is asked, line by line.
+// Scripts that start programs: "run" at once, "exrun" entries once the script has ended (each item it
+// started with goes to the first entry whose filter takes it), "call" and "exec", and the editor an
+// unknown line may open.
 #include <gtest/gtest.h>
 
 #include <string>
@@ -11,56 +13,110 @@ namespace {
 class ScriptLaunchTest : public ScriptFixture {
 protected:
     ScriptLaunchTest() {
-        fake.files().AddFile(L"C:\\Tools\\view.exe", std::string_view());
-        fake.files().AddDirectory(L"C:\\Data");
+        nowDirectory = L"C:\\Now";
+        fake.files().AddFile(L"C:\\T\\view.exe", std::string_view());
     }
 
-    std::vector<std::wstring> ShellStarts() {
+    // Each start through the shell as "program parameters @ directory".
+    std::vector<std::wstring> Starts() {
         std::vector<std::wstring> started;
         for (const auto& request : fake.processes().shellRequests())
-            started.push_back(request.file + L" " + request.parameters);
+            started.push_back(request.file + L" " + request.parameters + L" @ " + request.directory);
+        return started;
+    }
+
+    std::vector<std::wstring> RunFor(const std::vector<std::wstring>& lines) {
+        const size_t before = fake.processes().shellRequests().size();
+        RunLines(lines);
+        std::vector<std::wstring> started = Starts();
+        started.erase(started.begin(), started.begin() + static_cast<std::ptrdiff_t>(before));
         return started;
     }
 };
 
-// The first target decides: a program starts for every item, and the lines after it start too.
-TEST_F(ScriptLaunchTest, RunStartsAProgramPerItem) {
+// An included script runs its own entries when it ends, before the parent goes on; a list that shrank
+// under the entries ends the whole run, the including scripts too, while without entries nothing is
+// looked at.
+TEST_F(ScriptLaunchTest, WhatStartsAndWhen) {
+    const std::wstring include = std::wstring(L"include = ") + kScriptDirectory;
+    AddScript(L"child.txt", {L"commandlineoption = ?SelFile?", L"exrun = child.exe"});
+    AddScript(L"shrink.txt", {L"commandlineoption = ?SelFile?", L"exrun = v.exe", L"removeselectitems = *.txt"});
+    struct Case {
+        const char* label;
+        std::vector<std::wstring> lines, started;
+    };
+    const std::vector<std::wstring> viewAll = {L"C:\\T\\view.exe \"C:\\Data\\a.txt\" @ C:\\Now",
+                                               L"C:\\T\\view.exe \"C:\\Data\\b.jpg\" @ C:\\Now",
+                                               L"C:\\T\\view.exe \"C:\\Data\\c.TXT\" @ C:\\Now"};
+    // clang-format off
+    const Case cases[] = {
+        {"run starts at once for every item, and the first target decides for the later lines",
+         {L"commandlineoption = /v ?SelFile?", L"run = C:\\T\\view.exe", L"commandlineoption = /w",
+          L"run = C:\\T\\view.exe"},
+         {L"C:\\T\\view.exe /v \"C:\\Data\\a.txt\" @ C:\\Now", L"C:\\T\\view.exe /v \"C:\\Data\\b.jpg\" @ C:\\Now",
+          L"C:\\T\\view.exe /v \"C:\\Data\\c.TXT\" @ C:\\Now", L"C:\\T\\view.exe /w @ C:\\Now"}},
+        {"filters in the order of the lines",
+         {L"commandlineoption = ?SelFile?", L"filter = txt", L"exrun = C:\\T\\edit.exe", L"filter =",
+          L"exrun = C:\\T\\view.exe"},
+         {L"C:\\T\\edit.exe \"C:\\Data\\a.txt\" @ C:\\Now", L"C:\\T\\view.exe \"C:\\Data\\b.jpg\" @ C:\\Now",
+          L"C:\\T\\edit.exe \"C:\\Data\\c.TXT\" @ C:\\Now"}},
+        {"nothing until the script has ended",
+         {L"commandlineoption = ?SelFile?", L"exrun = C:\\T\\view.exe", L"commandlineoption = /x ?SelFile?",
+          L"var x = 1"}, viewAll},
+        {"an entry without an item macro starts nothing", {L"commandlineoption = /all", L"exrun = C:\\T\\view.exe"},
+         {}},
+        {"an empty program is no entry", {L"commandlineoption = ?SelFile?", L"exrun = "}, {}},
+        {"previewbar belongs to the host, and the next entry gets the item",
+         {L"commandlineoption = ?SelFile?", L"filter = jpg", L"exrun = PreviewBar", L"filter =",
+          L"exrun = C:\\T\\view.exe"}, viewAll},
+        {"bootdir: the now-directory, the program's own, or as written",
+         {L"commandlineoption = ?SelFile?", L"filter = txt", L"bootdir = 1", L"exrun = C:\\T\\edit.exe",
+          L"filter = jpg", L"bootdir = C:\\Work", L"exrun = C:\\T\\view.exe"},
+         {L"C:\\T\\edit.exe \"C:\\Data\\a.txt\" @ C:\\T\\", L"C:\\T\\view.exe \"C:\\Data\\b.jpg\" @ C:\\Work",
+          L"C:\\T\\edit.exe \"C:\\Data\\c.TXT\" @ C:\\T\\"}},
+        {"EOF runs them", {L"commandlineoption = ?SelFile?", L"filter = jpg", L"exrun = v.exe", L"EOF", L"exit"},
+         {L"v.exe \"C:\\Data\\b.jpg\" @ C:\\Now"}},
+        {"exit does not", {L"commandlineoption = ?SelFile?", L"exrun = v.exe", L"exit"}, {}},
+        {"nor a syntax error that ends the run", {L"commandlineoption = ?SelFile?", L"exrun = v.exe", L"if"}, {}},
+        {"the items the script started with, not those it added",
+         {L"commandlineoption = ?SelFile?", L"filter = jpg", L"exrun = v.exe", L"appendselectitem = C:\\x.jpg"},
+         {L"v.exe \"C:\\Data\\b.jpg\" @ C:\\Now"}},
+        {"a failed jump still runs them",
+         {L"commandlineoption = ?SelFile?", L"filter = jpg", L"exrun = v.exe", L"folderjump = 0,"},
+         {L"v.exe \"C:\\Data\\b.jpg\" @ C:\\Now"}},
+        {"too many backward jumps still run them",
+         {L"commandlineoption = ?SelFile?", L"filter = jpg", L"exrun = v.exe", L"exitloopcount = 0", L"top:",
+          L"goto top"}, {L"v.exe \"C:\\Data\\b.jpg\" @ C:\\Now"}},
+        {"an included script's entries first",
+         {include + L"child.txt", L"openmode = 1", L"run = p.exe", L"exrun = o.exe"},
+         {L"child.exe \"C:\\Data\\a.txt\" @ C:\\Now", L"child.exe \"C:\\Data\\b.jpg\" @ C:\\Now",
+          L"child.exe \"C:\\Data\\c.TXT\" @ C:\\Now", L"p.exe \"C:\\Data\\a.txt\" @ C:\\Now",
+          L"p.exe \"C:\\Data\\b.jpg\" @ C:\\Now", L"p.exe \"C:\\Data\\c.TXT\" @ C:\\Now",
+          L"o.exe \"C:\\Data\\a.txt\" @ C:\\Now", L"o.exe \"C:\\Data\\b.jpg\" @ C:\\Now",
+          L"o.exe \"C:\\Data\\c.TXT\" @ C:\\Now"}},
+        {"a list that shrank under an included script's entries ends the parent too",
+         {include + L"shrink.txt", L"openmode = 1", L"run = p.exe"}, {L"v.exe \"C:\\Data\\b.jpg\" @ C:\\Now"}},
+        {"without entries a shrunk list ends nothing",
+         {L"removeselectitems", L"openmode = 1", L"commandlineoption = /x", L"run = p.exe"}, {L"p.exe /x @ C:\\Now"}},
+    };
+    // clang-format on
+    for (const Case& c : cases) {
+        selection = {L"C:\\Data\\a.txt", L"C:\\Data\\b.jpg", L"C:\\Data\\c.TXT"};
+        EXPECT_EQ(c.started, RunFor(c.lines)) << c.label;
+    }
+}
+
+// Alternatives are offered per item with the item's name; Cancel counts as dealt with.
+TEST_F(ScriptLaunchTest, AlternativesAreOfferedPerItem) {
     selection = {L"C:\\Data\\a.txt", L"C:\\Data\\b.txt"};
-    RunLines({L"commandlineoption = /v ?SelFile?", L"run = C:\\Tools\\view.exe", L"commandlineoption = /w",
-              L"run = C:\\Tools\\view.exe"});
-    EXPECT_EQ((std::vector<std::wstring>{L"C:\\Tools\\view.exe /v \"C:\\Data\\a.txt\"",
-                                         L"C:\\Tools\\view.exe /v \"C:\\Data\\b.txt\"", L"C:\\Tools\\view.exe /w"}),
-              ShellStarts());
-}
-
-// A folder first makes the host open every later target.
-TEST_F(ScriptLaunchTest, AFolderFirstGoesToTheHostAndSoDoLaterTargets) {
-    RunLines({L"run = C:\\Data", L"run = C:\\Tools\\view.exe"});
-    EXPECT_TRUE(fake.processes().shellRequests().empty());
-    ASSERT_EQ(2u, fake.windows().copies().size());
-    EXPECT_EQ(200u, fake.windows().copies()[0].code);
-    EXPECT_EQ(L"C:\\Data", fake.windows().copies()[0].text);
-    EXPECT_EQ(L"C:\\Tools", fake.windows().copies()[1].text);
-}
-
-// shell sees variables, run does not; a declared variable named like the word takes the value and
-// starts nothing.
-TEST_F(ScriptLaunchTest, ShellSeesVariablesAndRunDoesNot) {
-    RunLines({L"var tool = C:\\Tools\\view.exe", L"openmode = 1", L"shell = tool", L"run = tool"});
-    EXPECT_EQ((std::vector<std::wstring>{L"C:\\Tools\\view.exe ", L"tool "}), ShellStarts());
-    RunLines({L"var run", L"run = C:\\Tools\\view.exe"});
-    EXPECT_EQ(L"C:\\Tools\\view.exe", Value(L"run"));
-    EXPECT_EQ(2u, fake.processes().shellRequests().size()) << "nothing more started";
-}
-
-// call waits with the time-out of the options and starts in bootdir; exec does not wait.
-TEST_F(ScriptLaunchTest, CallAndExecStatements) {
-    RunLines({L"timeout = 1500", L"bootdir = C:\\Work", L"call = tool.exe /a", L"exec = other.exe"});
-    ASSERT_EQ(2u, fake.processes().starts().size());
-    EXPECT_EQ(L"tool.exe /a", fake.processes().starts()[0].commandLine);
-    EXPECT_EQ(L"C:\\Work", fake.processes().starts()[0].directory);
-    EXPECT_EQ((std::vector<std::wstring>{L"wait 1500", L"exit code", L"close", L"exit code", L"close"}),
-              fake.processes().events());
+    fake.prompts().Choose(1);
+    Run(AddScript(L"choose.txt",
+                  {L"commandlineoption = ?SelFile?", L"exrun = edit.exe | view.exe", L"exrun = last.exe"}));
+    const std::vector<std::wstring> started = Starts();
+    EXPECT_EQ(std::vector<std::wstring>{L"view.exe \"C:\\Data\\a.txt\" @ C:\\Now"}, started);
+    ASSERT_EQ(2u, fake.prompts().offered().size());
+    EXPECT_EQ((platform::ChoiceRequest{L"Please select an application.", L"b.txt", {L"edit.exe", L"view.exe"}}),
+              fake.prompts().offered()[1]);
 }
 
 // An unknown line answered No ends the run; a checkgrammar option other than "1" is the user's

@@ -4,86 +4,51 @@
 
 namespace {
 
-TEST(ScriptMatchers, Wildcard) {
-    struct Case {
-        std::wstring text;
-        std::wstring pattern;
-        bool matches;
-    };
-    const Case cases[] = {
-        {L"abc", L"abc", true},
-        {L"abc", L"ab", false},
-        {L"ab", L"abc", false},
-        {L"a", L"a?", false},
-        {L"ab", L"a?", true},
-        {L"", L"?", false},
-        {L"", L"*", true},
-        {L"", L"", true},
-        {L"x", L"", false},
-        {L"abc", L"*", true},
-        {L"abc", L"a*c", true},
-        {L"ac", L"a*c", true},
-        {L"abcbc", L"a*bc", true},
-        {L"abcbd", L"a*bc", false},
-        {L"aXbXc", L"a*b*c", true},
-        {L"file", L"*.*", false},
-        {L"file.", L"*.*", true},
-        {L"ABC", L"abc", false},
-        {L"a*c", L"a\\*c", false},
-        {L"mississippi", L"m*iss*ppi", true},
-        {L"mississippi", L"m*iss*ppix", false},
-        {L"abc", L"**?**", true},
-        {std::wstring(2000, L'a'), std::wstring(30, L'*') + L"b", false},
-    };
-    for (const auto& c : cases)
-        EXPECT_EQ(c.matches, MatchWildcard(c.text, c.pattern))
-            << testing::PrintToString(c.text) << " " << testing::PrintToString(c.pattern);
+using Pairs = std::vector<std::pair<std::wstring, std::wstring>>;
+
+// Each pair is a text and a pattern; the first list matches, the second does not.
+template <typename Match>
+void ExpectMatches(Match match, const Pairs& matching, const Pairs& failing) {
+    for (const auto& [text, pattern] : matching)
+        EXPECT_TRUE(match(text, pattern)) << testing::PrintToString(text) << " " << testing::PrintToString(pattern);
+    for (const auto& [text, pattern] : failing)
+        EXPECT_FALSE(match(text, pattern)) << testing::PrintToString(text) << " " << testing::PrintToString(pattern);
 }
 
-TEST(ScriptMatchers, PatternList) {
-    struct Case {
-        std::wstring text;
-        std::wstring patterns;
-        bool matches;
-    };
-    const Case cases[] = {
-        {L"REPORT.TXT", L"*.txt;*.log", true},
-        {L"server.log", L"*.txt;*.LOG", true},
-        {L"a.txt", L"", false},
-        {L"a.txt", L";;", false},
-        {L"a.txt", L";;*.txt", true},
-        {L"a.txt", L" *.txt", false},
-        {L"a.txt", L"*.doc; *.txt", false},
-        {L"abc", L"A*", true},
-        {L"Ärger", L"ä*", false},
-    };
-    for (const auto& c : cases)
-        EXPECT_EQ(c.matches, MatchPatternList(c.text, c.patterns))
-            << testing::PrintToString(c.text) << " " << testing::PrintToString(c.patterns);
+TEST(ScriptMatchers, AWildcardComparesWithCase) {
+    const std::wstring many(2000, L'a');
+    const std::wstring stars = std::wstring(30, L'*') + L"b";
+    const Pairs matching = {{L"abc", L"abc"},   {L"ab", L"a?"},      {L"", L"*"},
+                            {L"", L""},         {L"abc", L"*"},      {L"abc", L"a*c"},
+                            {L"ac", L"a*c"},    {L"abcbc", L"a*bc"}, {L"aXbXc", L"a*b*c"},
+                            {L"file.", L"*.*"}, {L"abc", L"**?**"},  {L"mississippi", L"m*iss*ppi"}};
+    const Pairs failing = {
+        {L"abc", L"ab"},     {L"ab", L"abc"},   {L"a", L"a?"},    {L"", L"?"},        {L"x", L""},
+        {L"abcbd", L"a*bc"}, {L"file", L"*.*"}, {L"ABC", L"abc"}, {L"a*c", L"a\\*c"}, {L"mississippi", L"m*iss*ppix"},
+        {many, stars}};
+    ExpectMatches(MatchWildcard, matching, failing);
 }
 
-TEST(ScriptMatchers, ExtensionList) {
-    struct Case {
-        std::wstring list;
-        std::wstring item;
-        bool matches;
-    };
-    const Case cases[] = {
-        {L"txt, ,log", L"C:\\data\\server.LOG", true},
-        {L" txt , log ", L"C:\\a.txt", true},
-        {L"txt", L"C:\\a.text", false},
-        {L"txt", L"C:\\a.", false},
-        {L"", L"C:\\a.", false},
-        {L"txt", L"C:\\dir.txt\\file", false},
-        {L"txt", L"C:\\dir\\.txt", true},
-        {L"*", L"C:\\a.txt", false},
-        {L"", L"C:\\a.txt", false},
-        {L"gz", L"C:\\a.tar.gz", true},
-        {L"tar.gz", L"C:\\a.tar.gz", false},
-    };
-    for (const auto& c : cases)
-        EXPECT_EQ(c.matches, MatchExtensionList(c.list, c.item))
-            << testing::PrintToString(c.list) << " " << testing::PrintToString(c.item);
+// A list of patterns split at ";" compares ASCII letters in any case; blanks belong to the pattern.
+TEST(ScriptMatchers, APatternListIgnoresAsciiCase) {
+    const Pairs matching = {
+        {L"REPORT.TXT", L"*.txt;*.log"}, {L"server.log", L"*.txt;*.LOG"}, {L"a.txt", L";;*.txt"}, {L"abc", L"A*"}};
+    const Pairs failing = {
+        {L"a.txt", L""}, {L"a.txt", L";;"}, {L"a.txt", L" *.txt"}, {L"a.txt", L"*.doc; *.txt"}, {L"Ärger", L"ä*"}};
+    ExpectMatches(MatchPatternList, matching, failing);
+}
+
+// An extension list (names trimmed, no wildcards) takes the item's last extension in any case.
+TEST(ScriptMatchers, AnExtensionListTakesTheLastExtension) {
+    const Pairs matching = {{L"C:\\data\\server.LOG", L"txt, ,log"},
+                            {L"C:\\a.txt", L" txt , log "},
+                            {L"C:\\dir\\.txt", L"txt"},
+                            {L"C:\\a.tar.gz", L"gz"}};
+    const Pairs failing = {{L"C:\\a.text", L"txt"},        {L"C:\\a.", L"txt"},  {L"C:\\a.", L""},
+                           {L"C:\\dir.txt\\file", L"txt"}, {L"C:\\a.txt", L"*"}, {L"C:\\a.txt", L""},
+                           {L"C:\\a.tar.gz", L"tar.gz"}};
+    ExpectMatches([](const std::wstring& item, const std::wstring& list) { return MatchExtensionList(list, item); },
+                  matching, failing);
 }
 
 }  // namespace

@@ -1,6 +1,5 @@
 #include <gtest/gtest.h>
 
-#include "script/MacroExpansion.h"
 #include "unit/script/ScriptFixture.h"
 
 namespace {
@@ -14,32 +13,23 @@ class ScriptRunnerTest : public ScriptFixture {};
 TEST_F(ScriptRunnerTest, WhichLinesRun) {
     struct Case {
         const char* label;
-        std::vector<std::wstring> lines;
-        std::vector<std::wstring> messages;
+        std::vector<std::wstring> lines, messages;
     };
     const std::wstring dir = kScriptDirectory;
+    // clang-format off
     const Case cases[] = {
         {"include with its path trimmed", {L"include =  C:\\a.txt  "}, {L"Cannot read C:\\a.txt"}},
-        {"word in any case, no blanks",
-         {L"INCLUDE=C:\\a.txt", L"\tInclude\t=\tC:\\b.txt"},
+        {"word in any case, no blanks", {L"INCLUDE=C:\\a.txt", L"\tInclude\t=\tC:\\b.txt"},
          {L"Cannot read C:\\a.txt", L"Cannot read C:\\b.txt"}},
         {"comments and blank lines", {L"// include = C:\\a.txt", L"", L"   "}, {}},
-        {"EOF ends the script", {L"include = C:\\a.txt", L"eof", L"include = C:\\b.txt"}, {L"Cannot read C:\\a.txt"}},
         {"a label line runs as what it is", {L"include = C:\\a.txt:"}, {L"Cannot read C:\\a.txt:"}},
         {"unknown lines pass in silence", {L"frobnicate = 1", L"include", L"include C:\\a.txt"}, {}},
-        {"the script's own macros",
-         {L"include = ?ScriptPath?x?SelectedCount?\\?ScriptName?"},
+        {"the script's own macros", {L"include = ?ScriptPath?x?SelectedCount?\\?ScriptName?"},
          {L"Cannot read " + dir + L"x2\\run.txt"}},
-        {"directory and date macros",
-         {L"include = %Script_dir%?Date?.txt"},
-         {L"Cannot read " + dir + L"2024-03-05.txt"}},
-        {"place macros vanish, item macros stay",
-         {L"include = C:\\?NowDir??Drive?\\?SelFile?"},
-         {L"Cannot read C:\\\\?SelFile?"}},
         {"an overlong line ends the script",
-         {L"include = C:\\a.txt", std::wstring(32767, L'x'), L"include = C:\\b.txt"},
-         {L"Cannot read C:\\a.txt"}},
+         {L"include = C:\\a.txt", std::wstring(32767, L'x'), L"include = C:\\b.txt"}, {L"Cannot read C:\\a.txt"}},
     };
+    // clang-format on
     selection = {L"C:\\one.txt", L"C:\\two.txt"};
     for (const auto& c : cases) {
         fake.prompts().Clear();
@@ -74,55 +64,94 @@ TEST_F(ScriptRunnerTest, TheLongestLastLineWithoutALineEnd) {
     }
 }
 
-TEST_F(ScriptRunnerTest, ALabelTwiceRunsNothing) {
-    EXPECT_EQ(0, Run(AddScript(L"twice.txt", {L"include = C:\\a.txt", L"top:", L"top:"})));
-    EXPECT_EQ(std::vector<std::wstring>{L"This label is already in use.\ntop:"}, Messages());
-}
-
+// An included script shares the variables, the selection and the messages, but has labels of its own:
+// a label twice (blanks and tabs around it trimmed) runs nothing of that script.
 TEST_F(ScriptRunnerTest, IncludedScriptsShareTablesAndSelectionButNotLabels) {
     VariableTable variables;
     variables.Set(L"NAME", L"grand");
     selection = {L"C:\\one.txt", L"C:\\two.txt", L"C:\\three.txt"};
     AddScript(L"child.txt", {L"top:", L"include = C:\\NAME\\?SelectedCount?.txt", L"include = ?ScriptPath?grand.txt"});
-    AddScript(L"grand.txt", {L"dup:", L"dup:"});
+    AddScript(L"grand.txt", {L"dup:", L"include = C:\\never.txt", L"\t dup :"});
     const std::wstring parent =
         AddScript(L"parent.txt", {L"top:", L"include = %Script_dir%child.txt", L"include = C:\\after.txt"});
     EXPECT_EQ(0, Run(parent, &variables));
-    EXPECT_EQ((std::vector<std::wstring>{L"Cannot read C:\\grand\\3.txt", L"This label is already in use.\ndup:",
+    EXPECT_EQ((std::vector<std::wstring>{L"Cannot read C:\\grand\\3.txt", L"This label is already in use.\ndup :",
                                          L"Cannot read C:\\after.txt"}),
               Messages());
 }
 
-TEST_F(ScriptRunnerTest, TheTraceWindowHearsOfEachScriptAndWhereTheParentGoesOn) {
-    fake.windows().SetTitledWindow(L"Script trace Qor", 0x51);
+// Without a debug line, or without the window when the script starts, nothing is traced. Otherwise
+// each script is announced as it starts and again when the parent goes on; then each line that runs
+// and each value it stores, comments and blank lines left out.
+TEST_F(ScriptRunnerTest, TheTraceWindowHearsOfScriptsLinesAndValues) {
     const std::wstring child = AddScript(L"child.txt", {L"debug"});
-    const std::wstring parent = AddScript(L"parent.txt", {L"debug", L"// x", L"include = " + child});
+    EXPECT_EQ(0, Run(child));
+    fake.windows().SetTitledWindow(L"Script trace Qor", 0x51);
+    EXPECT_EQ(0, Run(AddScript(L"quiet.txt", {L"include = " + AddScript(L"plain.txt", {L"x = 1"})})));
+    EXPECT_TRUE(fake.windows().copies().empty());
+
+    const std::wstring parent =
+        AddScript(L"parent.txt", {L"debug", L"// x", L"include = " + child, L"var h = 0x10", L"var a[2]", L"h = &y"});
     EXPECT_EQ(0, Run(parent));
     auto report = [](uint32_t code, const std::wstring& text) {
         return SentCopyData{0x51, 0, code, text, static_cast<uint32_t>(text.size() * 8 + 8)};
     };
     EXPECT_EQ((std::vector<SentCopyData>{report(1, parent), report(2, L"3"), report(1, child), report(1, parent),
-                                         report(2, L"3")}),
+                                         report(2, L"3"), report(2, L"4"), report(10, L"h\t"), report(10, L"h\t16"),
+                                         report(2, L"5"), report(10, L"a[0]\t"), report(10, L"a[1]\t"), report(2, L"6"),
+                                         report(10, L"h\t16y")}),
               fake.windows().copies());
 }
 
-TEST_F(ScriptRunnerTest, NoTraceWithoutDebugOrWithoutTheWindowAtTheStart) {
-    const std::wstring child = AddScript(L"child.txt", {L"x = 1"});
-    const std::wstring traced = AddScript(L"traced.txt", {L"debug", L"include = " + child});
-    EXPECT_EQ(0, Run(traced));
-    fake.windows().SetTitledWindow(L"Script trace Qor", 0x51);
-    EXPECT_EQ(0, Run(AddScript(L"quiet.txt", {L"include = " + child})));
-    EXPECT_TRUE(fake.windows().copies().empty());
+// What the shared table holds after each line: included scripts and the caller see it.
+TEST_F(ScriptRunnerTest, OptionLinesWriteTheSharedTable) {
+    struct Case {
+        std::wstring line;
+        const wchar_t* key;
+        const wchar_t* kept;
+    };
+    const Case cases[] = {
+        {L"Timeout = 5000ms", L"timeout", L"5000"},
+        {L"timeout = v", L"timeout", L"42"},
+        {L"showwindow =", L"showwindow", L"0"},
+        {L"multicommandmode = 2", L"multicommandmode", L"0"},
+        {L"shiftsilentmode = 01", L"shiftsilentmode", L"1"},
+        {L"checkgrammar =", L"checkgrammar", L"0"},
+        {L"checkgrammar = 1", L"checkgrammar", L"1"},
+        {L"checkgrammar = edit ?ErrorLine? v", L"checkgrammar", L"edit ?ErrorLine? 42"},
+        {L"bootdir =  %Script_dir%v ", L"bootdir", L"C:\\Users\\tester\\AppData\\Local\\Qor\\Script\\42"},
+        {L"filter = txt,v", L"filter", L"txt,42"},
+        {L"commandlineoption = -v ?SelFile?", L"commandlineoption", L"-42 ?SelFile?"},
+        {L"openmode = 3", L"openmode", L"3"},
+        {L"icon = C:\\a.ico", L"icon", nullptr},
+    };
+    for (const Case& c : cases) {
+        VariableTable shared;
+        shared.Set(L"v", L"42");
+        RunOptionTable options;
+        FillRunOptionDefaults(options);
+        EXPECT_EQ(0, Run(AddScript(L"options.txt", {c.line}), &shared, &options));
+        const std::wstring* kept = options.Find(c.key);
+        EXPECT_EQ(c.kept ? std::wstring(c.kept) : L"<none>", kept ? *kept : L"<none>")
+            << testing::PrintToString(c.line);
+    }
+    EXPECT_TRUE(Messages().empty());
 }
 
-TEST_F(ScriptRunnerTest, AnItemBeyondTheSelectionIsAnInvalidArgument) {
-    VariableTable variables;
-    selection = {L"C:\\a.txt"};
-    std::wstring text = L"?SelFile?";
-    EXPECT_THROW(ExpandScriptText(text, variables, L"", L"", selection, 1, false, directories), ScriptInvalidArgument);
-    EXPECT_THROW(ExpandScriptText(text, variables, L"", L"", selection, -2, false, directories), ScriptInvalidArgument);
-    ExpandScriptText(text, variables, L"", L"", selection, 0, false, directories);
-    EXPECT_EQ(L"\"C:\\a.txt\"", text);
+// The caller decides whether a script may set its command line, or only the selection's, and may force
+// the open mode, which then leaves the table alone.
+TEST_F(ScriptRunnerTest, WhatTheCallerAllows) {
+    const std::wstring path = AddScript(L"options.txt", {L"commandlineoption = /x ?SelFile?", L"openmode = 3"});
+    for (const auto& [forced, allow, selectionLine, commandLine, openMode] :
+         {std::tuple{-1, 0, 0, L"", L"3"}, std::tuple{-1, 1, 1, L"?SelFile?", L"3"},
+          std::tuple{-1, 1, 0, L"/x ?SelFile?", L"3"}, std::tuple{2, 1, 0, L"/x ?SelFile?", L"0"}}) {
+        RunOptionTable options;
+        FillRunOptionDefaults(options);
+        runner.Run(path, L"", L"", selection, static_cast<uint32_t>(forced), allow, 0, selectionLine, 1, nullptr,
+                   &options);
+        EXPECT_EQ(commandLine, *options.Find(L"commandlineoption")) << allow << selectionLine;
+        EXPECT_EQ(openMode, *options.Find(L"openmode")) << forced;
+    }
 }
 
 }  // namespace

@@ -5,11 +5,11 @@
 #include <vector>
 
 #include "script/DirectoryItems.h"
-#include "unit/script/ScriptCase.h"
+#include "unit/script/ScriptFixture.h"
 
 namespace {
 
-class ScriptSelectionTest : public ScriptCaseTest {
+class ScriptSelectionTest : public ScriptFixture {
 protected:
     ScriptSelectionTest() {
         fake.files().AddFile(L"C:\\Pics\\a.jpg", std::string_view("a"));
@@ -26,42 +26,32 @@ TEST_F(ScriptSelectionTest, CommandsChangeTheList) {
         SelectionList after;
         std::vector<std::wstring> messages;
     };
+    // clang-format off
     const Case cases[] = {
-        {"one item, empty or not",
-         {},
-         {L"var v = x", L"appendselectitem = C:\\v", L"appendselectitem ="},
-         {L"C:\\x", L""}},
-        {"csv fields trimmed, empties kept", {L"k"}, {L"appendcsvselectitem =  a , ,b,"}, {L"k", L"a", L"", L"b", L""}},
-        {"an empty csv adds none", {L"k"}, {L"appendcsvselectitem ="}, {L"k"}},
-        {"a directory's entries behind its path",
-         {},
-         {L"getselectitems = C:\\Pics\\"},
-         {L"C:\\Pics\\a.jpg", L"C:\\Pics\\b.png", L"C:\\Pics\\Old"}},
-        {"without its separator, behind its parent's",
-         {},
-         {L"getselectitems = C:\\Pics"},
-         {L"C:\\a.jpg", L"C:\\b.png", L"C:\\Old"}},
-        {"a pattern's entries", {L"k"}, {L"getselectitems = C:\\Pics\\*.png"}, {L"k", L"C:\\Pics\\b.png"}},
-        {"a missing directory adds none", {}, {L"getselectitems = C:\\Nowhere"}, {}},
-        {"matching items dropped, order kept",
-         {L"C:\\a.jpg", L"C:\\b.txt", L"C:\\c.JPG", L"C:\\d.doc"},
-         {L"removeselectitems = *.jpg;*.doc"},
-         {L"C:\\b.txt"}},
-        {"\"!\" keeps the matching ones",
-         {L"C:\\a.jpg", L"C:\\b.txt", L"C:\\c.jpg"},
-         {L"removeselectitems = ! *.jpg"},
-         {L"C:\\a.jpg", L"C:\\c.jpg"}},
-        {"a lone \"!\" is a pattern", {L"C:\\a.jpg", L"!"}, {L"removeselectitems = !"}, {L"C:\\a.jpg"}},
-        {"an empty pattern list drops nothing", {L"a", L"b"}, {L"removeselectitems ="}, {L"a", L"b"}},
-        {"the raw value: variables are not put in", {L"v", L"x"}, {L"var v = x", L"removeselectitems = v"}, {L"x"}},
-        {"no value empties the list", {L"a", L"b"}, {L"removeselectitems"}, {}},
-        {"no value empties it in a skipped block too", {L"a"}, {L"if 1 == 2", L"removeselectitems", L"endif"}, {}},
-        {"not inside a loop",
-         {L"a", L"b"},
-         {L"for", L"removeselectitems = a", L"next", L"appendselectitem = c"},
-         {L"a", L"b"},
-         {L"RemoveSelectItems can not be executed within the loop."}},
+        {"one item, empty or not", {}, {L"var v = x", L"appendselectitem = C:\\v", L"appendselectitem ="},
+         {L"C:\\x", L""}, {}},
+        {"csv fields trimmed, empties kept", {L"k"}, {L"appendcsvselectitem =  a , ,b,"}, {L"k", L"a", L"", L"b", L""},
+         {}},
+        {"an empty csv adds none", {L"k"}, {L"appendcsvselectitem ="}, {L"k"}, {}},
+        {"a directory's entries behind its path", {}, {L"getselectitems = C:\\Pics\\"},
+         {L"C:\\Pics\\a.jpg", L"C:\\Pics\\b.png", L"C:\\Pics\\Old"}, {}},
+        {"without its separator, behind its parent's", {}, {L"getselectitems = C:\\Pics"},
+         {L"C:\\a.jpg", L"C:\\b.png", L"C:\\Old"}, {}},
+        {"a pattern's entries", {L"k"}, {L"getselectitems = C:\\Pics\\*.png"}, {L"k", L"C:\\Pics\\b.png"}, {}},
+        {"a missing directory adds none", {}, {L"getselectitems = C:\\Nowhere"}, {}, {}},
+        {"matching items dropped, order kept", {L"C:\\a.jpg", L"C:\\b.txt", L"C:\\c.JPG", L"C:\\d.doc"},
+         {L"removeselectitems = *.jpg;*.doc"}, {L"C:\\b.txt"}, {}},
+        {"\"!\" keeps the matching ones", {L"C:\\a.jpg", L"C:\\b.txt", L"C:\\c.jpg"}, {L"removeselectitems = ! *.jpg"},
+         {L"C:\\a.jpg", L"C:\\c.jpg"}, {}},
+        {"a lone \"!\" is a pattern", {L"C:\\a.jpg", L"!"}, {L"removeselectitems = !"}, {L"C:\\a.jpg"}, {}},
+        {"an empty pattern list drops nothing", {L"a", L"b"}, {L"removeselectitems ="}, {L"a", L"b"}, {}},
+        {"the raw value: variables are not put in", {L"v", L"x"}, {L"var v = x", L"removeselectitems = v"}, {L"x"}, {}},
+        {"no value empties the list", {L"a", L"b"}, {L"removeselectitems"}, {}, {}},
+        {"no value empties it in a skipped block too", {L"a"}, {L"if 1 == 2", L"removeselectitems", L"endif"}, {}, {}},
+        {"not inside a loop", {L"a", L"b"}, {L"for", L"removeselectitems = a", L"next", L"appendselectitem = c"},
+         {L"a", L"b"}, {L"RemoveSelectItems can not be executed within the loop."}},
     };
+    // clang-format on
     for (const Case& c : cases) {
         selection = c.before;
         RunLines(c.lines);
