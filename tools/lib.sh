@@ -57,7 +57,8 @@ install_missing() {
 build_preset() {
   local preset=$1
   shift
-  if [ ! -f "$BUILD/$preset/CMakeCache.txt" ]; then
+  # Configured once, and again when the presets have changed since.
+  if [ ! -f "$BUILD/$preset/CMakeCache.txt" ] || [ "$ROOT/CMakePresets.json" -nt "$BUILD/$preset/CMakeCache.txt" ]; then
     cmake --preset "$preset" -S "$ROOT" >/dev/null
   fi
   local targets=()
