@@ -69,7 +69,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
 
     VariableTable shared;
     selection = {L"C:\\dir\\one.txt", L"two"};
-    runner.Run(kScript, L"C:\\dir\\", L"C:\\dir\\one.txt", selection, static_cast<uint32_t>(-1), 1, 0, 0, 1,
-               &shared, nullptr);
+    runner.Run(kScript, L"C:\\dir\\", L"C:\\dir\\one.txt", selection, static_cast<uint32_t>(-1), 1, 0, 0, 1, &shared,
+               nullptr);
     return 0;
 }
