@@ -124,16 +124,15 @@ TEST(CRuntime, ReplaceIsOnePassFromTheLeft) {
 }
 
 TEST(CRuntime, MidLeftRightCutAsTheFrameworkDoes) {
-    EXPECT_EQ(L"cd", crt::Mid(L"abcdef", 2, 2));
-    EXPECT_EQ(L"ab", crt::Mid(L"abcdef", -3, 2));
-    EXPECT_EQ(L"", crt::Mid(L"abcdef", 9, 2));
-    EXPECT_EQ(L"ef", crt::Mid(L"abcdef", 4, 99));
-    EXPECT_EQ(L"", crt::Mid(L"abcdef", 1, -1));
-    EXPECT_EQ(L"abc", crt::Left(L"abc", 7));
-    EXPECT_EQ(L"", crt::Left(L"abc", -1));
-    EXPECT_EQ(L"bc", crt::Right(L"abc", 2));
-    EXPECT_EQ(L"abc", crt::Right(L"abc", 9));
-    EXPECT_EQ(L"", crt::Right(L"abc", -2));
+    // clang-format off
+    const struct { std::wstring found; const wchar_t* expected; } cases[] = {
+        {crt::Mid(L"abcdef", 2, 2), L"cd"}, {crt::Mid(L"abcdef", -3, 2), L"ab"}, {crt::Mid(L"abcdef", 9, 2), L""},
+        {crt::Mid(L"abcdef", 4, 99), L"ef"}, {crt::Mid(L"abcdef", 1, -1), L""}, {crt::Left(L"abc", 7), L"abc"},
+        {crt::Left(L"abc", -1), L""}, {crt::Right(L"abc", 2), L"bc"}, {crt::Right(L"abc", 9), L"abc"},
+        {crt::Right(L"abc", -2), L""},
+    };
+    // clang-format on
+    for (const auto& c : cases) EXPECT_EQ(c.expected, c.found) << (&c - cases);
 }
 
 }  // namespace

@@ -5,7 +5,6 @@
 #include <filesystem>
 #include <fstream>
 #include <iterator>
-#include <regex>
 #include <vector>
 
 #include "platform/fake/FakePlatform.h"
@@ -23,8 +22,20 @@ std::vector<uint8_t> ReadBytes(const std::filesystem::path& path) {
 
 // A whole number of five digits from 62301 to 63999 somewhere in the line.
 bool HasMessageNumber(const std::string& line) {
-    static const std::regex number("(^|[^0-9])(6230[1-9]|623[1-9][0-9]|62[4-9][0-9][0-9]|63[0-9]{3})([^0-9]|$)");
-    return std::regex_search(line, number);
+    for (size_t at = 0; at < line.size();) {
+        size_t end = at;
+        while (end < line.size() && line[end] >= '0' && line[end] <= '9') ++end;
+        if (end == at) {
+            ++at;
+            continue;
+        }
+        if (end - at == 5) {
+            int value = std::stoi(line.substr(at, 5));
+            if (value >= 62301 && value <= 63999) return true;
+        }
+        at = end;
+    }
+    return false;
 }
 
 TEST(MessageIds, EverySampleLanguageHasEveryText) {
