@@ -117,12 +117,8 @@ TEST_F(CommandCatalogTest, CommandStrings) {
                  L"33005\t\t\tx\tListed bar button\r\n"
                  L"35900\t\t\tx\tNot asked for\r\n"}});
     catalog.LoadCommandLists(kUserDir);
-    struct Case {
-        uint16_t id;
-        bool withLibrary;
-        std::wstring text;
-    };
     // clang-format off
+    struct Case { uint16_t id; bool withLibrary; std::wstring text; };
     const Case cases[] = {
         {0, true, L"---"}, {0, false, L"---"}, {33000, true, L"Bar 1 button 1"}, {33005, true, L"Listed bar button"},
         {33009, true, L"Bar 1 button 10"}, {33049, true, L"Bar 5 button 10"}, {33089, true, L"Bar 9 button 10"},

@@ -63,13 +63,9 @@ Operations Read(FakePlatform& fake, std::wstring_view text) {
 }
 
 TEST(DialogText, ImportTurnsLinesIntoOperations) {
-    struct Case {
-        const char* label;
-        std::wstring text;
-        Operations expected;
-    };
-    const std::wstring longest(32767 - 12, L'x');
     // clang-format off
+    struct Case { const char* label; std::wstring text; Operations expected; };
+    const std::wstring longest(32767 - 12, L'x');
     const Case cases[] = {
         {"title and controls", L"Settings\r\n1001\tStatic\tName\r\n1002\tButton\t&Browse...\r\n",
          {Title(L"Settings"), Text(1001, L"Name"), Text(1002, L"&Browse...")}},
@@ -142,12 +138,8 @@ TEST(DialogText, ExportWritesTheFileByteForByte) {
 }
 
 TEST(DialogText, FileNameFromProgramTagAndId) {
-    struct Case {
-        std::wstring program, tag;
-        int32_t id;
-        std::wstring directory, path;
-    };
     // clang-format off
+    struct Case { std::wstring program, tag; int32_t id; std::wstring directory, path; };
     const Case cases[] = {
         {L"C:\\x\\Option.exe", L".en-US", 159, L"C:\\x\\.en-US\\Option", L"C:\\x\\.en-US\\Option\\159.txt"},
         {L"\\\\server\\share\\Qor\\Option.exe", L".ja-JP", 3001, L"\\\\server\\share\\Qor\\.ja-JP\\Option",
@@ -168,9 +160,9 @@ TEST(DialogText, FileNameFromProgramTagAndId) {
 TEST(DialogText, LanguageDecidesWhetherFilesAreUsed) {
     struct Case {
         const char* label;
-        const wchar_t* nls;              // null: no value
-        std::optional<int32_t> langOut;  // none: no value
-        std::wstring file;               // empty: no file is read or written
+        const wchar_t* nls;                      // null: no value
+        std::optional<int32_t> langOut;          // none: no value
+        std::wstring file;                       // empty: no file is read or written
         void (*spoil)(FakePlatform&) = nullptr;  // makes the file impossible to write
     };
     const std::wstring japanese = L"C:\\Qor\\Tools\\Option\\.ja-JP\\Option\\159.txt";

@@ -110,14 +110,8 @@ TEST(ProcessLaunch, DropFilesBlockIsAWideListBehindATwentyByteHeader) {
 
 TEST(ProcessLaunch, ShellLaunchNormalisesTheFileAndTakesItsDirectory) {
     const std::wstring deep = L"C:\\" + std::wstring(260, L'd') + L"\\";
-    struct Case {
-        const char* what;
-        std::wstring file;
-        std::wstring directory;
-        bool wait;
-        ShellRequest expected;
-    };
     // clang-format off
+    struct Case { const char* what; std::wstring file; std::wstring directory; bool wait; ShellRequest expected; };
     const Case cases[] = {
         {"directory of the file", L"C:\\Tools\\app.exe", L"", false,
          {512, 0x77, L"C:\\Tools\\app.exe", L"-p", L"C:\\Tools\\", 3}},

@@ -33,13 +33,8 @@ std::vector<Line> ReadAll(TextFileReader& reader, uint32_t limit = 32767) {
 }
 
 TEST(TextFileReader, LinesOffsetsAndNumbers) {
-    struct Case {
-        const char* label;
-        std::vector<uint8_t> bytes;
-        std::vector<Line> lines;
-        uint32_t limit = 32767;
-    };
     // clang-format off
+    struct Case { const char* label; std::vector<uint8_t> bytes; std::vector<Line> lines; uint32_t limit = 32767; };
     const Case cases[] = {
         {"bom and crlf", Utf16Bytes(L"ab\r\nc\r\n", true), {{L"ab", 2, 10, 1}, {L"c", 10, 16, 2}, {L"", 16, 16, 3}}},
         {"lf and lone cr", Utf16Bytes(L"a\nb\rc"),
