@@ -109,7 +109,7 @@ TEST_F(CommandCatalogTest, CommandStrings) {
     // clang-format off
     fake.system().AddLibrary(kLibrary, LibraryContent{{{35900, L"Open\nOpen the item"}, {35901, L"\nOnly a tip"},
         {47000, L"Bar menu"}, {50551, L"External %d"}, {50556, L"User command %d\nTip"}, {50560, L"Bar 1 button %d"},
-        {50564, L"Bar 5 button %d"}, {50574, L"Bar 9 button %d"}}, {}});
+        {50564, L"Bar 5 button %d"}, {50574, L"Bar 9 button %d"}, {35903, L"Tab\tand\r\nCR\nmore"}}, {}});
     // clang-format on
     auto library = fake.system().LoadDataLibrary(kLibrary);
     WriteLists({{L"ExternalDefCommand.txt",
@@ -126,7 +126,7 @@ TEST_F(CommandCatalogTest, CommandStrings) {
         {42501, true, L"User command 42501\nTip"}, {42600, false, L""}, {35900, true, L"Open"},
         {35900, false, L"Cannot get command string."}, {35901, true, L"Cannot get command string."},
         {35902, true, L"Cannot get command string."}, {47000, true, L"Bar menu"},
-        {33090, true, L"Cannot get command string."},
+        {33090, true, L"Cannot get command string."}, {35903, true, L"Tab\tand\r"},  // the text ends at the first LF
     };
     // clang-format on
     for (const Case& c : cases) {
