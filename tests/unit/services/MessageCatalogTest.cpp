@@ -66,7 +66,7 @@ TEST(MessageCatalog, ConfirmationsFollowTheirBit) {
     // clang-format off
     struct Case { int32_t setting; uint16_t id; int expected; };
     const Case cases[] = {
-        {-1, 63301, platform::kAnswerYes},     {0, 63301, -1}, {1, 63301, platform::kAnswerYes},      {2, 63301, -1},
+        {-1, 63301, platform::kAnswerYes}, {0, 63301, -1}, {1, 63301, platform::kAnswerYes}, {2, 63301, -1},
         {0x4000, 63329, platform::kAnswerYes}, {0x3FFF, 63329, -1},
         {0x38FB, 63303, platform::kAnswerYes}, {0x38FB, 63305, -1},
     };

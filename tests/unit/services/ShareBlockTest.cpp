@@ -20,14 +20,9 @@ std::vector<uint16_t> Units(std::wstring_view text, size_t count = 0) {
 }
 
 TEST(ShareBlock, SplitsTabEndedFieldsAndOverwritesEachTabItPasses) {
-    struct Case {
-        const char* what;
-        std::wstring text;
-        size_t limit;
-        ShareBlock expected;  // the split leaves the inspection text to the reader
-        std::wstring after;
-    };
+    // The split leaves the inspection text to the reader.
     // clang-format off
+    struct Case { const char* what; std::wstring text; size_t limit; ShareBlock expected; std::wstring after; };
     const Case cases[] = {
         {"c1 0 and c2 2 put fields 4 and 5 in the second list", L"0\t2\tC:\\w\topt\ta\tb\t", 100,
          {L"C:\\w", L"opt", {}, {L"a", L"b"}, L""}, L"0|2|C:\\w|opt|a|b|"},
