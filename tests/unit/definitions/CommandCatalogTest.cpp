@@ -45,41 +45,31 @@ TEST_F(CommandCatalogTest, ListFileRules) {
         int stored;
         std::map<uint16_t, std::wstring> names;  // "" : not listed
     };
+    // clang-format off
     const Case cases[] = {
-        {"the later list wins",
-         {{L"ExternalDefCommand.txt", L"41001\t\tN--\ta.exe\tFirst\r\n"},
-          {L"UserMenuCommand.txt", L"41001\t\tN--\tb.exe\tSecond\r\n"}},
-         2,
-         {{41001, L"Second"}}},
+        {"the later list wins", {{L"ExternalDefCommand.txt", L"41001\t\tN--\ta.exe\tFirst\r\n"},
+                                 {L"UserMenuCommand.txt", L"41001\t\tN--\tb.exe\tSecond\r\n"}},
+         2, {{41001, L"Second"}}},
         {"EOF ends its own list only, and only in capitals",
          {{L"ExternalDefCommand.txt",
            L"40001\t\t\ta\tOne\r\neof\r\n40002\t\t\tb\tTwo\r\n EOF \r\n40003\t\t\tc\tThree\r\n"},
-          {L"ScriptCommand.txt", L"40004\t\t\td\tFour\r\n"}},
-         3,
+          {L"ScriptCommand.txt", L"40004\t\t\td\tFour\r\n"}}, 3,
          {{40001, L"One"}, {40002, L"Two"}, {40003, L""}, {40004, L"Four"}}},
-        {"three and six fields are skipped, four and five are data",
-         {{L"ScriptNaviCommand.txt",
-           L"40505\tN--\tx\r\n40506\t\tN--\tx\ty\tz\r\n40507\tN--\tx.exe\tFour\r\n40508\tC\tN--\tx.exe\tFive\r\n"}},
-         2,
+        {"three and six fields are skipped, four and five are data", {{L"ScriptNaviCommand.txt",
+           L"40505\tN--\tx\r\n40506\t\tN--\tx\ty\tz\r\n40507\tN--\tx.exe\tFour\r\n40508\tC\tN--\tx.exe\tFive\r\n"}}, 2,
          {{40505, L""}, {40506, L""}, {40507, L"Four"}, {40508, L"Five"}}},
-        {"a comment line is skipped even with five fields",
-         {{L"PlugInCommand.txt",
-           L"//41501\t\tN--\tx\tHidden\r\n  //41502\t\tN--\tx\tIndented\r\n41503\t\tN--\tx\t//Shown\r\n"}},
-         1,
+        {"a comment line is skipped even with five fields", {{L"PlugInCommand.txt",
+           L"//41501\t\tN--\tx\tHidden\r\n  //41502\t\tN--\tx\tIndented\r\n41503\t\tN--\tx\t//Shown\r\n"}}, 1,
          {{41501, L""}, {41502, L""}, {41503, L"//Shown"}}},
         {"an empty comment shifts the line to the four-field form",
-         {{L"ExternalUserCommand.txt", L"42501\tS\tNF-\tnotepad.exe\t\r\n"}},
-         1,
-         {{42501, L"notepad.exe"}}},
+         {{L"ExternalUserCommand.txt", L"42501\tS\tNF-\tnotepad.exe\t\r\n"}}, 1, {{42501, L"notepad.exe"}}},
         {"byte order marks vanish anywhere in a line",
-         {{L"ExternalDefCommand.txt", L"400\uFEFF01\t\tN--\tx\tCo\uFEFFpy\uFEFF\r\n"}},
-         1,
-         {{40001, L"Copy"}}},
+         {{L"ExternalDefCommand.txt", L"400\uFEFF01\t\tN--\tx\tCo\uFEFFpy\uFEFF\r\n"}}, 1, {{40001, L"Copy"}}},
         {"identifiers keep 16 bits, lines may end in LF alone, blank lines are skipped",
-         {{L"ExternalDefCommand.txt", L"\r\n65537\t\t\tx\tWrapped\n\t\r\n-1\t\t\tx\tTop\r\n"}},
-         2,
+         {{L"ExternalDefCommand.txt", L"\r\n65537\t\t\tx\tWrapped\n\t\r\n-1\t\t\tx\tTop\r\n"}}, 2,
          {{1, L"Wrapped"}, {65535, L"Top"}}},
     };
+    // clang-format on
     for (const Case& c : cases) {
         SCOPED_TRACE(c.what);
         WriteLists(c.lists);
@@ -116,46 +106,29 @@ TEST_F(CommandCatalogTest, EachMissingListIsToldAndTheOthersAreRead) {
 }
 
 TEST_F(CommandCatalogTest, CommandStrings) {
-    fake.system().AddLibrary(kLibrary, LibraryContent{{{35900, L"Open\nOpen the item"},
-                                                       {35901, L"\nOnly a tip"},
-                                                       {47000, L"Bar menu"},
-                                                       {50551, L"External %d"},
-                                                       {50556, L"User command %d\nTip"},
-                                                       {50560, L"Bar 1 button %d"},
-                                                       {50564, L"Bar 5 button %d"},
-                                                       {50574, L"Bar 9 button %d"}},
-                                                      {}});
+    // clang-format off
+    fake.system().AddLibrary(kLibrary, LibraryContent{{{35900, L"Open\nOpen the item"}, {35901, L"\nOnly a tip"},
+        {47000, L"Bar menu"}, {50551, L"External %d"}, {50556, L"User command %d\nTip"}, {50560, L"Bar 1 button %d"},
+        {50564, L"Bar 5 button %d"}, {50574, L"Bar 9 button %d"}, {35903, L"Tab\tand\r\nCR\nmore"}}, {}});
+    // clang-format on
     auto library = fake.system().LoadDataLibrary(kLibrary);
     WriteLists({{L"ExternalDefCommand.txt",
                  L"40001\t\tN--\tnotepad.exe\tEdit in Notepad\r\n"
                  L"33005\t\t\tx\tListed bar button\r\n"
                  L"35900\t\t\tx\tNot asked for\r\n"}});
     catalog.LoadCommandLists(kUserDir);
-    struct Case {
-        uint16_t id;
-        bool withLibrary;
-        std::wstring text;
-    };
+    // clang-format off
+    struct Case { uint16_t id; bool withLibrary; std::wstring text; };
     const Case cases[] = {
-        {0, true, L"---"},
-        {0, false, L"---"},
-        {33000, true, L"Bar 1 button 1"},
-        {33005, true, L"Listed bar button"},
-        {33009, true, L"Bar 1 button 10"},
-        {33049, true, L"Bar 5 button 10"},
-        {33089, true, L"Bar 9 button 10"},
-        {40001, true, L"Edit in Notepad"},
-        {40001, false, L"Edit in Notepad"},
-        {40002, true, L"External 40002"},
-        {42501, true, L"User command 42501\nTip"},
-        {42600, false, L""},
-        {35900, true, L"Open"},
-        {35900, false, L"Cannot get command string."},
-        {35901, true, L"Cannot get command string."},
-        {35902, true, L"Cannot get command string."},
-        {47000, true, L"Bar menu"},
-        {33090, true, L"Cannot get command string."},
+        {0, true, L"---"}, {0, false, L"---"}, {33000, true, L"Bar 1 button 1"}, {33005, true, L"Listed bar button"},
+        {33009, true, L"Bar 1 button 10"}, {33049, true, L"Bar 5 button 10"}, {33089, true, L"Bar 9 button 10"},
+        {40001, true, L"Edit in Notepad"}, {40001, false, L"Edit in Notepad"}, {40002, true, L"External 40002"},
+        {42501, true, L"User command 42501\nTip"}, {42600, false, L""}, {35900, true, L"Open"},
+        {35900, false, L"Cannot get command string."}, {35901, true, L"Cannot get command string."},
+        {35902, true, L"Cannot get command string."}, {47000, true, L"Bar menu"},
+        {33090, true, L"Cannot get command string."}, {35903, true, L"Tab\tand\r"},  // the text ends at the first LF
     };
+    // clang-format on
     for (const Case& c : cases) {
         EXPECT_EQ(c.text, catalog.GetCommandString(c.id, c.withLibrary ? library.get() : nullptr))
             << c.id << (c.withLibrary ? " with" : " without") << " library";

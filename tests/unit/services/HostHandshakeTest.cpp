@@ -10,19 +10,15 @@ using platform::fake::FakePlatform;
 using platform::fake::SentCopyData;
 
 TEST(HostHandshake, WindowModeDecidesParentCentringStyleAndComingForward) {
-    struct Case {
-        int32_t mode;
-        HostPlacement expected;
-    };
+    // clang-format off
+    struct Case { int32_t mode; HostPlacement expected; };
     const Case cases[] = {
-        {0, {false, true, false, ComingForward::Deferred}},
-        {1, {false, true, false, ComingForward::TopmostThenForced}},
-        {2, {false, true, true, ComingForward::TopmostThenForced}},
-        {3, {true, false, false, ComingForward::Nothing}},
-        {4, {false, true, true, ComingForward::Deferred}},
-        {5, {false, true, false, ComingForward::Deferred}},
+        {0, {false, true, false, ComingForward::Deferred}}, {1, {false, true, false, ComingForward::TopmostThenForced}},
+        {2, {false, true, true, ComingForward::TopmostThenForced}}, {3, {true, false, false, ComingForward::Nothing}},
+        {4, {false, true, true, ComingForward::Deferred}}, {5, {false, true, false, ComingForward::Deferred}},
         {-1, {false, true, false, ComingForward::Deferred}},
     };
+    // clang-format on
     for (const Case& c : cases) EXPECT_EQ(c.expected, PlacementForMode(c.mode)) << "mode " << c.mode;
 }
 
@@ -38,12 +34,8 @@ TEST(HostHandshake, OnlyModeThreeMakesTheFirstHostTheParent) {
 
 TEST(HostHandshake, CentresOnTheHostInsideTheWorkArea) {
     const ScreenRect work{0, 0, 1280, 1000};
-    struct Case {
-        const char* what;
-        ScreenRect host;
-        ScreenRect dialog;
-        ScreenRect expected;
-    };
+    // clang-format off
+    struct Case { const char* what; ScreenRect host; ScreenRect dialog; ScreenRect expected; };
     const Case cases[] = {
         {"in the middle", {100, 100, 740, 580}, {0, 0, 300, 200}, {270, 240, 570, 440}},
         {"odd halves truncate toward zero", {0, 0, 101, 101}, {5, 5, 105, 105}, {0, 0, 100, 100}},
@@ -52,6 +44,7 @@ TEST(HostHandshake, CentresOnTheHostInsideTheWorkArea) {
         {"pushed right and down off the near edges", {-200, -100, 0, 0}, {0, 0, 300, 200}, {0, 0, 300, 200}},
         {"larger than the work area keeps left and top", {0, 0, 100, 100}, {0, 0, 1400, 1100}, {0, 0, 1400, 1100}},
     };
+    // clang-format on
     for (const Case& c : cases) EXPECT_EQ(c.expected, CentredOnHost(c.host, c.dialog, work)) << c.what;
     EXPECT_EQ((ScreenRect{1330, 30, 1430, 130}),
               CentredOnHost({1280, 0, 1480, 140}, {0, 0, 100, 100}, {1280, 30, 2560, 1024}))

@@ -55,20 +55,4 @@ TEST_F(LanguageResourcesTest, ALoadedLibraryPassesStringsAndMenusThrough) {
     EXPECT_TRUE(fake.prompts().shown().empty()) << "only a missing library is told";
 }
 
-TEST(CommandTextOf, CutsAtTheFirstLineFeed) {
-    struct Case {
-        std::wstring string;
-        std::wstring text;
-    };
-    const Case cases[] = {
-        {L"Copy\nCopy the selected items", L"Copy"},
-        {L"Copy", L"Copy"},
-        {L"a\nb\nc", L"a"},
-        {L"\ntip only", L""},
-        {L"", L""},
-        {L"Tab\tand\r\nCR", L"Tab\tand\r"},
-    };
-    for (const auto& c : cases) EXPECT_EQ(c.text, CommandTextOf(c.string)) << testing::PrintToString(c.string);
-}
-
 }  // namespace

@@ -30,24 +30,15 @@ TEST(MessageCatalog, LoadingRules) {
                                            true));
     MessageCatalog messages;
     messages.SetPath(kPath);
-    struct Case {
-        uint16_t id;
-        std::wstring text;
-    };
+    // clang-format off
+    struct Case { uint16_t id; std::wstring text; };
     const Case cases[] = {
-        {100, L"plain"},
-        {101, L"  padded"},
-        {102, L"line\nbreak"},
-        {103, L"\nedges"},
-        {104, MessageCatalog::kMissingText},
-        {105, MessageCatalog::kMissingText},
-        {4464, L"wrapped"},
-        {0, L"not a number"},
-        {106, L"inner"},
-        {107, L"lf only"},
-        {108, MessageCatalog::kMissingText},
+        {100, L"plain"}, {101, L"  padded"}, {102, L"line\nbreak"}, {103, L"\nedges"},
+        {104, MessageCatalog::kMissingText}, {105, MessageCatalog::kMissingText}, {4464, L"wrapped"},
+        {0, L"not a number"}, {106, L"inner"}, {107, L"lf only"}, {108, MessageCatalog::kMissingText},
         {1, MessageCatalog::kMissingText},
     };
+    // clang-format on
     for (const auto& c : cases) EXPECT_EQ(c.text, messages.Get(c.id)) << c.id;
     EXPECT_TRUE(fake.prompts().shown().empty());
 }
@@ -72,17 +63,14 @@ TEST(MessageCatalog, ConfirmationsFollowTheirBit) {
                                            L"63329\tcaption 15\n63330\tquestion 15\n"));
     MessageCatalog messages;
     messages.SetPath(kPath);
-    struct Case {
-        int32_t setting;
-        uint16_t id;
-        int expected;
-    };
+    // clang-format off
+    struct Case { int32_t setting; uint16_t id; int expected; };
     const Case cases[] = {
-        {-1, 63301, platform::kAnswerYes},     {0, 63301, -1},
-        {1, 63301, platform::kAnswerYes},      {2, 63301, -1},
+        {-1, 63301, platform::kAnswerYes}, {0, 63301, -1}, {1, 63301, platform::kAnswerYes}, {2, 63301, -1},
         {0x4000, 63329, platform::kAnswerYes}, {0x3FFF, 63329, -1},
         {0x38FB, 63303, platform::kAnswerYes}, {0x38FB, 63305, -1},
     };
+    // clang-format on
     for (const auto& c : cases) {
         fake.prompts().Clear();
         fake.prompts().Answer(platform::kAnswerYes);

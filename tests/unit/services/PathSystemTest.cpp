@@ -14,17 +14,14 @@ TEST(PathSystem, FullPathOnlyWhenTheResultFitsTheArgument) {
     FakePlatform fake;
     fake.files().AddDirectory(L"C:\\Qor\\command\\Option");
     fake.files().ChangeDirectory(L"C:\\Qor");
-    struct Case {
-        const wchar_t* path;
-        const wchar_t* expected;
-    };
+    // clang-format off
+    struct Case { const wchar_t* path; const wchar_t* expected; };
     const Case cases[] = {
         {L"C:\\Qor\\command\\Option\\..\\..\\Lang\\Msg.ja-JP.txt", L"C:\\Qor\\Lang\\Msg.ja-JP.txt"},
-        {L"C:\\Qor\\command\\Option\\..\\..\\", L"C:\\Qor\\"},
-        {L"C:/Qor/./x", L"C:\\Qor\\x"},
-        {L"relative.txt", L"relative.txt"},
-        {L"", L""},
+        {L"C:\\Qor\\command\\Option\\..\\..\\", L"C:\\Qor\\"}, {L"C:/Qor/./x", L"C:\\Qor\\x"},
+        {L"relative.txt", L"relative.txt"}, {L"", L""},
     };
+    // clang-format on
     for (const auto& c : cases) EXPECT_EQ(c.expected, FullPath(c.path)) << testing::PrintToString(std::wstring(c.path));
 }
 
@@ -40,21 +37,14 @@ TEST(PathSystem, ExpandEnvironmentReplacesDefinedNamesOnly) {
     FakePlatform fake;
     fake.environment().SetVariable(L"Home", L"C:\\Users\\me");
     fake.environment().SetVariable(L"EMPTY", L"");
-    struct Case {
-        const wchar_t* text;
-        const wchar_t* expected;
-    };
+    // clang-format off
+    struct Case { const wchar_t* text; const wchar_t* expected; };
     const Case cases[] = {
-        {L"%HOME%\\x", L"C:\\Users\\me\\x"},
-        {L"%home%%HOME%", L"C:\\Users\\meC:\\Users\\me"},
-        {L"%UNKNOWN%\\x", L"%UNKNOWN%\\x"},
-        {L"%UNKNOWN%HOME%", L"%UNKNOWN%HOME%"},
-        {L"100%", L"100%"},
-        {L"%%", L"%%"},
-        {L"a%EMPTY%b", L"ab"},
-        {L"%HOME", L"%HOME"},
-        {L"", L""},
+        {L"%HOME%\\x", L"C:\\Users\\me\\x"}, {L"%home%%HOME%", L"C:\\Users\\meC:\\Users\\me"},
+        {L"%UNKNOWN%\\x", L"%UNKNOWN%\\x"}, {L"%UNKNOWN%HOME%", L"%UNKNOWN%HOME%"}, {L"100%", L"100%"}, {L"%%", L"%%"},
+        {L"a%EMPTY%b", L"ab"}, {L"%HOME", L"%HOME"}, {L"", L""},
     };
+    // clang-format on
     for (const auto& c : cases) {
         EXPECT_EQ(c.expected, ExpandEnvironment(c.text)) << testing::PrintToString(std::wstring(c.text));
     }
@@ -84,20 +74,15 @@ TEST(PathSystem, NormaliseLongNameDropsPrefixesAndLengthensShortNames) {
     fake.files().AddDirectory(L"C:\\Program Files\\Long Folder Name");
     fake.files().SetShortName(L"C:\\Program Files", L"PROGRA~1");
     fake.files().SetShortName(L"C:\\Program Files\\Long Folder Name", L"LONGFO~1");
-    struct Case {
-        const wchar_t* path;
-        const wchar_t* expected;
-    };
+    // clang-format off
+    struct Case { const wchar_t* path; const wchar_t* expected; };
     const Case cases[] = {
-        {L"\\\\?\\C:\\x", L"C:\\x"},
-        {L"\\\\?\\UNC\\srv\\share", L"srv\\share"},
-        {L"\\??\\UNC\\srv\\share", L"srv\\share"},
-        {L"C:\\PROGRA~1\\LONGFO~1", L"C:\\Program Files\\Long Folder Name"},
-        {L"\\\\?\\C:\\PROGRA~1", L"C:\\Program Files"},
-        {L"C:\\PROGRA~1\\missing", L"C:\\PROGRA~1\\missing"},
-        {L"C:\\abcdefgh~1", L"C:\\abcdefgh~1"},
-        {L"C:\\a~b", L"C:\\a~b"},
+        {L"\\\\?\\C:\\x", L"C:\\x"}, {L"\\\\?\\UNC\\srv\\share", L"srv\\share"},
+        {L"\\??\\UNC\\srv\\share", L"srv\\share"}, {L"C:\\PROGRA~1\\LONGFO~1", L"C:\\Program Files\\Long Folder Name"},
+        {L"\\\\?\\C:\\PROGRA~1", L"C:\\Program Files"}, {L"C:\\PROGRA~1\\missing", L"C:\\PROGRA~1\\missing"},
+        {L"C:\\abcdefgh~1", L"C:\\abcdefgh~1"}, {L"C:\\a~b", L"C:\\a~b"},
     };
+    // clang-format on
     for (const auto& c : cases) {
         EXPECT_EQ(c.expected, NormaliseLongName(c.path)) << testing::PrintToString(std::wstring(c.path));
     }

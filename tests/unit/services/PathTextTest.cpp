@@ -1,26 +1,18 @@
 // Path routines that work on the text alone.
 #include <gtest/gtest.h>
 
-#include "services/BitMask.h"
 #include "services/LongPath.h"
 #include "services/PathHelpers.h"
 
 namespace {
 
 TEST(PathText, DirectoryAndFileParts) {
-    struct Case {
-        const wchar_t* path;
-        const wchar_t* directory;
-        const wchar_t* file;
+    // clang-format off
+    struct Case { const wchar_t* path; const wchar_t* directory; const wchar_t* file; } cases[] = {
+        {L"C:\\a\\b.txt", L"C:\\a\\", L"b.txt"}, {L"C:\\a\\", L"C:\\a\\", L""}, {L"b.txt", L"b.txt", L"b.txt"},
+        {L"a/b/c.txt", L"a/b/c.txt", L"a/b/c.txt"}, {L"", L"", L""}, {L"\\\\srv\\share", L"\\\\srv\\", L"share"},
     };
-    const Case cases[] = {
-        {L"C:\\a\\b.txt", L"C:\\a\\", L"b.txt"},
-        {L"C:\\a\\", L"C:\\a\\", L""},
-        {L"b.txt", L"b.txt", L"b.txt"},
-        {L"a/b/c.txt", L"a/b/c.txt", L"a/b/c.txt"},
-        {L"", L"", L""},
-        {L"\\\\srv\\share", L"\\\\srv\\", L"share"},
-    };
+    // clang-format on
     for (const auto& c : cases) {
         EXPECT_EQ(c.directory, DirectoryPart(c.path)) << testing::PrintToString(std::wstring(c.path));
         EXPECT_EQ(c.file, FilePart(c.path)) << testing::PrintToString(std::wstring(c.path));
@@ -28,41 +20,25 @@ TEST(PathText, DirectoryAndFileParts) {
 }
 
 TEST(PathText, AddSeparatorKeepsItsOddityForSlashes) {
-    struct Case {
-        const wchar_t* path;
-        const wchar_t* expected;
+    // clang-format off
+    struct Case { const wchar_t* path; const wchar_t* expected; } cases[] = {
+        {L"", L""}, {L"C:\\dir", L"C:\\dir\\"}, {L"C:\\dir\\", L"C:\\dir\\"}, {L"C:/dir", L"C:/dir\u008B"},
+        {L"C:/dir\u008B", L"C:/dir\u008B"}, {L"C:/dir/", L"C:/dir/\u008B"}, {L"C:\\dir/x\\", L"C:\\dir/x\\\u008B"},
     };
-    const Case cases[] = {
-        {L"", L""},
-        {L"C:\\dir", L"C:\\dir\\"},
-        {L"C:\\dir\\", L"C:\\dir\\"},
-        {L"C:/dir", L"C:/dir\u008B"},
-        {L"C:/dir\u008B", L"C:/dir\u008B"},
-        {L"C:/dir/", L"C:/dir/\u008B"},
-        {L"C:\\dir/x\\", L"C:\\dir/x\\\u008B"},
-    };
+    // clang-format on
     for (const auto& c : cases) {
         EXPECT_EQ(c.expected, AddSeparator(c.path)) << testing::PrintToString(std::wstring(c.path));
     }
 }
 
 TEST(PathText, StripSeparatorPlainAndRootSafe) {
-    struct Case {
-        const wchar_t* path;
-        const wchar_t* plain;
-        const wchar_t* rootSafe;
+    // clang-format off
+    struct Case { const wchar_t* path; const wchar_t* plain; const wchar_t* rootSafe; } cases[] = {
+        {L"C:\\dir\\", L"C:\\dir", L"C:\\dir"}, {L"C:\\dir/", L"C:\\dir", L"C:\\dir"},
+        {L"C:\\dir\\\\", L"C:\\dir\\", L"C:\\dir\\"}, {L"C:\\", L"C:", L"C:\\"}, {L"C:/", L"C:", L"C:/"},
+        {L"C:x", L"C:x", L"C:x"}, {L"\\", L"", L""}, {L"", L"", L""}, {L"dir", L"dir", L"dir"},
     };
-    const Case cases[] = {
-        {L"C:\\dir\\", L"C:\\dir", L"C:\\dir"},
-        {L"C:\\dir/", L"C:\\dir", L"C:\\dir"},
-        {L"C:\\dir\\\\", L"C:\\dir\\", L"C:\\dir\\"},
-        {L"C:\\", L"C:", L"C:\\"},
-        {L"C:/", L"C:", L"C:/"},
-        {L"C:x", L"C:x", L"C:x"},
-        {L"\\", L"", L""},
-        {L"", L"", L""},
-        {L"dir", L"dir", L"dir"},
-    };
+    // clang-format on
     for (const auto& c : cases) {
         EXPECT_EQ(c.plain, StripSeparator(std::wstring(c.path))) << testing::PrintToString(std::wstring(c.path));
         EXPECT_EQ(c.rootSafe, StripSeparatorRootSafe(c.path)) << testing::PrintToString(std::wstring(c.path));
@@ -71,33 +47,27 @@ TEST(PathText, StripSeparatorPlainAndRootSafe) {
 }
 
 TEST(PathText, SplitPathGivesDriveDirectoryNameExtension) {
-    struct Case {
-        const wchar_t* path;
-        PathParts parts;
-    };
-    const Case cases[] = {
+    // clang-format off
+    struct Case { const wchar_t* path; PathParts parts; } cases[] = {
         {L"C:\\dir\\sub\\name.ext", {L"C:", L"\\dir\\sub\\", L"name", L".ext"}},
-        {L"C:name.tar.gz", {L"C:", L"", L"name.tar", L".gz"}},
-        {L"dir/name", {L"", L"dir/", L"name", L""}},
+        {L"C:name.tar.gz", {L"C:", L"", L"name.tar", L".gz"}}, {L"dir/name", {L"", L"dir/", L"name", L""}},
         {L"\\\\srv\\share\\a.b", {L"", L"\\\\srv\\share\\", L"a", L".b"}},
-        {L"C:\\dir.x\\name", {L"C:", L"\\dir.x\\", L"name", L""}},
-        {L".profile", {L"", L"", L"", L".profile"}},
+        {L"C:\\dir.x\\name", {L"C:", L"\\dir.x\\", L"name", L""}}, {L".profile", {L"", L"", L"", L".profile"}},
         {L"", {L"", L"", L"", L""}},
     };
+    // clang-format on
     for (const auto& c : cases) {
-        PathParts got = SplitPath(c.path);
-        EXPECT_EQ(c.parts.drive, got.drive) << testing::PrintToString(std::wstring(c.path));
-        EXPECT_EQ(c.parts.directory, got.directory) << testing::PrintToString(std::wstring(c.path));
-        EXPECT_EQ(c.parts.name, got.name) << testing::PrintToString(std::wstring(c.path));
-        EXPECT_EQ(c.parts.extension, got.extension) << testing::PrintToString(std::wstring(c.path));
+        const PathParts got = SplitPath(c.path);
+        EXPECT_EQ((std::vector<std::wstring>{c.parts.drive, c.parts.directory, c.parts.name, c.parts.extension}),
+                  (std::vector<std::wstring>{got.drive, got.directory, got.name, got.extension}))
+            << testing::PrintToString(std::wstring(c.path));
     }
 }
 
 TEST(PathText, LongPathFormFrom260Characters) {
     auto tail = [](size_t total, const std::wstring& head) { return head + std::wstring(total - head.size(), L'a'); };
     struct Case {
-        std::wstring path;
-        std::wstring expected;
+        std::wstring path, expected;
     };
     const std::wstring drive259 = tail(259, L"C:\\");
     const std::wstring drive260 = tail(260, L"C:\\");
@@ -117,14 +87,6 @@ TEST(PathText, LongPathFormFrom260Characters) {
     for (const auto& c : cases) {
         EXPECT_EQ(c.expected, ToLongPathForm(c.path)) << c.path.size() << " units: " << c.path.substr(0, 12).size();
     }
-}
-
-TEST(BitMask, OneBitModulo32) {
-    const struct {
-        int32_t number;
-        uint32_t mask;
-    } cases[] = {{0, 1u}, {1, 2u}, {31, 0x80000000u}, {32, 1u}, {33, 2u}, {-1, 0x80000000u}, {-32, 1u}};
-    for (const auto& c : cases) EXPECT_EQ(c.mask, BitMask(c.number)) << c.number;
 }
 
 }  // namespace

@@ -17,8 +17,6 @@ using platform::fake::PostedDrop;
 using platform::fake::ShownMessage;
 using Strings = std::vector<std::wstring>;
 
-constexpr const wchar_t* kKillQuestion = L"Timeout!\nAre you sure you want to kill the process?";
-
 TEST(ProcessLaunch, WaitedLaunchAsksBeforeItKillsAndFailsOnTimeOutEitherWay) {
     struct Case {
         const char* what;
@@ -28,19 +26,17 @@ TEST(ProcessLaunch, WaitedLaunchAsksBeforeItKillsAndFailsOnTimeOutEitherWay) {
         Strings events;
         std::vector<ShownMessage> shown;
     };
-    const FakeProgram cannotStart{.starts = false};
     const FakeProgram outlives{.waitResult = platform::kWaitTimeout};
+    const ShownMessage killQuestion{L"Timeout!\nAre you sure you want to kill the process?", 4};
+    // clang-format off
     const Case cases[] = {
         {"ends in time", {}, 0, true, {L"wait 5000", L"close"}, {}},
-        {"cannot start", cannotStart, 0, false, {}, {}},
-        {"outlives the wait, No", outlives, platform::kAnswerNo, false, {L"wait 5000", L"close"}, {{kKillQuestion, 4}}},
-        {"outlives the wait, Yes",
-         outlives,
-         platform::kAnswerYes,
-         false,
-         {L"wait 5000", L"terminate 999", L"close"},
-         {{kKillQuestion, 4}}},
+        {"cannot start", {.starts = false}, 0, false, {}, {}},
+        {"outlives the wait, No", outlives, platform::kAnswerNo, false, {L"wait 5000", L"close"}, {killQuestion}},
+        {"outlives the wait, Yes", outlives, platform::kAnswerYes, false, {L"wait 5000", L"terminate 999", L"close"},
+         {killQuestion}},
     };
+    // clang-format on
     for (const Case& c : cases) {
         SCOPED_TRACE(c.what);
         FakePlatform fake;
@@ -54,78 +50,52 @@ TEST(ProcessLaunch, WaitedLaunchAsksBeforeItKillsAndFailsOnTimeOutEitherWay) {
     }
 }
 
-// The texts the drop's failures are told by.
-void AddMessageFile(FakePlatform& fake) {
-    fake.files().AddDirectory(L"C:\\Lang");
-    fake.files().AddFile(L"C:\\Lang\\Msg.txt",
-                         Utf16Bytes(L"62541\tcannot start\r\n62544\tnot idle\r\n62547\tno window\r\n", true));
-}
-
-class DropLaunchTest : public testing::Test {
-protected:
-    DropLaunchTest() {
-        AddMessageFile(fake);
-        messages.SetPath(L"C:\\Lang\\Msg.txt");
-    }
-    FakePlatform fake;
-    MessageCatalog messages;
-};
-
-TEST_F(DropLaunchTest, DropsTheFilesOnTheProgramsFirstWindowOnceItShows) {
-    fake.processes().SetProgram({.walksBeforeWindow = 3});
-    uint64_t start = fake.processes().Ticks();
-    DropLaunch(L"C:\\Tools\\view.exe", {L"C:\\a.txt", L"D:\\b c"}, messages);
-
-    EXPECT_EQ((std::vector<ProcessStart>{{L"C:\\Tools\\view.exe", L"", false, 0, 32}}), fake.processes().starts());
-    EXPECT_EQ((Strings{L"idle 10000", L"close"}), fake.processes().events());
-    EXPECT_EQ(150u, fake.processes().Ticks() - start) << "three polls of 50 ms";
-    EXPECT_EQ((std::vector<PostedDrop>{{0x5150, DropFilesBlock({L"C:\\a.txt", L"D:\\b c"})}}),
-              fake.processes().drops());
-    EXPECT_EQ((std::vector<platform::WindowRef>{0x5150}), fake.windows().forced());
-    EXPECT_TRUE(fake.prompts().shown().empty());
-}
-
-TEST_F(DropLaunchTest, EachFailureIsToldAndStopsTheDrop) {
+// A drop waits for the program to be idle, polls every 50 ms for ten seconds for its first window, brings that
+// window forward and posts the files on it; each failure is told in the texts of the message file and ends the drop.
+TEST(ProcessLaunch, DropLaunchDropsTheFilesOnTheProgramsFirstWindowOnceItShows) {
     struct Case {
         const char* what;
         FakeProgram program;
+        Strings files;
         std::vector<ShownMessage> shown;
         Strings events;
+        bool dropped;
+        uint64_t ticks;
     };
+    const Strings idle{L"idle 10000", L"close"};
+    // clang-format off
     const Case cases[] = {
-        {"cannot start", {.starts = false}, {{L"cannot start\nC:\\v.exe", 0}}, {}},
-        {"not idle in time", {.idleResult = platform::kWaitTimeout}, {{L"not idle", 0}}, {L"idle 10000", L"close"}},
-        {"the wait fails",
-         {.idleResult = platform::kWaitFailed, .idleError = 6},
-         {{L"Error 6.\r\n", 0}},
-         {L"idle 10000", L"close"}},
-        {"no window in ten seconds", {.walksBeforeWindow = -1}, {{L"no window", 0}}, {L"idle 10000", L"close"}},
+        {"dropped once the window shows", {.walksBeforeWindow = 3}, {L"C:\\a.txt", L"D:\\b c"}, {}, idle, true, 150},
+        {"an empty list starts the program and drops nothing", {}, {}, {}, idle, false, 0},
+        {"cannot start", {.starts = false}, {L"C:\\a.txt"}, {{L"cannot start\nC:\\v.exe", 0}}, {}, false, 0},
+        {"not idle in time", {.idleResult = platform::kWaitTimeout}, {L"C:\\a.txt"}, {{L"not idle", 0}}, idle, false,
+         0},
+        {"the wait fails", {.idleResult = platform::kWaitFailed, .idleError = 6}, {L"C:\\a.txt"},
+         {{L"Error 6.\r\n", 0}}, idle, false, 0},
+        {"no window in ten seconds", {.walksBeforeWindow = -1}, {L"C:\\a.txt"}, {{L"no window", 0}}, idle, false,
+         10050},
     };
+    // clang-format on
     for (const Case& c : cases) {
         SCOPED_TRACE(c.what);
         FakePlatform fake;
-        AddMessageFile(fake);
+        fake.files().AddDirectory(L"C:\\Lang");
+        fake.files().AddFile(L"C:\\Lang\\Msg.txt",
+                             Utf16Bytes(L"62541\tcannot start\r\n62544\tnot idle\r\n62547\tno window\r\n", true));
+        MessageCatalog messages;
+        messages.SetPath(L"C:\\Lang\\Msg.txt");
         fake.processes().SetProgram(c.program);
-        DropLaunch(L"C:\\v.exe", {L"C:\\a.txt"}, messages);
+        const uint64_t start = fake.processes().Ticks();
+        DropLaunch(L"C:\\v.exe", c.files, messages);
+        EXPECT_EQ((std::vector<ProcessStart>{{L"C:\\v.exe", L"", false, 0, 32}}), fake.processes().starts());
         EXPECT_EQ(c.shown, fake.prompts().shown());
         EXPECT_EQ(c.events, fake.processes().events());
-        EXPECT_TRUE(fake.processes().drops().empty());
-        EXPECT_TRUE(fake.windows().forced().empty());
+        EXPECT_EQ(c.ticks, fake.processes().Ticks() - start);
+        std::vector<PostedDrop> drops;
+        if (c.dropped) drops.push_back({0x5150, DropFilesBlock(c.files)});
+        EXPECT_EQ(drops, fake.processes().drops());
+        EXPECT_EQ(c.shown.empty() ? 1u : 0u, fake.windows().forced().size()) << "the window comes forward";
     }
-}
-
-TEST_F(DropLaunchTest, GivesUpOnAWindowOnlyAfterTenSeconds) {
-    fake.processes().SetProgram({.walksBeforeWindow = -1});
-    uint64_t start = fake.processes().Ticks();
-    DropLaunch(L"C:\\v.exe", {}, messages);
-    EXPECT_EQ(10050u, fake.processes().Ticks() - start);
-    EXPECT_EQ(202, fake.processes().walks());
-}
-
-TEST_F(DropLaunchTest, AnEmptyListStartsTheProgramAndDropsNothing) {
-    DropLaunch(L"C:\\v.exe", {}, messages);
-    EXPECT_TRUE(fake.processes().drops().empty());
-    EXPECT_EQ((std::vector<platform::WindowRef>{0x5150}), fake.windows().forced());
 }
 
 TEST(ProcessLaunch, DropFilesBlockIsAWideListBehindATwentyByteHeader) {
@@ -140,45 +110,23 @@ TEST(ProcessLaunch, DropFilesBlockIsAWideListBehindATwentyByteHeader) {
 
 TEST(ProcessLaunch, ShellLaunchNormalisesTheFileAndTakesItsDirectory) {
     const std::wstring deep = L"C:\\" + std::wstring(260, L'd') + L"\\";
-    struct Case {
-        const char* what;
-        std::wstring file;
-        std::wstring directory;
-        bool wait;
-        ShellRequest expected;
-    };
+    // clang-format off
+    struct Case { const char* what; std::wstring file; std::wstring directory; bool wait; ShellRequest expected; };
     const Case cases[] = {
-        {"directory of the file",
-         L"C:\\Tools\\app.exe",
-         L"",
-         false,
+        {"directory of the file", L"C:\\Tools\\app.exe", L"", false,
          {512, 0x77, L"C:\\Tools\\app.exe", L"-p", L"C:\\Tools\\", 3}},
-        {"directory given, waiting",
-         L"C:\\Tools\\app.exe",
-         L"D:\\work",
-         true,
+        {"directory given, waiting", L"C:\\Tools\\app.exe", L"D:\\work", true,
          {768, 0x77, L"C:\\Tools\\app.exe", L"-p", L"D:\\work", 3}},
-        {"long-path prefix dropped",
-         L"\\\\?\\C:\\x\\y.txt",
-         L"",
-         false,
+        {"long-path prefix dropped", L"\\\\?\\C:\\x\\y.txt", L"", false,
          {512, 0x77, L"C:\\x\\y.txt", L"-p", L"C:\\x\\", 3}},
-        {"UNC prefix dropped",
-         L"\\\\?\\UNC\\srv\\s\\y.txt",
-         L"",
-         false,
+        {"UNC prefix dropped", L"\\\\?\\UNC\\srv\\s\\y.txt", L"", false,
          {512, 0x77, L"srv\\s\\y.txt", L"-p", L"srv\\s\\", 3}},
-        {"long paths get the prefix",
-         deep + L"f.txt",
-         L"",
-         false,
+        {"long paths get the prefix", deep + L"f.txt", L"", false,
          {512, 0x77, L"\\\\?\\" + deep + L"f.txt", L"-p", L"\\\\?\\" + deep, 3}},
-        {"a file without a directory",
-         L"notepad.exe",
-         L"",
-         false,
+        {"a file without a directory", L"notepad.exe", L"", false,
          {512, 0x77, L"notepad.exe", L"-p", L"notepad.exe", 3}},
     };
+    // clang-format on
     for (const Case& c : cases) {
         SCOPED_TRACE(c.what);
         FakePlatform fake;

@@ -7,14 +7,9 @@ using crt::StrCmpLogical;
 namespace {
 
 TEST(StrCmpLogical, OrdersNamesAsTheShellDoes) {
-    struct Case {
-        const wchar_t* a;
-        const wchar_t* b;
-        int expected;
-    } cases[] = {
-        {L"", L"", 0},
-        {L"a", L"", 1},
-        {L"", L"a", -1},
+    // clang-format off
+    struct Case { const wchar_t* a; const wchar_t* b; int expected; } cases[] = {
+        {L"", L"", 0}, {L"a", L"", 1}, {L"", L"a", -1},
         {L"ab", L"a", 1},           // a prefix sorts first
         {L"file2", L"file10", -1},  // digit runs by value
         {L"file10", L"file2", 1},
@@ -27,8 +22,7 @@ TEST(StrCmpLogical, OrdersNamesAsTheShellDoes) {
         {L"_", L"1", 1},
         {L"abc", L"ABC", 0},   // case does not count
         {L"\x00E9", L"E", 1},  // accents count after the letter
-        {L"\x00E9", L"f", -1},
-        {L"\x00C9", L"\x00E9", 0},
+        {L"\x00E9", L"f", -1}, {L"\x00C9", L"\x00E9", 0},
         {L"\x00DF", L"ss", 1},  // one unit at a time: sharp s against s
         {L"_a", L"a", -1},      // punctuation before letters
         {L"-", L"_", -1},
@@ -41,6 +35,7 @@ TEST(StrCmpLogical, OrdersNamesAsTheShellDoes) {
          L"0",
          L"\x0662", -1},
     };
+    // clang-format on
     for (const auto& c : cases) {
         EXPECT_EQ(c.expected, StrCmpLogical(c.a, c.b)) << (&c - cases);
         EXPECT_EQ(-c.expected, StrCmpLogical(c.b, c.a)) << (&c - cases);

@@ -33,29 +33,26 @@ std::vector<Line> ReadAll(TextFileReader& reader, uint32_t limit = 32767) {
 }
 
 TEST(TextFileReader, LinesOffsetsAndNumbers) {
-    struct Case {
-        const char* label;
-        std::vector<uint8_t> bytes;
-        std::vector<Line> lines;
-    };
+    // clang-format off
+    struct Case { const char* label; std::vector<uint8_t> bytes; std::vector<Line> lines; uint32_t limit = 32767; };
     const Case cases[] = {
         {"bom and crlf", Utf16Bytes(L"ab\r\nc\r\n", true), {{L"ab", 2, 10, 1}, {L"c", 10, 16, 2}, {L"", 16, 16, 3}}},
-        {"lf and lone cr",
-         Utf16Bytes(L"a\nb\rc"),
+        {"lf and lone cr", Utf16Bytes(L"a\nb\rc"),
          {{L"a", 0, 4, 1}, {L"b", 4, 8, 2}, {L"c", 8, 10, 3}, {L"", 10, 10, 4}}},
-        {"empty lines kept",
-         Utf16Bytes(L"\r\n\r\nx"),
+        {"empty lines kept", Utf16Bytes(L"\r\n\r\nx"),
          {{L"", 0, 4, 1}, {L"", 4, 8, 2}, {L"x", 8, 10, 3}, {L"", 10, 10, 4}}},
         {"big-endian mark read as it stands", {0xFE, 0xFF, 0x00, 0x41}, {{L"\uFFFE\u4100", 0, 4, 1}, {L"", 4, 4, 2}}},
         {"odd last byte", {0x41, 0x00, 0x42}, {{L"AB", 0, 4, 1}, {L"", 4, 4, 2}}},
         {"bom only", {0xFF, 0xFE}, {}},
+        {"a line at the limit ends the reading", Utf16Bytes(L"123\r\n1234\r\nafter"), {{L"123", 0, 10, 1}}, 4},
     };
+    // clang-format on
     for (const auto& c : cases) {
         FakePlatform fake;
         fake.files().AddFile(L"C:\\t.txt", c.bytes);
         TextFileReader reader;
         ASSERT_TRUE(reader.Open(L"C:\\t.txt")) << c.label;
-        EXPECT_EQ(c.lines, ReadAll(reader)) << c.label;
+        EXPECT_EQ(c.lines, ReadAll(reader, c.limit)) << c.label;
     }
 }
 
@@ -64,21 +61,10 @@ TEST(TextFileReader, OneLineWithoutLineEndWithAFreshBuffer) {
     fake.files().AddFile(L"C:\\t.txt", Utf16Bytes(L"only", true));
     TextFileReader reader;
     ASSERT_TRUE(reader.Open(L"C:\\t.txt"));
-    wchar_t first[16] = {};
+    wchar_t first[16] = {}, fresh[16] = {};
     ASSERT_TRUE(reader.ReadLine(first, 15));
     EXPECT_EQ(std::wstring(L"only"), first);
-    wchar_t fresh[16] = {};
     EXPECT_FALSE(reader.ReadLine(fresh, 15));
-}
-
-TEST(TextFileReader, ALineAtTheLimitEndsTheReading) {
-    FakePlatform fake;
-    fake.files().AddFile(L"C:\\t.txt", Utf16Bytes(L"123\r\n1234\r\nafter"));
-    TextFileReader reader;
-    ASSERT_TRUE(reader.Open(L"C:\\t.txt"));
-    std::vector<Line> lines = ReadAll(reader, 4);
-    ASSERT_EQ(1u, lines.size());
-    EXPECT_EQ(L"123", lines[0].text);
 }
 
 TEST(TextFileReader, JumpsAndWholeText) {
@@ -100,29 +86,21 @@ TEST(TextFileReader, JumpsAndWholeText) {
     EXPECT_EQ(3, reader.GetLineNumber());
 }
 
-TEST(TextFileReader, OpenFailsForMissingAndEmptyFilesAndShutsWritersOut) {
+TEST(TextFileReader, OpenFailsForMissingAndEmptyFilesReachesLongPathsAndShutsWritersOut) {
     FakePlatform fake;
     fake.files().AddFile(L"C:\\empty.txt", std::vector<uint8_t>{});
-    fake.files().AddFile(L"C:\\t.txt", Utf16Bytes(L"x"));
+    const std::wstring directory = L"C:\\" + std::wstring(250, L'd'), deep = directory + L"\\file.txt";
+    fake.files().AddDirectory(directory);
+    fake.files().AddFile(deep, Utf16Bytes(L"deep"));
     TextFileReader reader;
     EXPECT_FALSE(reader.Open(L"C:\\missing.txt"));
     EXPECT_FALSE(reader.Open(L"C:\\empty.txt"));
-    ASSERT_TRUE(reader.Open(L"C:\\t.txt"));
-    EXPECT_EQ(nullptr, fake.files().Open(L"C:\\t.txt", platform::FileAccess::Write, false));
-    EXPECT_NE(nullptr, fake.files().Open(L"C:\\t.txt", platform::FileAccess::Read, false));
-    reader.Close();
-    EXPECT_NE(nullptr, fake.files().Open(L"C:\\t.txt", platform::FileAccess::Append, false));
-}
-
-TEST(TextFileReader, LongPathsOpenThroughTheLongForm) {
-    FakePlatform fake;
-    std::wstring directory = L"C:\\" + std::wstring(250, L'd');
-    fake.files().AddDirectory(directory);
-    std::wstring path = directory + L"\\file.txt";
-    fake.files().AddFile(path, Utf16Bytes(L"deep"));
-    TextFileReader reader;
-    ASSERT_TRUE(reader.Open(path));
+    ASSERT_TRUE(reader.Open(deep));
     EXPECT_EQ(L"deep", reader.WholeText());
+    EXPECT_EQ(nullptr, fake.files().Open(deep, platform::FileAccess::Write, false));
+    EXPECT_NE(nullptr, fake.files().Open(deep, platform::FileAccess::Read, false));
+    reader.Close();
+    EXPECT_NE(nullptr, fake.files().Open(deep, platform::FileAccess::Append, false));
 }
 
 TEST(WideStream, KeepsLineEndsAndMarksAsTheRuntimeDoes) {

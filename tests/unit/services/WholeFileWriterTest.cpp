@@ -26,7 +26,7 @@ struct Writer {
     const char* label;
     std::wstring target;  // holds "old" before the writer runs
     void (*write)(FakePlatform&);
-    std::vector<ShownMessage> shown;  // the same whether the write fails or not
+    std::vector<ShownMessage> shown = {};  // the same whether the write fails or not
 };
 
 const Writer kWriters[] = {
@@ -87,9 +87,11 @@ TEST(WholeFileWriter, AFailureHalfwayLeavesTheOldFileWhole) {
             EXPECT_TRUE(Names(fake, folder, L"*.tmp").empty());
             if (failure == Failure::None) {
                 EXPECT_NE("old", fake.files().FileText(writer.target));
-            } else {
-                EXPECT_EQ("old", fake.files().FileText(writer.target));
-                if (failure != Failure::TargetReadOnly) EXPECT_EQ(before, Names(fake, folder));
+                continue;
+            }
+            EXPECT_EQ("old", fake.files().FileText(writer.target));
+            if (failure != Failure::TargetReadOnly) {
+                EXPECT_EQ(before, Names(fake, folder)) << "nothing new appears";
             }
         }
     }
