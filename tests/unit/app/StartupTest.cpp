@@ -63,26 +63,28 @@ protected:
     AppServices app{96};
 };
 
+// The last switch and the last plain argument win; a switch without the file it needs, or one that is
+// not exactly a known letter, opens the option dialog.
 TEST_F(StartupTest, DispatchesOnTheEffectiveSwitch) {
     fake.files().AddFile(L"C:\\f.txt", Utf16Bytes(L"x"));
     struct Case {
         std::vector<std::wstring> arguments;
         std::vector<std::wstring> calls;
     };
+    // clang-format off
     const Case cases[] = {
-        {{}, {L"option dialog"}},
-        {{L"/T", L"C:\\f.txt"}, {}},
-        {{L"/T"}, {L"option dialog"}},
-        {{L"/G", L"anything"}, {L"option dialog"}},
-        {{L"plain"}, {L"option dialog"}},
-        {{L"/e", L"file"}, {L"editor 1 file"}},
-        {{L"/E", L"a", L"/R", L"b"}, {L"editor 2 b"}},
-        {{L"/D", L"c.txt"}, {L"editor 3 c.txt"}},
-        {{L"/M", L"m.txt"}, {L"editor 6 m.txt"}},
-        {{L"/KEYLIST"}, {L"key lists"}},
-        {{L"/KEYLIST", L"x"}, {L"key lists"}},
+        {{}, {L"option dialog"}},                  {{L"/T", L"C:\\f.txt"}, {}},
+        {{L"/T"}, {L"option dialog"}},             {{L"/E"}, {L"option dialog"}},
+        {{L"/G", L"anything"}, {L"option dialog"}}, {{L"plain"}, {L"option dialog"}},
+        {{L"-E", L"f"}, {L"option dialog"}},       {{L"/E ", L"f"}, {L"option dialog"}},
+        {{L"/\u0130", L"f"}, {L"option dialog"}},  // no switch letter, however it folds
+        {{L"/e", L"file"}, {L"editor 1 file"}},    {{L"/E", L"a", L"/R", L"b"}, {L"editor 2 b"}},
+        {{L"/D", L"c.txt"}, {L"editor 3 c.txt"}},  {{L"a", L"b", L"/d"}, {L"editor 3 b"}},
+        {{L"/M", L"m.txt"}, {L"editor 6 m.txt"}},  {{L"/KEYLIST"}, {L"key lists"}},
+        {{L"/keylist", L"x"}, {L"key lists"}},     {{L"x", L"/KeyList"}, {L"key lists"}},
         {{L"/A", L"C:\\f.txt"}, {L"script C:\\f.txt"}},
     };
+    // clang-format on
     for (const auto& c : cases) EXPECT_EQ(c.calls, Run(c.arguments)) << testing::PrintToString(c.arguments);
     EXPECT_TRUE(fake.prompts().shown().empty());
 }
@@ -130,25 +132,6 @@ TEST_F(StartupTest, MissingLanguageLibraryIsToldAndTheProgramGoesOn) {
               fake.prompts().shown());
 }
 
-TEST_F(StartupTest, LanguageLibraryIsHeldForTheTargetAndFreedAtTheEnd) {
-    int loadedDuringDialog = -1;
-    WhileOpen targets([&] { loadedDuringDialog = fake.system().loadedLibraries(); });
-    RunStartup(app, targets, {});
-    EXPECT_EQ(1, loadedDuringDialog);
-    EXPECT_EQ(0, fake.system().loadedLibraries());
-    EXPECT_EQ(L"C:\\Qor\\Lang\\Msg.ja-JP.txt", app.messages.path());
-    EXPECT_EQ(L"Software\\Tarnwick\\QOR\\Command\\Option", app.commandOptionRoot);
-}
-
-TEST_F(StartupTest, CommandListsAreReadBeforeTheTargetAndForgottenAfterIt) {
-    fake.files().AddFile(std::wstring(kUserDir) + L"PlugInCommand.txt", Utf16Bytes(L"41501\t\t\tx.dll\tPlug-in\r\n"));
-    std::wstring listed;
-    WhileOpen targets([&] { listed = app.commands.LookupListedCommand(41501); });
-    RunStartup(app, targets, {});
-    EXPECT_EQ(L"Plug-in", listed);
-    EXPECT_EQ(0u, app.commands.size());
-}
-
 TEST_F(StartupTest, SettingsReadAtStart) {
     DirectWriteString(kDirectSettingsPath, L"UserDir", L"D:\\Mine\\");
     SettingsStore store;
@@ -170,7 +153,7 @@ TEST_F(StartupTest, SettingsReadAtStart) {
 
 TEST_F(StartupTest, EditorsReadMessageWithItsDefault) {
     Run({L"/D", L"x"});
-    EXPECT_EQ(-1, app.store.Message);
+    EXPECT_EQ(-1, app.store.Message) << "every confirmation on";
 }
 
 TEST_F(StartupTest, HostSwitchStringAndTheHandBack) {
@@ -207,12 +190,27 @@ TEST_F(StartupTest, HostSwitchStringAndTheHandBack) {
     }
 }
 
-TEST_F(StartupTest, PresenceMutexLivesAsLongAsTheRun) {
+// The language library, the command lists and the presence mutex are there while the target runs and
+// gone after it.
+TEST_F(StartupTest, WhatTheTargetFindsIsHeldForItAndLetGoAfterIt) {
+    fake.files().AddFile(std::wstring(kUserDir) + L"PlugInCommand.txt", Utf16Bytes(L"41501\t\t\tx.dll\tPlug-in\r\n"));
+    int libraries = -1;
+    std::wstring listed;
     bool held = false;
-    WhileOpen targets([&] { held = fake.system().HoldsMutex(L"ExCommand.Option.exe"); });
+    WhileOpen targets([&] {
+        libraries = fake.system().loadedLibraries();
+        listed = app.commands.LookupListedCommand(41501);
+        held = fake.system().HoldsMutex(L"ExCommand.Option.exe");
+    });
     RunStartup(app, targets, {});
+    EXPECT_EQ(1, libraries);
+    EXPECT_EQ(L"Plug-in", listed);
     EXPECT_TRUE(held);
+    EXPECT_EQ(0, fake.system().loadedLibraries());
+    EXPECT_EQ(0u, app.commands.size());
     EXPECT_FALSE(fake.system().HoldsMutex(L"ExCommand.Option.exe"));
+    EXPECT_EQ(L"C:\\Qor\\Lang\\Msg.ja-JP.txt", app.messages.path());
+    EXPECT_EQ(L"Software\\Tarnwick\\QOR\\Command\\Option", app.commandOptionRoot);
     // A second copy finds the mutex taken and still runs.
     auto first = fake.system().CreatePresenceMutex(L"ExCommand.Option.exe");
     EXPECT_EQ((std::vector<std::wstring>{L"option dialog"}), Run({}));
