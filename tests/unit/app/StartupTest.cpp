@@ -166,12 +166,9 @@ TEST_F(StartupTest, HostSwitchStringAndTheHandBack) {
     };
     const Case cases[] = {
         {nullptr, 0, {}},
-        {L"", 0, {}},
-        {L"3:1:1:2:100:0:0:0:Share:x", 3, {0x1111}},
         {L"3:1:1:2:100:0:0:0:share:x", 3, {0x1111}},
-        {L"2:2:1:2:100:0:0:0:Share:x", 2, {}},
-        {L"3:1:1:2:100:0:0:0:Share", 0, {}},
-        {L"3:1:1:2:100:0:0:0:Share:x:y", 0, {}},
+        {L"2:2:1:2:100:0:0:0:Share:x", 2, {}},  // only reactivation 1 hands back
+        {L"3:1:1:2:100:0:0:0:Share", 0, {}},    // nine fields are no switch string
     };
     for (const auto& c : cases) {
         std::vector<platform::WindowRef> before = fake.windows().foreground();
