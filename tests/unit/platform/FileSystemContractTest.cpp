@@ -456,7 +456,7 @@ TEST_P(FileSystemContract, ShellVersionIsAVersionNumber) {
 
 INSTANTIATE_TEST_SUITE_P(FileSystem, FileSystemContract,
                          testing::ValuesIn(contract::Implementations<FileSystemHarness, FakeHarness, RealHarness>()),
-                         contract::NameOf());
+                         contract::NameOf);
 
 TEST(FakeFileSystem, ShortNamesDrivesAndScene) {
     platform::fake::FakeFileSystem files;

@@ -340,7 +340,7 @@ TEST_P(RegistryContract, PathSpellingsAsTheRealRegistryTreatsThem) {
 
 INSTANTIATE_TEST_SUITE_P(Registry, RegistryContract,
                          testing::ValuesIn(contract::Implementations<RegistryHarness, FakeHarness, RealHarness>()),
-                         contract::NameOf());
+                         contract::NameOf);
 
 TEST(FakeRegistry, RefusesWritesWhenAsked) {
     platform::fake::FakeRegistry registry;
