@@ -18,26 +18,20 @@ constexpr const wchar_t* kLibrary = L"C:\\Qor\\Lang\\Qor.ja-JP.dll";
 constexpr const wchar_t* kMessages = L"C:\\Qor\\Lang\\Msg.ja-JP.txt";
 constexpr const wchar_t* kUserDir = L"C:\\Users\\tester\\AppData\\Local\\Qor\\";
 
-// Records which target start-up handed over to.
+// Records which target start-up handed over to, and looks at the process while the option dialog is open.
 class RecordingTargets : public StartupTargets {
 public:
-    void OpenOptionDialog() override { calls.push_back(L"option dialog"); }
+    void OpenOptionDialog() override {
+        calls.push_back(L"option dialog");
+        if (whileOpen) whileOpen();
+    }
     void OpenEditor(int switchNumber, const std::wstring& file) override {
         calls.push_back(L"editor " + std::to_wstring(switchNumber) + L" " + file);
     }
     void WriteKeyLists() override { calls.push_back(L"key lists"); }
     void RunEditorScript(const std::wstring& file) override { calls.push_back(L"script " + file); }
     std::vector<std::wstring> calls;
-};
-
-// Looks at the process while the option dialog would be open.
-class WhileOpen : public RecordingTargets {
-public:
-    explicit WhileOpen(std::function<void()> look) : look_(std::move(look)) {}
-    void OpenOptionDialog() override { look_(); }
-
-private:
-    std::function<void()> look_;
+    std::function<void()> whileOpen;
 };
 
 class StartupTest : public testing::Test {
@@ -194,11 +188,12 @@ TEST_F(StartupTest, WhatTheTargetFindsIsHeldForItAndLetGoAfterIt) {
     int libraries = -1;
     std::wstring listed;
     bool held = false;
-    WhileOpen targets([&] {
+    RecordingTargets targets;
+    targets.whileOpen = [&] {
         libraries = fake.system().loadedLibraries();
         listed = app.commands.LookupListedCommand(41501);
         held = fake.system().HoldsMutex(L"ExCommand.Option.exe");
-    });
+    };
     RunStartup(app, targets, {});
     EXPECT_EQ(1, libraries);
     EXPECT_EQ(L"Plug-in", listed);

@@ -27,9 +27,6 @@ struct Keyed {
 struct KeyLess {
     bool operator()(const Keyed& x, const Keyed& y) const { return x.key < y.key; }
 };
-struct KeyGreater {
-    bool operator()(const Keyed& x, const Keyed& y) const { return x.key > y.key; }
-};
 
 // Few distinct keys, so that runs of equal keys cross every split and merge.
 std::vector<Keyed> Shuffled(size_t n, int64_t keys, uint32_t seed) {
@@ -51,10 +48,9 @@ TEST(SortBenchmark, SortsLikeStableSortInBothDirections) {
                 for (bool descending : {false, true}) {
                     std::vector<Keyed> sorted = Shuffled(n, 1 + static_cast<int64_t>(n) / 4, static_cast<uint32_t>(n));
                     std::vector<Keyed> expected = sorted;
-                    if (descending)
-                        std::stable_sort(expected.begin(), expected.end(), KeyGreater());
-                    else
-                        std::stable_sort(expected.begin(), expected.end(), KeyLess());
+                    std::stable_sort(expected.begin(), expected.end(), [descending](const Keyed& x, const Keyed& y) {
+                        return descending ? y.key < x.key : x.key < y.key;
+                    });
                     MergeSort(std::span<Keyed>(sorted), scratch, threshold, depth, descending, KeyLess());
                     ASSERT_EQ(expected, sorted) << "n " << n << " threshold " << threshold << " depth " << depth
                                                 << " descending " << descending;
