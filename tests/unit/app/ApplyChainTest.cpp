@@ -29,67 +29,63 @@ public:
     }
 };
 
-std::vector<std::pair<platform::WindowRef, uint16_t>> Sent(FakePlatform& fake) {
-    std::vector<std::pair<platform::WindowRef, uint16_t>> sent;
-    for (const auto& command : fake.windows().commands()) sent.emplace_back(command.window, command.id);
-    return sent;
-}
-
-TEST(ApplyChain, RunsOpenedPagesInIdOrderAndTellsEveryHost) {
-    FakePlatform fake;
-    fake.windows().AddHostWindow(0x10);
-    fake.windows().AddHostWindow(0x20);
-    ScriptedPages pages;
-    pages.opened = {{36, {49033}}, {3, {49000}}, {13, {49000}}, {37, {}}, {20, {49017}}};
-    PendingChanges changes;
-    EXPECT_TRUE(RunApply(pages, changes, 36, kRoot));
-    EXPECT_EQ((std::vector<int>{3, 13, 20, 36, 37}), pages.applied);
-    const std::vector<std::pair<platform::WindowRef, uint16_t>> expected = {
-        {0x10, 48999}, {0x10, 49000}, {0x10, 49017}, {0x10, 49033}, {0x10, 49099},
-        {0x20, 48999}, {0x20, 49000}, {0x20, 49017}, {0x20, 49033}, {0x20, 49099},
+// Opened pages apply in id order; when all agree, every host window hears the series (48999, the codes
+// recorded, 49099) and "Start" keeps the page shown. A refusal stops the chain: nothing is sent, "Start"
+// stays, and the next Apply sends everything still pending.
+TEST(ApplyChain, OpenedPagesApplyInIdOrderAndEveryHostHearsTheSeries) {
+    struct Case {
+        const char* label;
+        std::map<int, std::vector<uint16_t>> opened;
+        std::set<int> refusing;  // the first Apply only
+        int hosts;
+        int shown;
+        std::vector<int> applied;
+        std::vector<uint16_t> series;  // empty: the first Apply fails
+        std::vector<uint16_t> again;   // the next Apply
     };
-    EXPECT_EQ(expected, Sent(fake));
-    EXPECT_EQ(36, DirectReadInt(std::wstring(kRoot) + L"\\OptionPage", L"Start", -1));
-}
-
-TEST(ApplyChain, ARefusalStopsTheChainKeepsStartAndSendsNothing) {
-    FakePlatform fake;
-    fake.windows().AddHostWindow(0x10);
-    DirectWriteInt(std::wstring(kRoot) + L"\\OptionPage", L"Start", 1000);
-    ScriptedPages pages;
-    pages.opened = {{5, {49011}}, {20, {49017}}, {30, {49021}}};
-    pages.refusing = {20};
-    PendingChanges changes;
-    EXPECT_FALSE(RunApply(pages, changes, 30, kRoot));
-    EXPECT_EQ((std::vector<int>{5, 20}), pages.applied);
-    EXPECT_TRUE(Sent(fake).empty());
-    EXPECT_EQ(1000, DirectReadInt(std::wstring(kRoot) + L"\\OptionPage", L"Start", -1));
-    // The code of the page saved before the refusal waits for the next Apply.
-    pages.refusing.clear();
-    EXPECT_TRUE(RunApply(pages, changes, 30, kRoot));
-    EXPECT_EQ(std::set<uint16_t>({49011, 49017, 49021}), changes.codes());
-}
-
-TEST(ApplyChain, TheSeriesGoesOutEvenEmptyAndAgainOnTheNextApply) {
-    FakePlatform fake;
-    fake.windows().AddHostWindow(0x10);
-    ScriptedPages pages;
-    pages.opened = {{37, {}}};
-    PendingChanges changes;
-    EXPECT_TRUE(RunApply(pages, changes, 37, kRoot));
-    EXPECT_TRUE(RunApply(pages, changes, 37, kRoot));
-    const std::vector<std::pair<platform::WindowRef, uint16_t>> expected = {
-        {0x10, 48999}, {0x10, 49099}, {0x10, 48999}, {0x10, 49099}};
-    EXPECT_EQ(expected, Sent(fake));
-}
-
-TEST(ApplyChain, WithoutAHostStartIsStillStored) {
-    FakePlatform fake;
-    ScriptedPages pages;
-    PendingChanges changes;
-    EXPECT_TRUE(RunApply(pages, changes, 26, kRoot));
-    EXPECT_EQ(26, DirectReadInt(std::wstring(kRoot) + L"\\OptionPage", L"Start", -1));
-    EXPECT_TRUE(fake.prompts().shown().empty());
+    // clang-format off
+    const Case cases[] = {
+        {"codes in order, each once", {{36, {49033}}, {3, {49000}}, {13, {49000}}, {37, {}}, {20, {49017}}}, {}, 2, 36,
+         {3, 13, 20, 36, 37}, {48999, 49000, 49017, 49033, 49099}, {48999, 49000, 49017, 49033, 49099}},
+        {"a refusal", {{5, {49011}}, {20, {49017}}, {30, {49021}}}, {20}, 1, 30,
+         {5, 20}, {}, {48999, 49011, 49017, 49021, 49099}},
+        {"an empty series goes out", {{37, {}}}, {}, 1, 37, {37}, {48999, 49099}, {48999, 49099}},
+        {"no host", {}, {}, 0, 26, {}, {}, {}},
+    };
+    // clang-format on
+    const std::wstring optionPage = std::wstring(kRoot) + L"\\OptionPage";
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.label);
+        FakePlatform fake;
+        for (int host = 1; host <= c.hosts; ++host) fake.windows().AddHostWindow(0x10 * host);
+        DirectWriteInt(optionPage, L"Start", 1000);
+        ScriptedPages pages;
+        pages.opened = c.opened;
+        pages.refusing = c.refusing;
+        PendingChanges changes;
+        auto sentOnApply = [&](bool succeeds) {
+            const size_t before = fake.windows().commands().size();
+            EXPECT_EQ(succeeds, RunApply(pages, changes, c.shown, kRoot));
+            std::vector<std::pair<platform::WindowRef, uint16_t>> sent;
+            for (size_t i = before; i < fake.windows().commands().size(); ++i)
+                sent.emplace_back(fake.windows().commands()[i].window, fake.windows().commands()[i].id);
+            return sent;
+        };
+        auto toEveryHost = [&](const std::vector<uint16_t>& series) {
+            std::vector<std::pair<platform::WindowRef, uint16_t>> expected;
+            for (int host = 1; host <= c.hosts; ++host)
+                for (uint16_t code : series) expected.emplace_back(0x10 * host, code);
+            return expected;
+        };
+        const bool succeeds = c.refusing.empty();
+        EXPECT_EQ(toEveryHost(c.series), sentOnApply(succeeds));
+        EXPECT_EQ(c.applied, pages.applied);
+        EXPECT_EQ(succeeds ? c.shown : 1000, DirectReadInt(optionPage, L"Start", -1));
+        pages.refusing.clear();
+        EXPECT_EQ(toEveryHost(c.again), sentOnApply(true));
+        EXPECT_EQ(c.shown, DirectReadInt(optionPage, L"Start", -1));
+        EXPECT_TRUE(fake.prompts().shown().empty());
+    }
 }
 
 }  // namespace

@@ -18,26 +18,20 @@ constexpr const wchar_t* kLibrary = L"C:\\Qor\\Lang\\Qor.ja-JP.dll";
 constexpr const wchar_t* kMessages = L"C:\\Qor\\Lang\\Msg.ja-JP.txt";
 constexpr const wchar_t* kUserDir = L"C:\\Users\\tester\\AppData\\Local\\Qor\\";
 
-// Records which target start-up handed over to.
+// Records which target start-up handed over to, and looks at the process while the option dialog is open.
 class RecordingTargets : public StartupTargets {
 public:
-    void OpenOptionDialog() override { calls.push_back(L"option dialog"); }
+    void OpenOptionDialog() override {
+        calls.push_back(L"option dialog");
+        if (whileOpen) whileOpen();
+    }
     void OpenEditor(int switchNumber, const std::wstring& file) override {
         calls.push_back(L"editor " + std::to_wstring(switchNumber) + L" " + file);
     }
     void WriteKeyLists() override { calls.push_back(L"key lists"); }
     void RunEditorScript(const std::wstring& file) override { calls.push_back(L"script " + file); }
     std::vector<std::wstring> calls;
-};
-
-// Looks at the process while the option dialog would be open.
-class WhileOpen : public RecordingTargets {
-public:
-    explicit WhileOpen(std::function<void()> look) : look_(std::move(look)) {}
-    void OpenOptionDialog() override { look_(); }
-
-private:
-    std::function<void()> look_;
+    std::function<void()> whileOpen;
 };
 
 class StartupTest : public testing::Test {
@@ -63,26 +57,28 @@ protected:
     AppServices app{96};
 };
 
+// The last switch and the last plain argument win; a switch without the file it needs, or one that is
+// not exactly a known letter, opens the option dialog.
 TEST_F(StartupTest, DispatchesOnTheEffectiveSwitch) {
     fake.files().AddFile(L"C:\\f.txt", Utf16Bytes(L"x"));
     struct Case {
         std::vector<std::wstring> arguments;
         std::vector<std::wstring> calls;
     };
+    // clang-format off
     const Case cases[] = {
-        {{}, {L"option dialog"}},
-        {{L"/T", L"C:\\f.txt"}, {}},
-        {{L"/T"}, {L"option dialog"}},
-        {{L"/G", L"anything"}, {L"option dialog"}},
-        {{L"plain"}, {L"option dialog"}},
-        {{L"/e", L"file"}, {L"editor 1 file"}},
-        {{L"/E", L"a", L"/R", L"b"}, {L"editor 2 b"}},
-        {{L"/D", L"c.txt"}, {L"editor 3 c.txt"}},
-        {{L"/M", L"m.txt"}, {L"editor 6 m.txt"}},
-        {{L"/KEYLIST"}, {L"key lists"}},
-        {{L"/KEYLIST", L"x"}, {L"key lists"}},
+        {{}, {L"option dialog"}},                  {{L"/T", L"C:\\f.txt"}, {}},
+        {{L"/T"}, {L"option dialog"}},             {{L"/E"}, {L"option dialog"}},
+        {{L"/G", L"anything"}, {L"option dialog"}}, {{L"plain"}, {L"option dialog"}},
+        {{L"-E", L"f"}, {L"option dialog"}},       {{L"/E ", L"f"}, {L"option dialog"}},
+        {{L"/\u0130", L"f"}, {L"option dialog"}},  // no switch letter, however it folds
+        {{L"/e", L"file"}, {L"editor 1 file"}},    {{L"/E", L"a", L"/R", L"b"}, {L"editor 2 b"}},
+        {{L"/D", L"c.txt"}, {L"editor 3 c.txt"}},  {{L"a", L"b", L"/d"}, {L"editor 3 b"}},
+        {{L"/M", L"m.txt"}, {L"editor 6 m.txt"}},  {{L"/KEYLIST"}, {L"key lists"}},
+        {{L"/keylist", L"x"}, {L"key lists"}},     {{L"x", L"/KeyList"}, {L"key lists"}},
         {{L"/A", L"C:\\f.txt"}, {L"script C:\\f.txt"}},
     };
+    // clang-format on
     for (const auto& c : cases) EXPECT_EQ(c.calls, Run(c.arguments)) << testing::PrintToString(c.arguments);
     EXPECT_TRUE(fake.prompts().shown().empty());
 }
@@ -130,25 +126,6 @@ TEST_F(StartupTest, MissingLanguageLibraryIsToldAndTheProgramGoesOn) {
               fake.prompts().shown());
 }
 
-TEST_F(StartupTest, LanguageLibraryIsHeldForTheTargetAndFreedAtTheEnd) {
-    int loadedDuringDialog = -1;
-    WhileOpen targets([&] { loadedDuringDialog = fake.system().loadedLibraries(); });
-    RunStartup(app, targets, {});
-    EXPECT_EQ(1, loadedDuringDialog);
-    EXPECT_EQ(0, fake.system().loadedLibraries());
-    EXPECT_EQ(L"C:\\Qor\\Lang\\Msg.ja-JP.txt", app.messages.path());
-    EXPECT_EQ(L"Software\\Tarnwick\\QOR\\Command\\Option", app.commandOptionRoot);
-}
-
-TEST_F(StartupTest, CommandListsAreReadBeforeTheTargetAndForgottenAfterIt) {
-    fake.files().AddFile(std::wstring(kUserDir) + L"PlugInCommand.txt", Utf16Bytes(L"41501\t\t\tx.dll\tPlug-in\r\n"));
-    std::wstring listed;
-    WhileOpen targets([&] { listed = app.commands.LookupListedCommand(41501); });
-    RunStartup(app, targets, {});
-    EXPECT_EQ(L"Plug-in", listed);
-    EXPECT_EQ(0u, app.commands.size());
-}
-
 TEST_F(StartupTest, SettingsReadAtStart) {
     DirectWriteString(kDirectSettingsPath, L"UserDir", L"D:\\Mine\\");
     SettingsStore store;
@@ -170,7 +147,7 @@ TEST_F(StartupTest, SettingsReadAtStart) {
 
 TEST_F(StartupTest, EditorsReadMessageWithItsDefault) {
     Run({L"/D", L"x"});
-    EXPECT_EQ(-1, app.store.Message);
+    EXPECT_EQ(-1, app.store.Message) << "every confirmation on";
 }
 
 TEST_F(StartupTest, HostSwitchStringAndTheHandBack) {
@@ -183,12 +160,9 @@ TEST_F(StartupTest, HostSwitchStringAndTheHandBack) {
     };
     const Case cases[] = {
         {nullptr, 0, {}},
-        {L"", 0, {}},
-        {L"3:1:1:2:100:0:0:0:Share:x", 3, {0x1111}},
         {L"3:1:1:2:100:0:0:0:share:x", 3, {0x1111}},
-        {L"2:2:1:2:100:0:0:0:Share:x", 2, {}},
-        {L"3:1:1:2:100:0:0:0:Share", 0, {}},
-        {L"3:1:1:2:100:0:0:0:Share:x:y", 0, {}},
+        {L"2:2:1:2:100:0:0:0:Share:x", 2, {}},  // only reactivation 1 hands back
+        {L"3:1:1:2:100:0:0:0:Share", 0, {}},    // nine fields are no switch string
     };
     for (const auto& c : cases) {
         std::vector<platform::WindowRef> before = fake.windows().foreground();
@@ -207,12 +181,28 @@ TEST_F(StartupTest, HostSwitchStringAndTheHandBack) {
     }
 }
 
-TEST_F(StartupTest, PresenceMutexLivesAsLongAsTheRun) {
+// The language library, the command lists and the presence mutex are there while the target runs and
+// gone after it.
+TEST_F(StartupTest, WhatTheTargetFindsIsHeldForItAndLetGoAfterIt) {
+    fake.files().AddFile(std::wstring(kUserDir) + L"PlugInCommand.txt", Utf16Bytes(L"41501\t\t\tx.dll\tPlug-in\r\n"));
+    int libraries = -1;
+    std::wstring listed;
     bool held = false;
-    WhileOpen targets([&] { held = fake.system().HoldsMutex(L"ExCommand.Option.exe"); });
+    RecordingTargets targets;
+    targets.whileOpen = [&] {
+        libraries = fake.system().loadedLibraries();
+        listed = app.commands.LookupListedCommand(41501);
+        held = fake.system().HoldsMutex(L"ExCommand.Option.exe");
+    };
     RunStartup(app, targets, {});
+    EXPECT_EQ(1, libraries);
+    EXPECT_EQ(L"Plug-in", listed);
     EXPECT_TRUE(held);
+    EXPECT_EQ(0, fake.system().loadedLibraries());
+    EXPECT_EQ(0u, app.commands.size());
     EXPECT_FALSE(fake.system().HoldsMutex(L"ExCommand.Option.exe"));
+    EXPECT_EQ(L"C:\\Qor\\Lang\\Msg.ja-JP.txt", app.messages.path());
+    EXPECT_EQ(L"Software\\Tarnwick\\QOR\\Command\\Option", app.commandOptionRoot);
     // A second copy finds the mutex taken and still runs.
     auto first = fake.system().CreatePresenceMutex(L"ExCommand.Option.exe");
     EXPECT_EQ((std::vector<std::wstring>{L"option dialog"}), Run({}));

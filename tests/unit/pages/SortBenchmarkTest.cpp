@@ -2,6 +2,9 @@
 
 #include <algorithm>
 #include <cstdint>
+#include <cwchar>
+#include <iterator>
+#include <numeric>
 #include <random>
 #include <string>
 #include <utility>
@@ -24,9 +27,6 @@ struct Keyed {
 struct KeyLess {
     bool operator()(const Keyed& x, const Keyed& y) const { return x.key < y.key; }
 };
-struct KeyGreater {
-    bool operator()(const Keyed& x, const Keyed& y) const { return x.key > y.key; }
-};
 
 // Few distinct keys, so that runs of equal keys cross every split and merge.
 std::vector<Keyed> Shuffled(size_t n, int64_t keys, uint32_t seed) {
@@ -48,10 +48,9 @@ TEST(SortBenchmark, SortsLikeStableSortInBothDirections) {
                 for (bool descending : {false, true}) {
                     std::vector<Keyed> sorted = Shuffled(n, 1 + static_cast<int64_t>(n) / 4, static_cast<uint32_t>(n));
                     std::vector<Keyed> expected = sorted;
-                    if (descending)
-                        std::stable_sort(expected.begin(), expected.end(), KeyGreater());
-                    else
-                        std::stable_sort(expected.begin(), expected.end(), KeyLess());
+                    std::stable_sort(expected.begin(), expected.end(), [descending](const Keyed& x, const Keyed& y) {
+                        return descending ? y.key < x.key : x.key < y.key;
+                    });
                     MergeSort(std::span<Keyed>(sorted), scratch, threshold, depth, descending, KeyLess());
                     ASSERT_EQ(expected, sorted) << "n " << n << " threshold " << threshold << " depth " << depth
                                                 << " descending " << descending;
@@ -61,32 +60,23 @@ TEST(SortBenchmark, SortsLikeStableSortInBothDirections) {
     }
 }
 
-TEST(SortBenchmark, SortsPresortedAndReversedRuns) {
-    // The benchmark sorts rising integers into falling ones and back.
-    std::vector<int64_t> scratch;
-    for (size_t n : {2u, 100u, 4097u}) {
+// The benchmark sorts falling integers into rising ones and back: each run flips the direction,
+// starting ascending, and a sorted run reversed is no special case.
+TEST(SortBenchmark, EachRunFlipsTheDirectionStartingAscending) {
+    for (size_t n : {2u, 5u, 100u, 4097u}) {
+        std::vector<int64_t> values(n);
+        std::iota(values.begin(), values.end(), -1);
+        const std::vector<int64_t> rising = values;
+        const std::vector<int64_t> falling(rising.rbegin(), rising.rend());
         for (size_t threshold : {0u, 10u, 999u}) {
-            std::vector<int64_t> values(n);
-            for (size_t i = 0; i < n; ++i) values[i] = static_cast<int64_t>(i);
-            std::vector<int64_t> falling(values.rbegin(), values.rend());
-            std::vector<int64_t> rising = values;
-            MergeSort(std::span<int64_t>(values), scratch, threshold, 1, true, std::less<int64_t>());
-            EXPECT_EQ(falling, values) << n << " " << threshold;
-            MergeSort(std::span<int64_t>(values), scratch, threshold, 1, false, std::less<int64_t>());
-            EXPECT_EQ(rising, values) << n << " " << threshold;
+            sortbench::ListSort sort;
+            values = falling;
+            for (const std::vector<int64_t>* expected : {&rising, &falling, &rising}) {
+                sort.Run(values, threshold);
+                EXPECT_EQ(*expected, values) << n << " " << threshold;
+            }
         }
     }
-}
-
-TEST(SortBenchmark, EachRunFlipsTheDirectionStartingAscending) {
-    sortbench::ListSort sort;
-    std::vector<int64_t> values = {3, -1, 2, 9, 0};
-    sort.Run(values, 0);
-    EXPECT_EQ((std::vector<int64_t>{-1, 0, 2, 3, 9}), values);
-    sort.Run(values, 0);
-    EXPECT_EQ((std::vector<int64_t>{9, 3, 2, 0, -1}), values);
-    sort.Run(values, 10);
-    EXPECT_EQ((std::vector<int64_t>{-1, 0, 2, 3, 9}), values);
 }
 
 TEST(SortBenchmark, DepthIsTheFloorOfLog2OfTheThreads) {
@@ -122,81 +112,57 @@ sortbench::TickSource Scripted(std::vector<uint64_t> durations, uint64_t origin 
     };
 }
 
-std::wstring Report(std::initializer_list<std::wstring> lines) {
+// The report as the user reads it: three measurements to a line, only the first hundred shown.
+std::wstring Report(const std::vector<int64_t>& times) {
     std::wstring text = L"Results up to 100-line display.\nValue - time\n";
-    int count = 0;
-    for (const auto& line : lines) text += line + (++count % 3 == 0 ? L"\n" : L" / ");
+    for (size_t i = 0; i < times.size(); ++i) {
+        wchar_t line[32];
+        std::swprintf(line, std::size(line), L"%03d - %10lld", static_cast<int>(i), static_cast<long long>(times[i]));
+        text += line;
+        text += (i + 1) % 3 == 0 ? L"\n" : L" / ";
+    }
     return text;
 }
 
-// The lines of a report, less the header's "Value - time".
-int Measurements(const std::wstring& report) {
-    int count = -1;
-    for (size_t at = report.find(L" - "); at != std::wstring::npos; at = report.find(L" - ", at + 1)) ++count;
-    return count;
-}
-
+// The search ends after ten measurements without a new best; the setting takes the best threshold
+// and stays as it was when no measurement beats 99,999,999 ticks.
 TEST(SortBenchmark, SearchStopsAfterTenMeasurementsWithoutANewBest) {
+    std::vector<uint64_t> falling(1000);
+    for (size_t t = 0; t < falling.size(); ++t) falling[t] = 5000 - t;
     struct Case {
         const char* name;
         std::vector<uint64_t> durations;
         int32_t threshold;
-        std::wstring report;
-    } cases[] = {
-        {"nothing beats T = 0",
-         {500, 500, 600, 700, 500, 800, 900, 510, 520, 530, 501},
-         0,
-         Report({L"000 -        500", L"001 -        500", L"002 -        600", L"003 -        700",
-                 L"004 -        500", L"005 -        800", L"006 -        900", L"007 -        510",
-                 L"008 -        520", L"009 -        530"})},
+        size_t lines;
+        std::vector<int64_t> shown;  // empty: the first durations as they are
+    };
+    // clang-format off
+    const Case cases[] = {
+        {"nothing beats T = 0", {500, 500, 600, 700, 500, 800, 900, 510, 520, 530, 501}, 0, 10, {}},
         {"a best at the tenth try still counts",
          {500, 501, 502, 503, 504, 505, 506, 507, 508, 509, 499, 600, 600, 600, 600, 600, 600, 600, 600, 600, 600},
-         10,
-         Report({L"000 -        500", L"001 -        501", L"002 -        502", L"003 -        503",
-                 L"004 -        504", L"005 -        505", L"006 -        506", L"007 -        507",
-                 L"008 -        508", L"009 -        509", L"010 -        499", L"011 -        600",
-                 L"012 -        600", L"013 -        600", L"014 -        600", L"015 -        600",
-                 L"016 -        600", L"017 -        600", L"018 -        600", L"019 -        600"})},
-        {"a later best restarts the count",
-         {500, 600, 400, 401, 402, 403, 404, 405, 406, 407, 408, 409, 410},
-         2,
-         Report({L"000 -        500", L"001 -        600", L"002 -        400", L"003 -        401",
-                 L"004 -        402", L"005 -        403", L"006 -        404", L"007 -        405",
-                 L"008 -        406", L"009 -        407", L"010 -        408", L"011 -        409"})},
-        {"ticks are 32 bits and printed signed",
-         {3000000000ULL, 99999999, 4294967296ULL + 7},
-         2,
-         Report({L"000 - -1294967296", L"001 -   99999999", L"002 -          7", L"003 -    1000000",
-                 L"004 -    1000000", L"005 -    1000000", L"006 -    1000000", L"007 -    1000000",
-                 L"008 -    1000000", L"009 -    1000000", L"010 -    1000000", L"011 -    1000000"})},
+         10, 20, {}},
+        {"a later best restarts the count", {500, 600, 400, 401, 402, 403, 404, 405, 406, 407, 408, 409, 410}, 2, 12, {}},
+        {"ticks are 32 bits and printed signed", {3000000000ULL, 99999999, 4294967296ULL + 7}, 2, 12,
+         {-1294967296, 99999999, 7, 1000000, 1000000, 1000000, 1000000, 1000000, 1000000, 1000000, 1000000, 1000000}},
+        {"a thousand thresholds, the first hundred shown", falling, 999, 100, {}},
+        {"nothing under the start, so T = 0 counts as a try", std::vector<uint64_t>(20, 99999999), 37, 9, {}},
     };
+    // clang-format on
     for (const auto& c : cases) {
-        int32_t chgSortAlg = 10;
+        SCOPED_TRACE(c.name);
+        std::vector<int64_t> shown = c.shown;
+        if (shown.empty()) shown.assign(c.durations.begin(), c.durations.begin() + c.lines);
+        int32_t chgSortAlg = 37;
         const std::wstring report =
-            sortbench::SearchSortThreshold(ThresholdSearch{chgSortAlg, Scripted(c.durations), 300});
-        EXPECT_EQ(c.threshold, chgSortAlg) << c.name;
-        EXPECT_EQ(c.report, report) << c.name;
+            sortbench::SearchSortThreshold(ThresholdSearch{chgSortAlg, Scripted(c.durations), 8});
+        EXPECT_EQ(c.threshold, chgSortAlg);
+        EXPECT_EQ(Report(shown), report);
     }
-}
-
-TEST(SortBenchmark, SearchReportsTheFirstHundredOfAThousandThresholds) {
-    std::vector<uint64_t> falling(1000);
-    for (size_t t = 0; t < falling.size(); ++t) falling[t] = 5000 - t;
-    int32_t chgSortAlg = 10;
-    const std::wstring report = sortbench::SearchSortThreshold(ThresholdSearch{chgSortAlg, Scripted(falling), 16});
-    EXPECT_EQ(999, chgSortAlg);
-    EXPECT_EQ(100, Measurements(report));
-    EXPECT_TRUE(report.ends_with(L"098 -       4902\n099 -       4901 / ")) << report.substr(report.size() - 60);
-}
-
-TEST(SortBenchmark, NoMeasurementUnderTheStartLeavesTheSettingAlone) {
-    int32_t chgSortAlg = 37;
-    const std::vector<uint64_t> slow(20, 99999999);
-    const std::wstring report = sortbench::SearchSortThreshold(ThresholdSearch{chgSortAlg, Scripted(slow), 8});
-    EXPECT_EQ(37, chgSortAlg);
-    // Even T = 0 counts as a try without a new best, so one line fewer.
-    EXPECT_EQ(9, Measurements(report));
-    EXPECT_TRUE(report.ends_with(L"008 -   99999999\n"));
+    // The lines above, once as literal text: numbers right-aligned in ten places, ticks signed.
+    EXPECT_EQ(
+        L"Results up to 100-line display.\nValue - time\n000 - -1294967296 / 001 -   99999999 / 002 -          7\n",
+        Report({-1294967296, 99999999, 7}));
 }
 
 TEST(SortBenchmark, TheButtonShowsTheReportInAMessageBox) {

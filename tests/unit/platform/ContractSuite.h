@@ -24,11 +24,7 @@ std::vector<Implementation<Harness>> Implementations() {
     return all;
 }
 
-struct NameOf {
-    template <typename Harness>
-    std::string operator()(const testing::TestParamInfo<Implementation<Harness>>& info) const {
-        return info.param.name;
-    }
-};
+// Names each instantiation after its implementation.
+inline constexpr auto NameOf = [](const auto& info) { return std::string(info.param.name); };
 
 }  // namespace contract

@@ -13,6 +13,8 @@
 #ifdef _WIN32
 #include <windows.h>
 
+#include <filesystem>
+
 #include "platform/win32/Win32FileSystem.h"
 #endif
 
@@ -55,26 +57,6 @@ private:
 };
 
 #ifdef _WIN32
-void RemoveTree(const std::wstring& directory) {
-    WIN32_FIND_DATAW data;
-    HANDLE find = FindFirstFileW((directory + L"\\*").c_str(), &data);
-    if (find != INVALID_HANDLE_VALUE) {
-        do {
-            std::wstring name = data.cFileName;
-            if (name == L"." || name == L"..") continue;
-            std::wstring path = directory + L"\\" + name;
-            if (data.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) {
-                RemoveTree(path);
-            } else {
-                SetFileAttributesW(path.c_str(), FILE_ATTRIBUTE_NORMAL);
-                DeleteFileW(path.c_str());
-            }
-        } while (FindNextFileW(find, &data));
-        FindClose(find);
-    }
-    RemoveDirectoryW(directory.c_str());
-}
-
 class RealHarness : public FileSystemHarness {
 public:
     RealHarness() {
@@ -91,7 +73,10 @@ public:
     }
     ~RealHarness() override {
         SetCurrentDirectoryW(previous_);
-        RemoveTree(scratch_);
+        std::error_code ignored;  // read-only files first become writable, then the tree goes
+        for (const auto& entry : std::filesystem::recursive_directory_iterator(scratch_, ignored))
+            SetFileAttributesW(entry.path().c_str(), FILE_ATTRIBUTE_NORMAL);
+        std::filesystem::remove_all(scratch_, ignored);
     }
     FileSystem& files() override { return files_; }
     std::wstring scratch() const override { return scratch_; }
@@ -115,6 +100,9 @@ using RealHarness = void;  // the native build has only the fake
 
 using Implementation = contract::Implementation<FileSystemHarness>;
 
+// Who holds a file open: a writer appends, a rewriter starts the file afresh, DenyAll reads alone.
+enum class Holder { None, Reader, ReaderDenyingWriters, Writer, Rewriter, DenyAll };
+
 class FileSystemContract : public testing::TestWithParam<Implementation> {
 protected:
     void SetUp() override {
@@ -136,6 +124,15 @@ protected:
         std::string bytes(static_cast<size_t>(file->Size()), '\0');
         bytes.resize(file->Read(bytes.data(), bytes.size()));
         return bytes;
+    }
+
+    std::unique_ptr<platform::File> Hold(const std::wstring& path, Holder holder, uint32_t& error) {
+        if (holder == Holder::None) return nullptr;
+        if (holder == Holder::DenyAll) return files().OpenDenyAll(path, FileAccess::Read, error);
+        const FileAccess access = holder == Holder::Writer     ? FileAccess::Append
+                                  : holder == Holder::Rewriter ? FileAccess::Write
+                                                               : FileAccess::Read;
+        return files().Open(path, access, holder == Holder::ReaderDenyingWriters);
     }
 
     std::set<std::wstring> FoundNames(const std::wstring& pattern, FindStyle style) {
@@ -177,57 +174,43 @@ TEST_P(FileSystemContract, FullPathsFollowTheRealRules) {
     }
     std::wstring full;
     EXPECT_FALSE(files().FullPathName(L"", 1024, full));
-}
-
-TEST_P(FileSystemContract, FullPathNeedsRoomForTheTerminator) {
-    std::wstring path = At(L"abc");
-    std::wstring full = L"poison";
-    EXPECT_FALSE(files().FullPathName(path, path.size(), full));
+    const std::wstring path = At(L"abc");
+    EXPECT_FALSE(files().FullPathName(path, path.size(), full)) << "no room for the terminator";
     EXPECT_TRUE(files().FullPathName(path, path.size() + 1, full));
     EXPECT_EQ(path, full);
 }
 
+// Directories come with every missing parent and the shell's codes; attributes then tell a directory,
+// a file and nothing apart, in any letter case.
 TEST_P(FileSystemContract, CreatingDirectoriesGivesTheShellCodes) {
-    ASSERT_TRUE(WriteFile(At(L"file"), "x"));
+    ASSERT_TRUE(WriteFile(At(L"file.txt"), "x"));
     struct Case {
         std::wstring path;
         int result;
     };
     const Case cases[] = {
-        {At(L"a\\b\\c"), 0},    // with every missing parent
-        {At(L"A\\B\\C"), 183},  // already there
-        {At(L"t\\"), 0},        // a trailing separator
-        {At(L"file"), 183},     // a file of that name
-        {At(L"file\\sub"), 3},  // below a file
-        {L"rel\\x", 161},       // relative
+        {At(L"a\\b\\c"), 0},        // with every missing parent
+        {At(L"A\\B\\C"), 183},      // already there
+        {At(L"t\\"), 0},            // a trailing separator
+        {At(L"file.txt"), 183},     // a file of that name
+        {At(L"file.txt\\sub"), 3},  // below a file
+        {L"rel\\x", 161},           // relative
         {L"", 161},
     };
     for (const Case& c : cases)
         EXPECT_EQ(c.result, files().CreateDirectoryTree(c.path)) << testing::PrintToString(c.path);
-    for (const wchar_t* made : {L"a", L"a\\b\\c", L"t"})
-        EXPECT_EQ(platform::kAttributeDirectory, files().GetAttributes(At(made)) & platform::kAttributeDirectory)
-            << testing::PrintToString(made);
-    EXPECT_EQ(platform::kInvalidAttributes, files().GetAttributes(At(L"file\\sub")));
-}
-
-TEST_P(FileSystemContract, AttributesTellDirectoriesFilesAndNothing) {
-    ASSERT_EQ(0, files().CreateDirectoryTree(At(L"dir")));
-    ASSERT_TRUE(WriteFile(At(L"file.txt"), "x"));
-    struct Case {
-        std::wstring path;
-        bool exists;
-        bool directory;
+    enum Kind { Nothing, File, Directory };
+    const std::pair<std::wstring, Kind> kinds[] = {
+        {At(L"a"), Directory},     {At(L"A\\b\\C\\"), Directory},   {At(L"t"), Directory},
+        {L"a\\b", Directory},      {At(L"file.txt"), File},         {At(L"FILE.TXT"), File},
+        {At(L"missing"), Nothing}, {At(L"file.txt\\sub"), Nothing},
     };
-    const Case cases[] = {
-        {At(L"dir"), true, true},       {At(L"DIR\\"), true, true},     {At(L"file.txt"), true, false},
-        {At(L"FILE.TXT"), true, false}, {At(L"missing"), false, false}, {L"dir", true, true},
-    };
-    for (const Case& c : cases) {
-        uint32_t attributes = files().GetAttributes(c.path);
-        EXPECT_EQ(c.exists, attributes != platform::kInvalidAttributes) << testing::PrintToString(c.path);
-        if (c.exists) {
-            EXPECT_EQ(c.directory, (attributes & platform::kAttributeDirectory) != 0) << testing::PrintToString(c.path);
-        }
+    for (const auto& [path, kind] : kinds) {
+        const uint32_t attributes = files().GetAttributes(path);
+        const Kind found = attributes == platform::kInvalidAttributes          ? Nothing
+                           : (attributes & platform::kAttributeDirectory) != 0 ? Directory
+                                                                               : File;
+        EXPECT_EQ(kind, found) << testing::PrintToString(path);
     }
 }
 
@@ -287,58 +270,44 @@ TEST_P(FileSystemContract, OpenModesReadWriteAndAppend) {
     EXPECT_EQ(nullptr, files().Open(At(L"missing\\x.bin"), FileAccess::Write, false));
 }
 
-TEST_P(FileSystemContract, DenyWriteKeepsWritersOut) {
-    std::wstring path = At(L"locked.txt");
-    ASSERT_TRUE(WriteFile(path, "kept"));
+// Who else may open a file one handle holds. Sharing is checked per open handle, so a second handle of
+// this process stands for another program's; a refused exclusive open says why in the system's code.
+TEST_P(FileSystemContract, SharingDecidesWhoElseMayOpenAHeldFile) {
     struct Case {
-        FileAccess access;
-        bool denyWrite;
+        Holder holder;
+        Holder other;
         bool opens;
     };
-    const Case whileReaderDeniesWrite[] = {
-        {FileAccess::Write, false, false},
-        {FileAccess::Append, false, false},
-        {FileAccess::Read, false, true},
-        {FileAccess::Read, true, true},
+    // clang-format off
+    const Case cases[] = {
+        {Holder::ReaderDenyingWriters, Holder::Rewriter, false}, {Holder::ReaderDenyingWriters, Holder::Writer, false},
+        {Holder::ReaderDenyingWriters, Holder::Reader, true},
+        {Holder::ReaderDenyingWriters, Holder::ReaderDenyingWriters, true},
+        {Holder::Writer, Holder::ReaderDenyingWriters, false},  // write denial cannot be had while a writer holds it
+        {Holder::Writer, Holder::Reader, true},
+        {Holder::DenyAll, Holder::Reader, false}, {Holder::DenyAll, Holder::Writer, false},
+        {Holder::DenyAll, Holder::DenyAll, false}, {Holder::Reader, Holder::DenyAll, false},
     };
-    {
-        auto holder = files().Open(path, FileAccess::Read, true);
-        ASSERT_TRUE(holder);
-        for (const Case& c : whileReaderDeniesWrite) {
-            auto other = files().Open(path, c.access, c.denyWrite);
-            EXPECT_EQ(c.opens, other != nullptr) << "access " << static_cast<int>(c.access) << " deny " << c.denyWrite;
-        }
-    }
-    EXPECT_EQ("kept", ReadFile(path));
-    auto writer = files().Open(path, FileAccess::Append, false);
-    ASSERT_TRUE(writer) << "the file is free once the holder closes it";
-    EXPECT_EQ(nullptr, files().Open(path, FileAccess::Read, true))
-        << "write denial cannot be had while a writer holds it";
-    EXPECT_NE(nullptr, files().Open(path, FileAccess::Read, false));
-}
-
-// The file is its holder's alone, and a failure says why in the system's own code.
-TEST_P(FileSystemContract, DenyAllShutsEveryoneElseOut) {
-    const std::wstring path = At(L"alone.txt");
+    // clang-format on
+    const std::wstring path = At(L"held.txt");
     ASSERT_TRUE(WriteFile(path, "old"));
+    for (const Case& c : cases) {
+        SCOPED_TRACE(testing::Message() << static_cast<int>(c.holder) << " then " << static_cast<int>(c.other));
+        uint32_t error = 99;
+        auto holder = Hold(path, c.holder, error);
+        ASSERT_TRUE(holder);
+        EXPECT_EQ(c.opens, Hold(path, c.other, error) != nullptr);
+        EXPECT_TRUE(c.other != Holder::DenyAll || error == 32u) << "ERROR_SHARING_VIOLATION, not " << error;
+    }
+    EXPECT_EQ("old", ReadFile(path)) << "no refused writer touched it";
     uint32_t error = 99;
     {
         auto holder = files().OpenDenyAll(path, FileAccess::Append, error);
         ASSERT_TRUE(holder);
         EXPECT_EQ(0u, error);
         EXPECT_EQ(3u, holder->Write("new", 3));
-        EXPECT_EQ(nullptr, files().Open(path, FileAccess::Read, false)) << "no reader";
-        EXPECT_EQ(nullptr, files().Open(path, FileAccess::Append, false)) << "no writer";
-        EXPECT_EQ(nullptr, files().OpenDenyAll(path, FileAccess::Append, error));
-        EXPECT_EQ(32u, error) << "ERROR_SHARING_VIOLATION";
     }
     EXPECT_EQ("oldnew", ReadFile(path)) << "appended, and let go with its holder";
-    {
-        auto reader = files().Open(path, FileAccess::Read, false);
-        ASSERT_TRUE(reader);
-        EXPECT_EQ(nullptr, files().OpenDenyAll(path, FileAccess::Write, error)) << "not while another has it";
-        EXPECT_EQ(32u, error);
-    }
     {
         auto holder = files().OpenDenyAll(path, FileAccess::Write, error);
         ASSERT_TRUE(holder);
@@ -366,10 +335,8 @@ TEST_P(FileSystemContract, DenyAllShutsEveryoneElseOut) {
     }
 }
 
-// What stands at a path before a file is put there, and who holds it open meanwhile. Sharing is
-// checked per open handle, so a second handle of this process stands for another program's.
+// What stands at a path before a file is put there.
 enum class Standing { Nothing, File, ReadOnlyFile, Directory };
-enum class Holder { None, ReaderDenyingWriters, Writer, DenyAll };
 
 // The writer's last step: one rename that either puts the new file in place or leaves both as they
 // were.
@@ -395,14 +362,15 @@ TEST_P(FileSystemContract, ReplaceTakesTheTargetsPlaceOrLeavesBoth) {
         const std::wstring source = At(L"new" + std::to_wstring(++number) + L".tmp");
         const std::wstring target = At(L"target" + std::to_wstring(number));
         ASSERT_TRUE(WriteFile(source, "new"));
-        if (c.target == Standing::Directory) ASSERT_EQ(0, files().CreateDirectoryTree(target));
-        if (c.target == Standing::File || c.target == Standing::ReadOnlyFile) ASSERT_TRUE(WriteFile(target, "old"));
+        if (c.target == Standing::Directory) {
+            ASSERT_EQ(0, files().CreateDirectoryTree(target));
+        }
+        if (c.target == Standing::File || c.target == Standing::ReadOnlyFile) {
+            ASSERT_TRUE(WriteFile(target, "old"));
+        }
         if (c.target == Standing::ReadOnlyFile) harness_->MakeReadOnly(target);
-        std::unique_ptr<platform::File> holder;
         uint32_t ignored = 0;
-        if (c.holder == Holder::ReaderDenyingWriters) holder = files().Open(target, FileAccess::Read, true);
-        if (c.holder == Holder::Writer) holder = files().Open(target, FileAccess::Append, false);
-        if (c.holder == Holder::DenyAll) holder = files().OpenDenyAll(target, FileAccess::Read, ignored);
+        std::unique_ptr<platform::File> holder = Hold(target, c.holder, ignored);
         ASSERT_EQ(c.holder != Holder::None, holder != nullptr);
 
         EXPECT_EQ(c.error, files().Replace(source, target));
@@ -412,7 +380,9 @@ TEST_P(FileSystemContract, ReplaceTakesTheTargetsPlaceOrLeavesBoth) {
             EXPECT_EQ(platform::kInvalidAttributes, files().GetAttributes(source)) << "the source is gone";
         } else {
             EXPECT_EQ("new", ReadFile(source)) << "the source stays";
-            if (c.target != Standing::Directory) EXPECT_EQ("old", ReadFile(target));
+            if (c.target != Standing::Directory) {
+                EXPECT_EQ("old", ReadFile(target));
+            }
         }
     }
     EXPECT_EQ(2u, files().Replace(At(L"missing.tmp"), At(L"target1"))) << "ERROR_FILE_NOT_FOUND";
@@ -439,10 +409,12 @@ TEST_P(FileSystemContract, DeleteRemovesAFileThatIsFree) {
     for (const Case& c : cases) {
         SCOPED_TRACE(c.label);
         const std::wstring path = At(L"doomed" + std::to_wstring(++number));
-        if (c.standing != Standing::Nothing) ASSERT_TRUE(WriteFile(path, "x"));
+        if (c.standing != Standing::Nothing) {
+            ASSERT_TRUE(WriteFile(path, "x"));
+        }
         if (c.standing == Standing::ReadOnlyFile) harness_->MakeReadOnly(path);
-        std::unique_ptr<platform::File> holder;
-        if (c.holder != Holder::None) holder = files().Open(path, FileAccess::Read, true);
+        uint32_t ignored = 0;
+        std::unique_ptr<platform::File> holder = Hold(path, c.holder, ignored);
         EXPECT_EQ(c.error, files().Delete(path));
         holder.reset();
         EXPECT_EQ(c.error == 0 || c.standing == Standing::Nothing,
@@ -450,14 +422,17 @@ TEST_P(FileSystemContract, DeleteRemovesAFileThatIsFree) {
     }
 }
 
-TEST_P(FileSystemContract, LongPathNamesExpandShortNames) {
+// Long path names expand 8.3 names; short path names use them where there are some.
+TEST_P(FileSystemContract, EightDotThreeNamesInBothDirections) {
     std::wstring longDirectory = At(L"Long Directory Name");
     ASSERT_EQ(0, files().CreateDirectoryTree(longDirectory));
     ASSERT_TRUE(WriteFile(longDirectory + L"\\inner.txt", "x"));
     std::wstring longPath;
+    std::wstring shortPath;
     EXPECT_TRUE(files().LongPathName(longDirectory + L"\\inner.txt", longPath));
     EXPECT_EQ(longDirectory + L"\\inner.txt", longPath) << "a long path stays as it is";
     EXPECT_FALSE(files().LongPathName(At(L"missing"), longPath));
+    EXPECT_FALSE(files().ShortPathName(At(L"missing"), shortPath));
 
     std::wstring shortDirectory = harness_->ShortForm(longDirectory);
     if (shortDirectory.empty()) GTEST_SKIP() << "no 8.3 names on this volume";
@@ -465,16 +440,6 @@ TEST_P(FileSystemContract, LongPathNamesExpandShortNames) {
     EXPECT_TRUE(files().LongPathName(shortDirectory + L"\\inner.txt", longPath));
     EXPECT_EQ(longDirectory + L"\\inner.txt", longPath);
     EXPECT_EQ("x", ReadFile(shortDirectory + L"\\inner.txt")) << "the short name reaches the file";
-}
-
-TEST_P(FileSystemContract, ShortPathNamesUseEightDotThreeNamesWhereThereAreSome) {
-    std::wstring longDirectory = At(L"Long Directory Name");
-    ASSERT_EQ(0, files().CreateDirectoryTree(longDirectory));
-    ASSERT_TRUE(WriteFile(longDirectory + L"\\inner.txt", "x"));
-    std::wstring shortPath;
-    EXPECT_FALSE(files().ShortPathName(At(L"missing"), shortPath));
-    std::wstring shortDirectory = harness_->ShortForm(longDirectory);
-    if (shortDirectory.empty()) GTEST_SKIP() << "no 8.3 names on this volume";
     std::wstring shortRoot;
     ASSERT_TRUE(files().ShortPathName(root_, shortRoot));
     EXPECT_TRUE(files().ShortPathName(longDirectory + L"\\inner.txt", shortPath));
@@ -491,7 +456,7 @@ TEST_P(FileSystemContract, ShellVersionIsAVersionNumber) {
 
 INSTANTIATE_TEST_SUITE_P(FileSystem, FileSystemContract,
                          testing::ValuesIn(contract::Implementations<FileSystemHarness, FakeHarness, RealHarness>()),
-                         contract::NameOf());
+                         contract::NameOf);
 
 TEST(FakeFileSystem, ShortNamesDrivesAndScene) {
     platform::fake::FakeFileSystem files;

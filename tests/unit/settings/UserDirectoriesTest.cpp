@@ -9,24 +9,22 @@ namespace {
 
 using platform::fake::FakePlatform;
 
+// The program in its place below the application folder, and a local application data folder.
+void InstallProgram(FakePlatform& fake) {
+    fake.environment().SetModuleFileName(L"C:\\Qor\\command\\Option\\Option.exe");
+    fake.files().AddDirectory(L"C:\\Qor\\command\\Option");
+    fake.files().AddDirectory(L"C:\\Users\\tester\\AppData\\Local");
+}
+
 class UserDirectoriesTest : public testing::Test {
 protected:
-    UserDirectoriesTest() {
-        fake.environment().SetModuleFileName(L"C:\\Qor\\command\\Option\\Option.exe");
-        fake.files().AddDirectory(L"C:\\Qor\\command\\Option");
-        fake.files().AddDirectory(L"C:\\Users\\tester\\AppData\\Local");
-    }
+    UserDirectoriesTest() { InstallProgram(fake); }
 
     void SetMode(int32_t mode) { DirectWriteInt(kDirectSettingsPath, L"UserDirMode", mode); }
 
     FakePlatform fake;
     UserDirectories directories;
 };
-
-TEST_F(UserDirectoriesTest, ProgramDirectoryAndApplicationRoot) {
-    EXPECT_EQ(L"C:\\Qor\\command\\Option\\", directories.ProgramDirectory());
-    EXPECT_EQ(L"C:\\Qor\\", directories.ApplicationRoot());
-}
 
 TEST_F(UserDirectoriesTest, UserDirectoryByMode) {
     struct Case {
@@ -52,9 +50,7 @@ TEST_F(UserDirectoriesTest, UserDirectoryByMode) {
     };
     for (const auto& c : cases) {
         FakePlatform local;
-        local.environment().SetModuleFileName(L"C:\\Qor\\command\\Option\\Option.exe");
-        local.files().AddDirectory(L"C:\\Qor\\command\\Option");
-        local.files().AddDirectory(L"C:\\Users\\tester\\AppData\\Local");
+        InstallProgram(local);
         local.environment().SetLocalAppDataFolder(c.appData);
         local.environment().SetUserName(c.userName);
         if (c.mode >= 0) DirectWriteInt(kDirectSettingsPath, L"UserDirMode", c.mode);
@@ -68,58 +64,52 @@ TEST_F(UserDirectoriesTest, UserDirectoryByMode) {
 }
 
 TEST_F(UserDirectoriesTest, TheFirstAnswerHoldsForTheProcess) {
+    EXPECT_EQ(L"C:\\Qor\\command\\Option\\", directories.ProgramDirectory());
+    EXPECT_EQ(L"C:\\Qor\\", directories.ApplicationRoot());
     SetMode(1);
     EXPECT_EQ(L"C:\\Qor\\Ubar\\tester\\", directories.UserDirectory());
     SetMode(2);
     EXPECT_EQ(L"C:\\Qor\\Ubar\\tester\\", directories.UserDirectory());
 }
 
-TEST_F(UserDirectoriesTest, TokensExpandInOrderAndWithCase) {
+// Tokens expand as spelt, environment variables after them; a path compresses to the first token that
+// fits it, in any letter case.
+TEST_F(UserDirectoriesTest, TokensExpandAndPathsCompress) {
     SetMode(1);
     fake.environment().SetVariable(L"DATA", L"%User_dir%x");
+    enum Way { Both, Expands, Compresses };
     struct Case {
-        const wchar_t* text;
-        const wchar_t* expected;
-    };
-    const Case cases[] = {
-        {L"%Script_dir%Editor.txt", L"C:\\Qor\\Ubar\\tester\\Script\\Editor.txt"},
-        {L"%User_dir%CommandMode.key", L"C:\\Qor\\Ubar\\tester\\CommandMode.key"},
-        {L"%Menu_dir%m.txt", L"C:\\Qor\\Ubar\\tester\\Menu\\m.txt"},
-        {L"%App_Dir%Qor.exe", L"C:\\Qor\\Qor.exe"},
-        {L"%CMD_Dir%a", L"C:\\Qor\\command\\Default\\a"},
-        {L"%CmdPlugin_Dir%a", L"C:\\Qor\\command\\CmdPlugin\\a"},
-        {L"%Viewer_Dir%a", L"C:\\Qor\\command\\Viewer\\a"},
-        {L"%UserCmd_Dir%a", L"C:\\Qor\\command\\User\\a"},
-        {L"%user_dir%a", L"%user_dir%a"},
-        {L"\"%App_Dir%a\" \"%App_Dir%b\"", L"\"C:\\Qor\\a\" \"C:\\Qor\\b\""},
-        {L"%DATA%", L"C:\\Qor\\Ubar\\tester\\x"},
-    };
-    for (const auto& c : cases) {
-        EXPECT_EQ(c.expected, ExpandDirectoryMacros(c.text, directories))
-            << testing::PrintToString(std::wstring(c.text));
-    }
-}
-
-TEST_F(UserDirectoriesTest, CompressionTakesTheFirstTokenFoundOnly) {
-    SetMode(1);
-    struct Case {
+        const wchar_t* tokens;
         const wchar_t* path;
-        const wchar_t* expected;
+        Way way;
     };
+    // clang-format off
     const Case cases[] = {
-        {L"C:\\Qor\\Ubar\\tester\\Script\\a.txt", L"%Script_dir%a.txt"},
-        {L"c:\\qor\\ubar\\TESTER\\x.key", L"%User_dir%x.key"},
-        {L"C:\\Qor\\Ubar\\tester\\Menu\\m.txt", L"%User_dir%Menu\\m.txt"},
-        {L"C:\\Qor\\command\\User\\tool.exe", L"%App_Dir%command\\User\\tool.exe"},
-        {L"\"C:\\Qor\\a\" \"C:\\Qor\\b\" \"c:\\qor\\c\"", L"\"%App_Dir%a\" \"%App_Dir%b\" \"c:\\qor\\c\""},
-        {L"D:\\elsewhere\\x", L"D:\\elsewhere\\x"},
+        {L"%Script_dir%Editor.txt", L"C:\\Qor\\Ubar\\tester\\Script\\Editor.txt", Both},
+        {L"%User_dir%CommandMode.key", L"C:\\Qor\\Ubar\\tester\\CommandMode.key", Both},
+        {L"%User_dir%x.key", L"c:\\qor\\ubar\\TESTER\\x.key", Compresses},
+        {L"%Menu_dir%m.txt", L"C:\\Qor\\Ubar\\tester\\Menu\\m.txt", Expands},
+        {L"%User_dir%Menu\\m.txt", L"C:\\Qor\\Ubar\\tester\\Menu\\m.txt", Both},
+        {L"%App_Dir%Qor.exe", L"C:\\Qor\\Qor.exe", Both},
+        {L"%App_Dir%command\\User\\tool.exe", L"C:\\Qor\\command\\User\\tool.exe", Both},
+        {L"%CMD_Dir%a", L"C:\\Qor\\command\\Default\\a", Expands},
+        {L"%CmdPlugin_Dir%a", L"C:\\Qor\\command\\CmdPlugin\\a", Expands},
+        {L"%Viewer_Dir%a", L"C:\\Qor\\command\\Viewer\\a", Expands},
+        {L"%UserCmd_Dir%a", L"C:\\Qor\\command\\User\\a", Expands},
+        {L"%user_dir%a", L"%user_dir%a", Expands},
+        {L"\"%App_Dir%a\" \"%App_Dir%b\"", L"\"C:\\Qor\\a\" \"C:\\Qor\\b\"", Expands},
+        {L"\"%App_Dir%a\" \"%App_Dir%b\" \"c:\\qor\\c\"", L"\"C:\\Qor\\a\" \"C:\\Qor\\b\" \"c:\\qor\\c\"", Compresses},
+        {L"%DATA%", L"C:\\Qor\\Ubar\\tester\\x", Expands},
+        {L"D:\\elsewhere\\x", L"D:\\elsewhere\\x", Both},
     };
+    // clang-format on
     for (const auto& c : cases) {
-        std::wstring compressed = TextToMacroPath(c.path, directories);
-        EXPECT_EQ(c.expected, compressed) << testing::PrintToString(std::wstring(c.path));
-        if (std::wstring(c.path).find(L"c:\\qor\\c") == std::wstring::npos &&
-            std::wstring(c.path).find(L"TESTER") == std::wstring::npos) {
-            EXPECT_EQ(c.path, ExpandDirectoryMacros(compressed, directories)) << "round trip";
+        SCOPED_TRACE(testing::PrintToString(std::wstring(c.tokens)));
+        if (c.way != Compresses) {
+            EXPECT_EQ(c.path, ExpandDirectoryMacros(c.tokens, directories));
+        }
+        if (c.way != Expands) {
+            EXPECT_EQ(c.tokens, TextToMacroPath(c.path, directories));
         }
     }
 }
