@@ -100,10 +100,7 @@ struct FakeRegistry::Node {
 
 class FakeRegistry::Key : public RegistryKey {
 public:
-    Key(FakeRegistry& registry, std::shared_ptr<Node> node) : registry_(registry), node_(std::move(node)) {
-        ++registry_.liveHandles_;
-    }
-    ~Key() override { --registry_.liveHandles_; }
+    Key(FakeRegistry& registry, std::shared_ptr<Node> node) : registry_(registry), node_(std::move(node)) {}
 
     long QueryValue(const std::wstring& name, uint32_t* type, void* data, uint32_t* size) override {
         if (node_->deleted) return kRegistryKeyDeleted;
@@ -192,7 +189,6 @@ long FakeRegistry::CreateKey(const std::wstring& path, std::unique_ptr<RegistryK
     std::shared_ptr<Node> node;
     if (long error = Find(path, true, node)) return error;
     key = std::make_unique<Key>(*this, node);
-    ++openCount_;
     return kRegistryOk;
 }
 
@@ -200,7 +196,6 @@ long FakeRegistry::OpenKey(const std::wstring& path, std::unique_ptr<RegistryKey
     std::shared_ptr<Node> node;
     if (long error = Find(path, false, node)) return error;
     key = std::make_unique<Key>(*this, node);
-    ++openCount_;
     return kRegistryOk;
 }
 

@@ -27,9 +27,6 @@ public:
 
     // What tests look at without going through a handle.
     bool KeyExists(const std::wstring& path) const;
-    // Successful CreateKey and OpenKey calls so far, and the keys open right now.
-    int openCount() const { return openCount_; }
-    int liveHandles() const { return liveHandles_; }
 
     struct Node;
 
@@ -39,8 +36,6 @@ private:
 
     std::shared_ptr<Node> root_;
     bool refuseWrites_ = false;
-    int openCount_ = 0;
-    int liveHandles_ = 0;
 };
 
 }  // namespace platform::fake
