@@ -265,12 +265,7 @@ TEST_F(ScriptOnWindows, CallStoresTheExitCode) {
 // where the parent goes on, and each line and value.
 TEST_F(ScriptOnWindows, TheTraceWindowHearsEachScript) {
     constexpr const wchar_t* kTraceClass = L"OptionTestsScriptTrace";
-    WNDCLASSEXW wc{};
-    wc.cbSize = sizeof(wc);
-    wc.lpfnWndProc = TraceProc;
-    wc.hInstance = GetModuleHandleW(nullptr);
-    wc.lpszClassName = kTraceClass;
-    RegisterClassExW(&wc);
+    testing_support::RegisterWindowClass(kTraceClass, TraceProc);
     HWND trace = CreateWindowExW(0, kTraceClass, L"Script trace Qor", WS_POPUP, 0, 0, 10, 10, nullptr, nullptr,
                                  GetModuleHandleW(nullptr), nullptr);
     ASSERT_TRUE(trace);
