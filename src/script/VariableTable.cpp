@@ -11,7 +11,9 @@ namespace {
 // Enough for chains of names; a pair of variables naming each other stops here too.
 constexpr int kMaxRounds = 10;
 
-void Refuse(const std::wstring& text) { platform::Current().prompts.ShowMessage(text, platform::kStyleOk); }
+void Refuse(const std::wstring& text) {
+    platform::Current().prompts.ShowMessage(text, platform::kStyleOk);
+}
 
 // Substitution is blind to words, so no name may hold another or be held by one.
 bool MayDeclare(const VariableTable& variables, const std::wstring& name) {
@@ -26,8 +28,10 @@ bool MayDeclare(const VariableTable& variables, const std::wstring& name) {
     std::wstring overlap;
     variables.ForEach([&](const std::wstring& entry, const std::wstring&) {
         if (!overlap.empty()) return;
-        if (entry.find(name) != std::wstring::npos) overlap = name + L"/" + entry;
-        else if (name.find(entry) != std::wstring::npos) overlap = entry + L"/" + name;
+        if (entry.find(name) != std::wstring::npos)
+            overlap = name + L"/" + entry;
+        else if (name.find(entry) != std::wstring::npos)
+            overlap = entry + L"/" + name;
     });
     if (overlap.empty()) return true;
     Refuse(L"It is contained in the variable declared.\n" + overlap);
@@ -43,10 +47,31 @@ bool Enter(VariableTable& variables, const std::wstring& name, platform::WindowR
 
 }  // namespace
 
+#ifdef OPTION_SCRIPT_TEXT_LIMIT
+void CheckScriptTextSize(size_t size) {
+    if (size > OPTION_SCRIPT_TEXT_LIMIT) throw ScriptTextLimitReached();
+}
+
+namespace {
+
+// The length text would have with every name in it replaced by value, worked out before it is made.
+size_t GrownSize(const std::wstring& text, const std::wstring& name, const std::wstring& value) {
+    if (name.empty() || value.size() <= name.size()) return text.size();
+    size_t count = 0;
+    for (size_t at = 0; (at = text.find(name, at)) != std::wstring::npos; at += name.size()) ++count;
+    return text.size() + count * (value.size() - name.size());
+}
+
+}  // namespace
+#endif
+
 void ExpandVariables(const VariableTable& variables, std::wstring& text) {
     for (int round = 0; round < kMaxRounds && !variables.empty(); ++round) {
         bool replaced = false;
         variables.ForEach([&](const std::wstring& name, const std::wstring& value) {
+#ifdef OPTION_SCRIPT_TEXT_LIMIT
+            if (name != value) CheckScriptTextSize(GrownSize(text, name, value));
+#endif
             if (name != value && crt::Replace(text, name, value) > 0) replaced = true;
         });
         if (!replaced) break;
@@ -58,11 +83,16 @@ VariableName SplitVariableName(const std::wstring& name) {
     bool malformed = false;
     VariableName split;
     for (wchar_t c : name) {
-        if (c == L'[') state = kIndex;
-        else if (c == L']') state = kBehind;
-        else if (state == kBase) split.base += c;
-        else if (state == kIndex) split.index += c;
-        else malformed = true;
+        if (c == L'[')
+            state = kIndex;
+        else if (c == L']')
+            state = kBehind;
+        else if (state == kBase)
+            split.base += c;
+        else if (state == kIndex)
+            split.index += c;
+        else
+            malformed = true;
     }
     if (state == kIndex) malformed = true;
     if (malformed) return {crt::Trim(name), std::wstring()};
