@@ -11,9 +11,7 @@ namespace {
 // Enough for chains of names; a pair of variables naming each other stops here too.
 constexpr int kMaxRounds = 10;
 
-void Refuse(const std::wstring& text) {
-    platform::Current().prompts.ShowMessage(text, platform::kStyleOk);
-}
+void Refuse(const std::wstring& text) { platform::Current().prompts.ShowMessage(text, platform::kStyleOk); }
 
 // Substitution is blind to words, so no name may hold another or be held by one.
 bool MayDeclare(const VariableTable& variables, const std::wstring& name) {
@@ -28,10 +26,8 @@ bool MayDeclare(const VariableTable& variables, const std::wstring& name) {
     std::wstring overlap;
     variables.ForEach([&](const std::wstring& entry, const std::wstring&) {
         if (!overlap.empty()) return;
-        if (entry.find(name) != std::wstring::npos)
-            overlap = name + L"/" + entry;
-        else if (name.find(entry) != std::wstring::npos)
-            overlap = entry + L"/" + name;
+        if (entry.find(name) != std::wstring::npos) overlap = name + L"/" + entry;
+        else if (name.find(entry) != std::wstring::npos) overlap = entry + L"/" + name;
     });
     if (overlap.empty()) return true;
     Refuse(L"It is contained in the variable declared.\n" + overlap);
@@ -83,16 +79,11 @@ VariableName SplitVariableName(const std::wstring& name) {
     bool malformed = false;
     VariableName split;
     for (wchar_t c : name) {
-        if (c == L'[')
-            state = kIndex;
-        else if (c == L']')
-            state = kBehind;
-        else if (state == kBase)
-            split.base += c;
-        else if (state == kIndex)
-            split.index += c;
-        else
-            malformed = true;
+        if (c == L'[') state = kIndex;
+        else if (c == L']') state = kBehind;
+        else if (state == kBase) split.base += c;
+        else if (state == kIndex) split.index += c;
+        else malformed = true;
     }
     if (state == kIndex) malformed = true;
     if (malformed) return {crt::Trim(name), std::wstring()};

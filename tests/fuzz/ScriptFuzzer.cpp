@@ -1,7 +1,8 @@
 // libFuzzer target: arbitrary bytes as a script file, through the first pass, the cutting of lines
 // and every macro group, with each line also as an item path and as patterns for the matchers; then
 // the whole script is run, for a selection of two items. The fuzz build ends a run after a fixed
-// number of lines, so loops and a script including itself stop.
+// number of lines, so loops and a script including itself stop, and ends it (ScriptTextLimitReached,
+// caught here) before a line or value grows past a fixed length.
 #include <cstddef>
 #include <cstdint>
 #include <vector>
