@@ -99,6 +99,9 @@ int32_t DeclareVariable(VariableTable& variables, const std::wstring& text, plat
     // A text key, or 0, makes the one element it names.
     if (count == 0) return Enter(variables, crt::Format(L"%s[%s]", split.base, split.index), traceWindow) ? 1 : 0;
     if (count < 1) return 0;
+#ifdef OPTION_SCRIPT_VARIABLE_LIMIT
+    if (variables.size() + static_cast<size_t>(count) > OPTION_SCRIPT_VARIABLE_LIMIT) throw ScriptTextLimitReached();
+#endif
     for (int32_t i = 0; i < count; ++i)
         if (!Enter(variables, crt::Format(L"%s[%d]", split.base, i), traceWindow)) return 0;
     return count;

@@ -14,8 +14,9 @@ class VariableTable : public TextMap {};
 void ExpandVariables(const VariableTable& variables, std::wstring& text);
 
 #ifdef OPTION_SCRIPT_TEXT_LIMIT
-// Thrown, in the fuzz build only, before a line or value grows past OPTION_SCRIPT_TEXT_LIMIT units; it
-// ends the whole run, and whoever runs the script catches it.
+// Thrown, in the fuzz build only, before a line or value grows past OPTION_SCRIPT_TEXT_LIMIT units or
+// an array would take the variables past OPTION_SCRIPT_VARIABLE_LIMIT; it ends the whole run, and
+// whoever runs the script catches it.
 struct ScriptTextLimitReached {};
 
 // Throws ScriptTextLimitReached when text of this many units would be too long.
