@@ -24,6 +24,9 @@ std::wstring CompoundResult(const std::wstring& old, const std::wstring& right, 
     const wchar_t form = right[0];
     if (form == L'&') {
         const size_t amp = rawRight.find(L'&');
+#ifdef OPTION_SCRIPT_TEXT_LIMIT
+        CheckScriptTextSize(old.size() + rawRight.size() - (amp == std::wstring::npos ? 0 : amp + 1));
+#endif
         return old + rawRight.substr(amp == std::wstring::npos ? 0 : amp + 1);
     }
     const std::wstring rest = right.substr(1);

@@ -43,10 +43,31 @@ bool Enter(VariableTable& variables, const std::wstring& name, platform::WindowR
 
 }  // namespace
 
+#ifdef OPTION_SCRIPT_TEXT_LIMIT
+void CheckScriptTextSize(size_t size) {
+    if (size > OPTION_SCRIPT_TEXT_LIMIT) throw ScriptTextLimitReached();
+}
+
+namespace {
+
+// The length text would have with every name in it replaced by value, worked out before it is made.
+size_t GrownSize(const std::wstring& text, const std::wstring& name, const std::wstring& value) {
+    if (name.empty() || value.size() <= name.size()) return text.size();
+    size_t count = 0;
+    for (size_t at = 0; (at = text.find(name, at)) != std::wstring::npos; at += name.size()) ++count;
+    return text.size() + count * (value.size() - name.size());
+}
+
+}  // namespace
+#endif
+
 void ExpandVariables(const VariableTable& variables, std::wstring& text) {
     for (int round = 0; round < kMaxRounds && !variables.empty(); ++round) {
         bool replaced = false;
         variables.ForEach([&](const std::wstring& name, const std::wstring& value) {
+#ifdef OPTION_SCRIPT_TEXT_LIMIT
+            if (name != value) CheckScriptTextSize(GrownSize(text, name, value));
+#endif
             if (name != value && crt::Replace(text, name, value) > 0) replaced = true;
         });
         if (!replaced) break;
@@ -78,6 +99,9 @@ int32_t DeclareVariable(VariableTable& variables, const std::wstring& text, plat
     // A text key, or 0, makes the one element it names.
     if (count == 0) return Enter(variables, crt::Format(L"%s[%s]", split.base, split.index), traceWindow) ? 1 : 0;
     if (count < 1) return 0;
+#ifdef OPTION_SCRIPT_VARIABLE_LIMIT
+    if (variables.size() + static_cast<size_t>(count) > OPTION_SCRIPT_VARIABLE_LIMIT) throw ScriptTextLimitReached();
+#endif
     for (int32_t i = 0; i < count; ++i)
         if (!Enter(variables, crt::Format(L"%s[%d]", split.base, i), traceWindow)) return 0;
     return count;

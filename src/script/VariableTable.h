@@ -13,6 +13,16 @@ class VariableTable : public TextMap {};
 // may hold further names, so this repeats until a round changes nothing, ten rounds at most.
 void ExpandVariables(const VariableTable& variables, std::wstring& text);
 
+#ifdef OPTION_SCRIPT_TEXT_LIMIT
+// Thrown, in the fuzz build only, before a line or value grows past OPTION_SCRIPT_TEXT_LIMIT units or
+// an array would take the variables past OPTION_SCRIPT_VARIABLE_LIMIT; it ends the whole run, and
+// whoever runs the script catches it.
+struct ScriptTextLimitReached {};
+
+// Throws ScriptTextLimitReached when text of this many units would be too long.
+void CheckScriptTextSize(size_t size);
+#endif
+
 // A name cut at its brackets: "a[3]" is a and 3. A malformed name keeps all of itself as the base.
 struct VariableName {
     std::wstring base;

@@ -6,6 +6,7 @@
 #include <cmath>
 #include <limits>
 #include <string>
+#include <utility>
 
 namespace crt {
 
@@ -255,10 +256,18 @@ std::wstring MakeUpper(std::wstring_view text) {
 
 int Replace(std::wstring& text, std::wstring_view piece, std::wstring_view with) {
     if (piece.empty()) return 0;
+    // Built afresh rather than replaced in place, which moves the whole tail for every piece: a long
+    // value standing many times in a line took time in the square of its length.
+    std::wstring result;
     int count = 0;
-    for (size_t at = 0; (at = text.find(piece, at)) != std::wstring::npos; at += with.size(), ++count) {
-        text.replace(at, piece.size(), with);
+    size_t from = 0;
+    for (size_t at = 0; (at = text.find(piece, from)) != std::wstring::npos; from = at + piece.size(), ++count) {
+        result.append(text, from, at - from);
+        result.append(with);
     }
+    if (count == 0) return 0;
+    result.append(text, from);
+    text = std::move(result);
     return count;
 }
 

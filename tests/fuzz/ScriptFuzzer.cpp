@@ -1,7 +1,8 @@
 // libFuzzer target: arbitrary bytes as a script file, through the first pass, the cutting of lines
 // and every macro group, with each line also as an item path and as patterns for the matchers; then
 // the whole script is run, for a selection of two items. The fuzz build ends a run after a fixed
-// number of lines, so loops and a script including itself stop.
+// number of lines, so loops and a script including itself stop, and ends it (ScriptTextLimitReached,
+// caught here) before a line or value grows past a fixed length.
 #include <cstddef>
 #include <cstdint>
 #include <vector>
@@ -60,16 +61,24 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
     if (!frame.reader.Open(kScript) || !RunFirstPass(frame)) return 0;
 
     frame.reader.ReadPosition = 0;
-    while (frame.ReadLine()) {
-        const ScriptLine line = MakeScriptLine(frame, frame.line());
-        // The line itself is the item, so item macros see every kind of path.
-        selection.assign(1, line.statement);
-        ExpandLine(frame, line);
+    try {
+        while (frame.ReadLine()) {
+            const ScriptLine line = MakeScriptLine(frame, frame.line());
+            // The line itself is the item, so item macros see every kind of path.
+            selection.assign(1, line.statement);
+            ExpandLine(frame, line);
+        }
+    } catch (const ScriptTextLimitReached&) {
+        // A line grew too long; the run below starts afresh.
     }
 
     VariableTable shared;
     selection = {L"C:\\dir\\one.txt", L"two"};
-    runner.Run(kScript, L"C:\\dir\\", L"C:\\dir\\one.txt", selection, static_cast<uint32_t>(-1), 1, 0, 0, 1, &shared,
-               nullptr);
+    try {
+        runner.Run(kScript, L"C:\\dir\\", L"C:\\dir\\one.txt", selection, static_cast<uint32_t>(-1), 1, 0, 0, 1,
+                   &shared, nullptr);
+    } catch (const ScriptTextLimitReached&) {
+        // Ended like a run that reaches the line limit.
+    }
     return 0;
 }

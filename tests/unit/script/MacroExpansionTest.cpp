@@ -128,6 +128,12 @@ TEST_F(MacroExpansionTest, SplittingAnItemPath) {
     }
 }
 
+std::wstring Repeated(const std::wstring& piece, size_t times) {
+    std::wstring text;
+    for (size_t i = 0; i < times; ++i) text += piece;
+    return text;
+}
+
 TEST_F(MacroExpansionTest, VariablesResolveInRoundsWithALimit) {
     struct Case {
         const char* label;
@@ -139,6 +145,10 @@ TEST_F(MacroExpansionTest, VariablesResolveInRoundsWithALimit) {
         {"a name equal to its value is left", {{L"x", L"x"}}, L"x", L"x"},
         {"a circular pair stops", {{L"p", L"q"}, {L"q", L"p"}}, L"p", L"p"},
         {"a growing value stops after ten rounds", {{L"g", L"gg"}}, L"g", std::wstring(1024, L'g')},
+        {"a long value's names are each put in",
+         {{L"b", std::wstring(200000, L'a')}, {L"a", L"xy"}},
+         L"<b>",
+         L"<" + Repeated(L"xy", 200000) + L">"},
         {"no variables", {}, L"abc", L"abc"},
     };
     for (const auto& c : cases) {
