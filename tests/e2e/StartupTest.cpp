@@ -62,9 +62,6 @@ TEST(Startup, ARunThatEndsAtOnceReadsTheBlockAndHandsBackOnlyWhenAsked) {
         {"another word, reactivate 2", {L"/T", L"x"}, NamingTheBlock(0, 2, L"None"), false, false},
         {"Share, no such block", {L"/T", L"x"}, NamingTheBlock(3, 0, L"Share", 424242), false, false},
         {"switches ignore case; nine fields", {L"/t", L"x"}, L"0:1:1:2:64:0:0:0:None", false, false},
-        {"last switch counts; 11 fields", {L"/E", L"a", L"/T", L"b"}, L"0:1:1:2:64:0:0:0:None:x:y", false, false},
-        {"an empty switch string", {L"/T", L"x"}, L"", false, false},
-        {"a malformed switch string", {L"/T", L"x"}, L"1:1:2:3", false, false},
     };
     // The mark a first copy leaves; every run here must start and end as usual beside it.
     e2e::UniqueHandle otherCopy(CreateMutexW(nullptr, FALSE, L"ExCommand.Option.exe"));

@@ -1,5 +1,6 @@
 #include "FakeHostProcess.h"
 
+#include "Files.h"
 #include "OptionWindow.h"
 
 #include <gtest/gtest.h>
@@ -31,15 +32,7 @@ std::vector<std::string> AfterReady(std::vector<std::string> lines) {
 }  // namespace
 
 std::vector<std::string> ReadLogLines(const std::wstring& path) {
-    HANDLE opened = CreateFileW(path.c_str(), GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE,
-                                nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
-    if (opened == INVALID_HANDLE_VALUE) return {};
-    UniqueHandle file(opened);
-    std::string content;
-    char buffer[4096];
-    DWORD read = 0;
-    while (ReadFile(file.get(), buffer, sizeof buffer, &read, nullptr) && read > 0) content.append(buffer, read);
-
+    const std::string content = ReadFileBytes(path);
     std::vector<std::string> lines;
     size_t start = 0;
     // A line without its line end is still being written and is left for the next read.

@@ -6,7 +6,7 @@
 
 namespace e2e {
 
-// The whole file; empty when it cannot be read.
+// The whole file, even while another process writes it; empty when it cannot be read.
 std::string ReadFileBytes(const std::wstring& path);
 // Creates or replaces the file; false when it cannot be written.
 bool WriteFileBytes(const std::wstring& path, const std::string& bytes);

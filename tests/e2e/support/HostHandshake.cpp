@@ -24,8 +24,7 @@ std::wstring ShareBlockText(const std::wstring& currentDir, const std::wstring& 
     return text;
 }
 
-ShareBlock::ShareBlock(int first, int second, DWORD sizeBytes, const std::wstring& text)
-    : first_(first), second_(second), size_(sizeBytes) {
+ShareBlock::ShareBlock(int first, int second, DWORD sizeBytes, const std::wstring& text) : size_(sizeBytes) {
     std::wstring name = L"ShareMem_" + std::to_wstring(first) + L"_" + std::to_wstring(second);
     mapping_.reset(CreateFileMappingW(INVALID_HANDLE_VALUE, nullptr, PAGE_READWRITE, 0, sizeBytes, name.c_str()));
     mutex_.reset(CreateMutexW(nullptr, FALSE, (name + L"_Mutex").c_str()));
@@ -34,10 +33,6 @@ ShareBlock::ShareBlock(int first, int second, DWORD sizeBytes, const std::wstrin
     if (!view_) return;
     size_t bytes = std::min<size_t>(sizeBytes, (text.size() + 1) * sizeof(wchar_t));
     memcpy(view_.get(), text.c_str(), bytes);
-}
-
-std::wstring ShareBlock::Switch(int windowMode, int reactivate) const {
-    return SwitchString(windowMode, reactivate, first_, second_, size_);
 }
 
 std::wstring ShareBlock::Contents() const {

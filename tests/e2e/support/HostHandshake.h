@@ -30,14 +30,10 @@ public:
     ShareBlock& operator=(const ShareBlock&) = delete;
 
     bool Valid() const { return static_cast<bool>(view_); }
-    // The switch string that names this block.
-    std::wstring Switch(int windowMode = 0, int reactivate = 0) const;
     // The whole block as 16-bit units, zeros included: a reader may have changed it.
     std::wstring Contents() const;
 
 private:
-    int first_;
-    int second_;
     DWORD size_;
     UniqueHandle mapping_;
     UniqueHandle mutex_;

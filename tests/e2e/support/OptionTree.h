@@ -18,25 +18,18 @@ inline HTREEITEM NextTreeItem(HWND tree, HTREEITEM item, UINT how) {
     return reinterpret_cast<HTREEITEM>(SendMessageW(tree, TVM_GETNEXTITEM, how, reinterpret_cast<LPARAM>(item)));
 }
 
-// Every item in the order the tree shows them, parents before children; expands each on the way.
-inline std::vector<HTREEITEM> ExpandAllTreeItems(HWND tree) {
-    std::vector<HTREEITEM> roots;
-    for (HTREEITEM root = NextTreeItem(tree, nullptr, TVGN_ROOT); root; root = NextTreeItem(tree, root, TVGN_NEXT)) {
-        roots.push_back(root);
-    }
+// Every item from first on in the order the tree shows them, parents before children; expands each
+// on the way.
+inline std::vector<HTREEITEM> ExpandAllTreeItems(HWND tree, HTREEITEM first = nullptr) {
     std::vector<HTREEITEM> items;
-    std::vector<HTREEITEM> stack(roots.rbegin(), roots.rend());
-    while (!stack.empty()) {
-        HTREEITEM item = stack.back();
-        stack.pop_back();
+    for (HTREEITEM item = first ? first : NextTreeItem(tree, nullptr, TVGN_ROOT); item;
+         item = NextTreeItem(tree, item, TVGN_NEXT)) {
         items.push_back(item);
         SendMessageW(tree, TVM_EXPAND, TVE_EXPAND, reinterpret_cast<LPARAM>(item));
-        std::vector<HTREEITEM> children;
-        for (HTREEITEM child = NextTreeItem(tree, item, TVGN_CHILD); child;
-             child = NextTreeItem(tree, child, TVGN_NEXT)) {
-            children.push_back(child);
+        if (HTREEITEM child = NextTreeItem(tree, item, TVGN_CHILD)) {
+            const std::vector<HTREEITEM> below = ExpandAllTreeItems(tree, child);
+            items.insert(items.end(), below.begin(), below.end());
         }
-        stack.insert(stack.end(), children.rbegin(), children.rend());
     }
     return items;
 }

@@ -111,10 +111,6 @@ HWND FindVisibleWindow(DWORD processId, const wchar_t* title, DWORD timeoutMs, D
     return FindWindowOf(processId, titled, timeoutMs, pollMs);
 }
 
-HWND FindOptionDialog(DWORD processId, DWORD timeoutMs) {
-    return FindVisibleWindow(processId, L"オプション", timeoutMs);
-}
-
 HWND PageWith(HWND dialog, int controlId) {
     for (HWND child = FindWindowExW(dialog, nullptr, nullptr, nullptr); child;
          child = FindWindowExW(dialog, child, nullptr, nullptr)) {

@@ -13,8 +13,6 @@ namespace e2e {
 HWND FindWindowOf(DWORD processId, const std::function<bool(HWND)>& match, DWORD timeoutMs = 10000, DWORD pollMs = 50);
 // The visible top-level window titled title that the process shows.
 HWND FindVisibleWindow(DWORD processId, const wchar_t* title, DWORD timeoutMs = 10000, DWORD pollMs = 50);
-// The visible top-level dialog titled "オプション" that the process shows.
-HWND FindOptionDialog(DWORD processId, DWORD timeoutMs = 10000);
 // The page of the dialog that holds a control, found among the dialog's child windows.
 HWND PageWith(HWND dialog, int controlId);
 

@@ -5,16 +5,9 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <cwctype>
-#include <map>
 
 namespace e2e {
 namespace {
-
-std::wstring Upper(std::wstring text) {
-    std::transform(text.begin(), text.end(), text.begin(), [](wchar_t c) { return std::towupper(c); });
-    return text;
-}
 
 std::wstring StripFileName(const std::wstring& path) {
     size_t slash = path.find_last_of(L"\\/");
@@ -31,62 +24,34 @@ std::wstring WinePath(const std::string& unixPath) {
     return L"Z:" + wide;
 }
 
-// The command line CommandLineToArgvW and the C runtime split back into exactly these arguments.
+// The command line CommandLineToArgvW and the C runtime split back into these arguments, none of
+// which holds a quote or ends in a backslash.
 std::wstring QuoteArgument(const std::wstring& argument) {
-    if (!argument.empty() && argument.find_first_of(L" \t\n\v\"") == std::wstring::npos) return argument;
-    std::wstring quoted = L"\"";
-    size_t backslashes = 0;
-    for (wchar_t c : argument) {
-        if (c == L'\\') {
-            ++backslashes;
-            continue;
-        }
-        // Backslashes double only where a quote follows them.
-        quoted.append(c == L'"' ? backslashes * 2 + 1 : backslashes, L'\\');
-        backslashes = 0;
-        quoted += c;
-    }
-    quoted.append(backslashes * 2, L'\\');
-    return quoted + L"\"";
+    if (!argument.empty() && argument.find_first_of(L" \t") == std::wstring::npos) return argument;
+    return L"\"" + argument + L"\"";
 }
 
-// This process's environment with the changes applied, as a sorted CREATE_UNICODE_ENVIRONMENT block.
-std::wstring EnvironmentBlock(const EnvChanges& changes) {
-    // Keyed by the upper-case name: Windows sorts and matches variables without regard to case.
-    std::map<std::wstring, std::wstring> variables;
-    if (wchar_t* strings = GetEnvironmentStringsW()) {
-        for (const wchar_t* entry = strings; *entry; entry += wcslen(entry) + 1) {
-            std::wstring text = entry;
-            // "=C:=C:\dir" entries have their '=' after a leading one.
-            size_t equals = text.find(L'=', 1);
-            if (equals == std::wstring::npos) continue;
-            variables[Upper(text.substr(0, equals))] = text;
-        }
-        FreeEnvironmentStringsW(strings);
+// Sets variables the test process itself does not have for as long as it lives, so that a child
+// started meanwhile inherits them.
+class ScopedEnvironment {
+public:
+    explicit ScopedEnvironment(const EnvChanges& changes) : changes_(changes) {
+        for (const EnvVar& change : changes_) SetEnvironmentVariableW(change.name.c_str(), change.value.c_str());
     }
-    for (const EnvVar& change : changes) variables[Upper(change.name)] = change.name + L"=" + change.value;
-    std::wstring block;
-    for (const auto& [key, entry] : variables) {
-        block += entry;
-        block += L'\0';
+    ~ScopedEnvironment() {
+        for (const EnvVar& change : changes_) SetEnvironmentVariableW(change.name.c_str(), nullptr);
     }
-    if (block.empty()) block += L'\0';
-    block += L'\0';
-    return block;
-}
+
+private:
+    const EnvChanges& changes_;
+};
 
 }  // namespace
 
 std::wstring TestDirectory() {
-    std::wstring path(MAX_PATH, L'\0');
-    for (;;) {
-        DWORD length = GetModuleFileNameW(nullptr, path.data(), static_cast<DWORD>(path.size()));
-        if (length < path.size()) {
-            path.resize(length);
-            return StripFileName(path);
-        }
-        path.resize(path.size() * 2);
-    }
+    wchar_t path[4096] = {};
+    GetModuleFileNameW(nullptr, path, 4096);
+    return StripFileName(path);
 }
 
 std::wstring StageRoot() {
@@ -113,13 +78,13 @@ Process Process::Start(const std::wstring& program, const std::vector<std::wstri
                        std::source_location where) {
     std::wstring commandLine = QuoteArgument(program);
     for (const std::wstring& arg : args) commandLine += L" " + QuoteArgument(arg);
-    std::wstring environment = EnvironmentBlock(env);
+    ScopedEnvironment environment(env);
     STARTUPINFOW startup{};
     startup.cb = sizeof(startup);
     PROCESS_INFORMATION info{};
     Process process;
-    if (!CreateProcessW(program.c_str(), commandLine.data(), nullptr, nullptr, FALSE, CREATE_UNICODE_ENVIRONMENT,
-                        environment.data(), nullptr, &startup, &info)) {
+    if (!CreateProcessW(program.c_str(), commandLine.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &startup,
+                        &info)) {
         DWORD error = GetLastError();
         ADD_FAILURE_AT(where.file_name(), where.line())
             << "cannot start " << Utf8(commandLine) << " (error " << error << ")";

@@ -7,26 +7,42 @@
 namespace e2e::registry {
 namespace {
 
+UniqueKey Open(HKEY parent, const std::wstring& path, REGSAM access) {
+    HKEY key = nullptr;
+    if (RegOpenKeyExW(parent, path.c_str(), 0, access, &key) != ERROR_SUCCESS) key = nullptr;
+    return UniqueKey(key);
+}
+
+UniqueKey Create(HKEY parent, const std::wstring& path) {
+    HKEY key = nullptr;
+    if (RegCreateKeyExW(parent, path.c_str(), 0, nullptr, 0, KEY_ALL_ACCESS, nullptr, &key, nullptr) != ERROR_SUCCESS)
+        key = nullptr;
+    return UniqueKey(key);
+}
+
 // Stores exactly the given bytes. The system counts in a terminator the caller left out whenever one
 // happens to follow the data in memory, so a string is stored from a copy that has none behind it.
-void SetExact(HKEY key, const std::wstring& name, const Value& value) {
+void Write(HKEY key, const std::wstring& name, const Value& value) {
     std::vector<BYTE> bytes = value.data;
     bytes.insert(bytes.end(), {0xFF, 0xFF});
     RegSetValueExW(key, name.c_str(), 0, value.type, bytes.data(), static_cast<DWORD>(value.data.size()));
 }
 
-UniqueKey Open(const std::wstring& path, REGSAM access) {
-    UniqueKey key;
-    if (RegOpenKeyExW(HKEY_CURRENT_USER, path.c_str(), 0, access, key.put()) != ERROR_SUCCESS) key.release();
-    return key;
+// A buffer of exactly the stored size: with room to spare, Wine adds a terminator the value never had.
+std::optional<Value> Read(HKEY key, const std::wstring& name) {
+    Value value;
+    DWORD size = 0;
+    if (RegQueryValueExW(key, name.c_str(), nullptr, &value.type, nullptr, &size) != ERROR_SUCCESS) return std::nullopt;
+    value.data.resize(size);
+    if (RegQueryValueExW(key, name.c_str(), nullptr, &value.type, value.data.data(), &size) != ERROR_SUCCESS)
+        return std::nullopt;
+    value.data.resize(size);
+    return value;
 }
 
-UniqueKey Create(const std::wstring& path) {
-    UniqueKey key;
-    if (RegCreateKeyExW(HKEY_CURRENT_USER, path.c_str(), 0, nullptr, 0, KEY_ALL_ACCESS, nullptr, key.put(), nullptr) !=
-        ERROR_SUCCESS)
-        key.release();
-    return key;
+std::optional<Value> Read(const std::wstring& path, const std::wstring& name) {
+    UniqueKey key = Open(HKEY_CURRENT_USER, path, KEY_QUERY_VALUE);
+    return key ? Read(key.get(), name) : std::nullopt;
 }
 
 ScopedKey::Snapshot Save(HKEY key) {
@@ -36,15 +52,11 @@ ScopedKey::Snapshot Save(HKEY key) {
                      nullptr, nullptr);
     for (DWORD i = 0; i < valueCount; ++i) {
         std::wstring name(maxName + 1, L'\0');
-        DWORD nameLength = maxName + 1, type = 0, size = 0;
-        if (RegEnumValueW(key, i, name.data(), &nameLength, nullptr, &type, nullptr, &size) != ERROR_SUCCESS) continue;
-        name.resize(nameLength);
-        // A buffer of exactly the stored size: with room to spare, Wine adds a terminator the value never had.
-        Value value{type, std::vector<BYTE>(size)};
-        if (RegQueryValueExW(key, name.c_str(), nullptr, &value.type, value.data.data(), &size) != ERROR_SUCCESS)
+        DWORD nameLength = maxName + 1;
+        if (RegEnumValueW(key, i, name.data(), &nameLength, nullptr, nullptr, nullptr, nullptr) != ERROR_SUCCESS)
             continue;
-        value.data.resize(size);
-        snapshot.values.emplace_back(std::move(name), std::move(value));
+        name.resize(nameLength);
+        if (std::optional<Value> value = Read(key, name)) snapshot.values.emplace_back(std::move(name), *value);
     }
     for (DWORD i = 0; i < subkeyCount; ++i) {
         std::wstring name(maxSubkey + 1, L'\0');
@@ -52,28 +64,22 @@ ScopedKey::Snapshot Save(HKEY key) {
         if (RegEnumKeyExW(key, i, name.data(), &nameLength, nullptr, nullptr, nullptr, nullptr) != ERROR_SUCCESS)
             continue;
         name.resize(nameLength);
-        UniqueKey child;
-        if (RegOpenKeyExW(key, name.c_str(), 0, KEY_READ, child.put()) == ERROR_SUCCESS)
-            snapshot.subkeys.emplace_back(name, Save(child.get()));
+        if (UniqueKey child = Open(key, name, KEY_READ)) snapshot.subkeys.emplace_back(name, Save(child.get()));
     }
     return snapshot;
 }
 
 void Restore(HKEY key, const ScopedKey::Snapshot& snapshot) {
-    for (const auto& [name, value] : snapshot.values) SetExact(key, name, value);
-    for (const auto& [name, child] : snapshot.subkeys) {
-        UniqueKey created;
-        if (RegCreateKeyExW(key, name.c_str(), 0, nullptr, 0, KEY_ALL_ACCESS, nullptr, created.put(), nullptr) ==
-            ERROR_SUCCESS)
-            Restore(created.get(), child);
-    }
+    for (const auto& [name, value] : snapshot.values) Write(key, name, value);
+    for (const auto& [name, child] : snapshot.subkeys)
+        if (UniqueKey created = Create(key, name)) Restore(created.get(), child);
+}
+
+void Write(const std::wstring& path, const std::wstring& name, const Value& value) {
+    if (UniqueKey key = Create(HKEY_CURRENT_USER, path)) Write(key.get(), name, value);
 }
 
 }  // namespace
-
-bool KeyExists(const std::wstring& path) {
-    return static_cast<bool>(Open(path, KEY_READ));
-}
 
 void DeleteKey(const std::wstring& path) {
     RegDeleteTreeW(HKEY_CURRENT_USER, path.c_str());
@@ -81,21 +87,7 @@ void DeleteKey(const std::wstring& path) {
 }
 
 void DeleteValue(const std::wstring& path, const std::wstring& name) {
-    if (UniqueKey key = Open(path, KEY_SET_VALUE)) RegDeleteValueW(key.get(), name.c_str());
-}
-
-std::optional<Value> Read(const std::wstring& path, const std::wstring& name) {
-    UniqueKey key = Open(path, KEY_QUERY_VALUE);
-    if (!key) return std::nullopt;
-    Value value;
-    DWORD size = 0;
-    if (RegQueryValueExW(key.get(), name.c_str(), nullptr, &value.type, nullptr, &size) != ERROR_SUCCESS)
-        return std::nullopt;
-    value.data.resize(size);
-    if (RegQueryValueExW(key.get(), name.c_str(), nullptr, &value.type, value.data.data(), &size) != ERROR_SUCCESS)
-        return std::nullopt;
-    value.data.resize(size);
-    return value;
+    if (UniqueKey key = Open(HKEY_CURRENT_USER, path, KEY_SET_VALUE)) RegDeleteValueW(key.get(), name.c_str());
 }
 
 std::optional<DWORD> ReadDword(const std::wstring& path, const std::wstring& name) {
@@ -115,14 +107,9 @@ std::optional<std::wstring> ReadString(const std::wstring& path, const std::wstr
     return text;
 }
 
-void Write(const std::wstring& path, const std::wstring& name, const Value& value) {
-    if (UniqueKey key = Create(path)) SetExact(key.get(), name, value);
-}
-
 void WriteDword(const std::wstring& path, const std::wstring& name, DWORD number) {
-    Value value{REG_DWORD, std::vector<BYTE>(sizeof number)};
-    memcpy(value.data.data(), &number, sizeof number);
-    Write(path, name, value);
+    const auto* bytes = reinterpret_cast<const BYTE*>(&number);
+    Write(path, name, Value{REG_DWORD, std::vector<BYTE>(bytes, bytes + sizeof number)});
 }
 
 void WriteString(const std::wstring& path, const std::wstring& name, const std::wstring& text) {
@@ -131,13 +118,13 @@ void WriteString(const std::wstring& path, const std::wstring& name, const std::
 }
 
 ScopedKey::ScopedKey(std::wstring path) : path_(std::move(path)) {
-    if (UniqueKey key = Open(path_, KEY_READ)) saved_ = Save(key.get());
+    if (UniqueKey key = Open(HKEY_CURRENT_USER, path_, KEY_READ)) saved_ = Save(key.get());
 }
 
 ScopedKey::~ScopedKey() {
     DeleteKey(path_);
     if (!saved_) return;
-    if (UniqueKey key = Create(path_)) Restore(key.get(), *saved_);
+    if (UniqueKey key = Create(HKEY_CURRENT_USER, path_)) Restore(key.get(), *saved_);
 }
 
 }  // namespace e2e::registry

@@ -14,19 +14,16 @@ struct Value {
     std::vector<BYTE> data;
 };
 
-bool KeyExists(const std::wstring& path);
 // Removes the key with everything below it; a missing key is no error.
 void DeleteKey(const std::wstring& path);
 void DeleteValue(const std::wstring& path, const std::wstring& name);
 
-std::optional<Value> Read(const std::wstring& path, const std::wstring& name);
 // A REG_DWORD; nullopt when absent or of another type.
 std::optional<DWORD> ReadDword(const std::wstring& path, const std::wstring& name);
 // A REG_SZ or REG_EXPAND_SZ with any terminating zeros dropped (written with or without them).
 std::optional<std::wstring> ReadString(const std::wstring& path, const std::wstring& name);
 
-// Each creates the key when it is missing and stores exactly the bytes given.
-void Write(const std::wstring& path, const std::wstring& name, const Value& value);
+// Each creates the key when it is missing.
 void WriteDword(const std::wstring& path, const std::wstring& name, DWORD value);
 void WriteString(const std::wstring& path, const std::wstring& name, const std::wstring& value);
 
@@ -38,8 +35,6 @@ public:
     ScopedKey(const ScopedKey&) = delete;
     ScopedKey& operator=(const ScopedKey&) = delete;
     ~ScopedKey();
-
-    const std::wstring& Path() const { return path_; }
 
     struct Snapshot {
         std::vector<std::pair<std::wstring, Value>> values;
