@@ -5,24 +5,7 @@
 #include "services/LongPath.h"
 #include "services/PathHelpers.h"
 
-namespace {
-
-bool Wanted(ItemKind kind, uint32_t attributes) {
-    const bool directory = (attributes & platform::kAttributeDirectory) != 0;
-    switch (kind) {
-        case ItemKind::Directories:
-            return directory;
-        case ItemKind::Files:
-            return !directory;
-        case ItemKind::All:
-            break;
-    }
-    return true;
-}
-
-}  // namespace
-
-size_t ListDirectoryItems(const std::wstring& pattern, ItemKind kind, SelectionList& list) {
+size_t ListDirectoryItems(const std::wstring& pattern, SelectionList& list) {
     const size_t lastBackslash = pattern.rfind(L'\\');
     const std::wstring prefix =
         lastBackslash == std::wstring::npos ? std::wstring() : pattern.substr(0, lastBackslash + 1);
@@ -34,8 +17,7 @@ size_t ListDirectoryItems(const std::wstring& pattern, ItemKind kind, SelectionL
     if (found.empty()) return 0;
     // The limit counts what the list held before, and is looked at once an entry has had its turn.
     for (const platform::FindData& entry : found) {
-        if (entry.name != L"." && entry.name != L".." && Wanted(kind, entry.attributes))
-            list.push_back(prefix + entry.name);
+        if (entry.name != L"." && entry.name != L"..") list.push_back(prefix + entry.name);
         if (list.size() >= kListedItemsLimit) break;
     }
     return list.size();

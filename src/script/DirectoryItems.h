@@ -6,8 +6,6 @@
 
 #include "script/SelectionList.h"
 
-enum class ItemKind { All = 0, Directories = 1, Files = 2 };
-
 // Most entries a listing brings the list up to: it stops once the list holds this many.
 constexpr size_t kListedItemsLimit = 1001;
 
@@ -16,4 +14,4 @@ constexpr size_t kListedItemsLimit = 1001;
 // entries still go behind that prefix: "C:\Pics" gives "C:\a.jpg" for "C:\Pics\a.jpg", and
 // scripts write "C:\Pics\". The result is the count of the list, or 0 when the listing found
 // nothing at all.
-size_t ListDirectoryItems(const std::wstring& pattern, ItemKind kind, SelectionList& list);
+size_t ListDirectoryItems(const std::wstring& pattern, SelectionList& list);

@@ -21,7 +21,7 @@ FunctionResult Flag(bool value) {
 // One of the pattern's entries, picked anew on every call; an empty listing makes the variable empty.
 FunctionResult RandomItem(ScriptFrame&, const std::wstring& arguments) {
     SelectionList items;
-    if (ListDirectoryItems(arguments, ItemKind::All, items) == 0 || items.empty()) {
+    if (ListDirectoryItems(arguments, items) == 0 || items.empty()) {
         FunctionResult empty;
         empty.untraced = true;
         return empty;

@@ -21,7 +21,7 @@ LineOutcome RunAppendCsvSelectItem(ScriptFrame& frame, const ScriptLine& line) {
 }
 
 LineOutcome RunGetSelectItems(ScriptFrame& frame, const ScriptLine& line) {
-    ListDirectoryItems(CommandValue(frame, line, ValueForm::Expanded), ItemKind::All, *frame.arguments.selection);
+    ListDirectoryItems(CommandValue(frame, line, ValueForm::Expanded), *frame.arguments.selection);
     return LineOutcome::Next;
 }
 

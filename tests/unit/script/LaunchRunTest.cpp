@@ -32,14 +32,10 @@ TEST_F(LaunchRunTest, ArgumentTextsDecideHowManyStarts) {
     };
     // clang-format off
     const Case cases[] = {
-        {"one start per item", kThreeItems, L"/v ?SelFile?", false, 0,
-         {L"/v \"C:\\Data\\a.txt\"", L"/v \"C:\\Data\\b b.txt\"", L"/v \"C:\\Data\\c.log\""}},
         {"one start for all, a blank behind each", kThreeItems, L"/v ?SelFile?", true, 0,
          {L"/v \"C:\\Data\\a.txt\" \"C:\\Data\\b b.txt\" \"C:\\Data\\c.log\" "}},
         {"joined names", kThreeItems, L"?name?|?Ext?", true, 0, {L"\"a\" \"b b\" \"c\" |.txt .txt .log "}},
-        {"no item macro: one start", kThreeItems, L"/new", false, 0, {L"/new"}},
         {"no items: the macros go", {}, L"/v ?SelFile? ?ext?", false, 0, {L"/v  "}},
-        {"no arguments: one start", kThreeItems, L"", false, 0, {L""}},
         {"Shift held: no arguments, one start", kThreeItems, L"/v ?SelFile?", false, 1, {L""}},
         {"Shift held but no silence asked", kThreeItems, L"/v", false, 2, {L"/v"}},
         {"a line feed alone starts nothing", kThreeItems, L"\n", false, 0, {}},
@@ -114,30 +110,22 @@ TEST_F(LaunchRunTest, ExRunEntriesTakeTheItemsTheirFilterAndArgumentsAllow) {
     struct Case {
         const char* what;
         std::wstring program, item, arguments, filter;
-        std::vector<int> choices;  // scripted answers of the task dialog
         bool dealt;
         std::wstring started;  // the program started, empty for none
     };
     // clang-format off
     const Case cases[] = {
-        {"started for its item", L"edit.exe", L"C:\\D\\a.txt", L"?SelFile?", L"", {}, true, L"edit.exe"},
-        {"no argument text", L"edit.exe", L"C:\\D\\a.txt", L"", L"", {}, false, L""},
-        {"arguments without an item macro", L"edit.exe", L"C:\\D\\a.txt", L"/x", L"", {}, false, L""},
-        {"a line feed as arguments", L"edit.exe", L"C:\\D\\a.txt", L"\n", L"", {}, false, L""},
-        {"filter in another case", L"edit.exe", L"C:\\D\\A.TXT", L"?SelFile?", L"txt", {}, true, L"edit.exe"},
-        {"filter and no extension", L"edit.exe", L"C:\\D\\README", L"?SelFile?", L"txt", {}, false, L""},
-        {"the second alternative chosen", L"one.exe | two.exe", L"C:\\D\\a.txt", L"?SelFile?", L"", {1}, true,
-         L"two.exe"},
-        {"the choice cancelled", L"one.exe|two.exe", L"C:\\D\\a.txt", L"?SelFile?", L"", {}, true, L""},
-        {"one alternative is the program as written", L" one.exe |", L"C:\\D\\a.txt", L"?SelFile?", L"", {}, true,
+        {"no argument text", L"edit.exe", L"C:\\D\\a.txt", L"", L"", false, L""},
+        {"a line feed as arguments", L"edit.exe", L"C:\\D\\a.txt", L"\n", L"", false, L""},
+        {"filter in another case", L"edit.exe", L"C:\\D\\A.TXT", L"?SelFile?", L"txt", true, L"edit.exe"},
+        {"filter and no extension", L"edit.exe", L"C:\\D\\README", L"?SelFile?", L"txt", false, L""},
+        {"one alternative is the program as written", L" one.exe |", L"C:\\D\\a.txt", L"?SelFile?", L"", true,
          L" one.exe |"},
-        {"the host's preview bar", L"PreviewBar", L"C:\\D\\a.txt", L"?SelFile?", L"", {}, false, L""},
     };
     // clang-format on
     for (const Case& c : cases) {
         SCOPED_TRACE(c.what);
         platform::fake::FakePlatform fresh;
-        for (int choice : c.choices) fresh.prompts().Choose(choice);
         EXPECT_EQ(c.dealt, LaunchExRunEntry(c.program, c.item, kWorkDir, c.arguments, c.filter, {.waitTime = 50}));
         const auto& requests = fresh.processes().shellRequests();
         if (c.started.empty()) {

@@ -16,6 +16,14 @@ protected:
 TEST_F(MacroExpansionTest, EachGroupInItsOrder) {
     fake.environment().SetVariable(L"TEMP", L"C:\\Temp");
     variables.Set(L"TARGET", L"?SelFile?");
+    // An item path of 260 characters or more takes its short form where it has one.
+    const std::wstring directory = L"C:\\" + std::wstring(130, L'd'), name = std::wstring(122, L'f') + L".txt";
+    const std::wstring longPath = directory + L"\\" + name,
+                       other = directory + L"\\" + std::wstring(122, L'g') + L".txt";
+    fake.files().AddFile(longPath, std::string_view("x"));
+    fake.files().AddFile(other, std::string_view("x"));
+    fake.files().SetShortName(directory, L"DDDDDD~1");
+    fake.files().SetShortName(longPath, L"FFFFFF~1.TXT");
     variables.Set(L"WHERE", L"%Script_dir%");
     struct Case {
         const char* label;
@@ -49,6 +57,12 @@ TEST_F(MacroExpansionTest, EachGroupInItsOrder) {
         {"only a point", L"C:\\d\\.txt", L"", L"", L"[?Name?][?Ext?]", L"[][.txt]"},
         {"no directory", L"file.txt", L"", L"", L"[?SelPath?][?SelParent?][?selpath?]", L"[][][\"\"]"},
         {"an item holding a later macro is expanded again", L"C:\\?Name?\\x.y", L"", L"", L"?selfile?", L"C:\\x\\x.y"},
+        {"a long path's short form, its name as it is", longPath, L"", L"", L"?SelFile??selfile?|?FileName?",
+         L"\"C:\\DDDDDD~1\\FFFFFF~1.TXT\"C:\\DDDDDD~1\\FFFFFF~1.TXT|" + name},
+        {"a long path without a short name of its own", other, L"", L"", L"?selfile?",
+         L"C:\\DDDDDD~1\\" + std::wstring(122, L'g') + L".txt"},
+        {"a long path that is missing stays", longPath + L"h", L"", L"", L"?selfile?", longPath + L"h"},
+        {"below 260 characters a path stays", directory, L"", L"", L"?selfile?", directory},
         {"item names compare with case", L"C:\\a.txt", L"", L"", L"?SELFILE? ?fileName?", L"?SELFILE? ?fileName?"},
         {"a variable's value is expanded", L"C:\\one.txt", L"", L"", L"TARGET", L"\"C:\\one.txt\""},
         {"variables come before directories", L"", L"", L"", L"WHEREx.txt", script + L"x.txt"},
@@ -75,52 +89,16 @@ TEST_F(MacroExpansionTest, EachGroupInItsOrder) {
     EXPECT_EQ(L"2024-03-06 00-07-09 Wednesday", text) << "local time across midnight";
 }
 
-TEST_F(MacroExpansionTest, LongItemPathsTakeTheirShortForm) {
-    const std::wstring directory = L"C:\\" + std::wstring(130, L'd');
-    const std::wstring withShort = directory + L"\\" + std::wstring(122, L'f') + L".txt";  // 260 characters
-    const std::wstring withoutShort = directory + L"\\" + std::wstring(122, L'g') + L".txt";
-    const std::wstring missing = directory + L"\\" + std::wstring(122, L'h') + L".txt";
-    fake.files().AddFile(withShort, std::string_view("x"));
-    fake.files().AddFile(withoutShort, std::string_view("x"));
-    fake.files().SetShortName(directory, L"DDDDDD~1");
-    fake.files().SetShortName(withShort, L"FFFFFF~1.TXT");
-    ASSERT_EQ(260u, withShort.size());
-    struct Case {
-        const std::wstring& item;
-        std::wstring expected;
-    };
-    const Case cases[] = {
-        {withShort, L"C:\\DDDDDD~1\\FFFFFF~1.TXT"},
-        {withoutShort, L"C:\\DDDDDD~1\\" + std::wstring(122, L'g') + L".txt"},
-        {missing, missing},
-    };
-    for (const auto& c : cases) {
-        std::wstring text = L"?SelFile??selfile?";
-        ExpandItemMacros(c.item, text);
-        EXPECT_EQ(L"\"" + c.expected + L"\"" + c.expected, text);
-    }
-    std::wstring name = L"?FileName?";
-    ExpandItemMacros(withShort, name);
-    EXPECT_EQ(std::wstring(122, L'f') + L".txt", name) << "only the path itself is shortened";
-    std::wstring shorter = L"?selfile?";
-    ExpandItemMacros(directory, shorter);
-    EXPECT_EQ(directory, shorter) << "below 260 characters the path stays";
-}
-
 // Drive, directory, name and extension, as the place and item macros show them.
 TEST_F(MacroExpansionTest, SplittingAnItemPath) {
+    // clang-format off
     const std::pair<std::wstring, std::wstring> cases[] = {
-        {L"", L"|||"},
-        {L"C:\\x\\y.z", L"C:|\\x\\|y|.z"},
-        {L"C:\\y", L"C:|\\|y|"},
-        {L"file.tar.gz", L"||file.tar|.gz"},
-        {L"\\\\server\\share\\f.x", L"|\\\\server\\share\\|f|.x"},
-        {L"a\\b", L"a\\||b|"},
-        {L"ab\\cd\\e", L"ab|\\cd\\|e|"},
-        {L"1\\b", L"|1\\|b|"},
-        {L"C:/x/y.z", L"||C:/x/y|.z"},
-        {L"C:\\dir.d\\", L"C:|\\dir.d\\||"},
+        {L"", L"|||"},                          {L"C:\\x\\y.z", L"C:|\\x\\|y|.z"},     {L"C:\\y", L"C:|\\|y|"},
+        {L"file.tar.gz", L"||file.tar|.gz"},    {L"\\\\server\\share\\f.x", L"|\\\\server\\share\\|f|.x"},
+        {L"a\\b", L"a\\||b|"},                  {L"ab\\cd\\e", L"ab|\\cd\\|e|"},        {L"1\\b", L"|1\\|b|"},
+        {L"C:/x/y.z", L"||C:/x/y|.z"},          {L"C:\\dir.d\\", L"C:|\\dir.d\\||"},
     };
+    // clang-format on
     for (const auto& [path, expected] : cases) {
         const PathParts parts = SplitItemPath(path);
         EXPECT_EQ(expected, parts.drive + L"|" + parts.directory + L"|" + parts.name + L"|" + parts.extension)

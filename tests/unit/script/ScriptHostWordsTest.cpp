@@ -5,8 +5,6 @@
 #include <string>
 #include <vector>
 
-#include "script/ScriptLine.h"
-#include "script/ScriptMainLoop.h"
 #include "unit/script/ScriptFixture.h"
 
 namespace platform::fake {
@@ -69,15 +67,6 @@ protected:
         EXPECT_EQ(c.heard, Heard(messages, copies)) << c.label;
         EXPECT_EQ(c.messages, Messages()) << c.label;
     }
-
-    // How a line alone leaves the main loop.
-    LineOutcome OutcomeOf(const std::wstring& text) {
-        ScriptArguments arguments;
-        arguments.selection = &selection;
-        arguments.variables = &variables;
-        ScriptFrame frame(runner, arguments);
-        return RunLine(frame, MakeScriptLine(frame, text));
-    }
 };
 
 TEST_F(ScriptHostWordsTest, WhatTheHostHears) {
@@ -127,6 +116,11 @@ TEST_F(ScriptHostWordsTest, WhatTheHostHears) {
          {SyntaxError(L"folderjump = 1,")}},
         {"favoritejump above 9 ends the run", {L"favoritejump = 10, C:\\Data", L"select = after"}, {},
          {SyntaxError(L"favoritejump = 10, C:\\Data")}},
+        {"a favorite without a path too", {L"favoritejump = 2,", L"select = after"}, {},
+         {SyntaxError(L"favoritejump = 2,")}},
+        {"a file jump without a comma too", {L"filejump = 1", L"select = after"}, {}, {SyntaxError(L"filejump = 1")}},
+        {"ubjump below 1 too", {L"ubjump = 0, x", L"select = after"}, {}, {SyntaxError(L"ubjump = 0, x")}},
+        {"ubjump above 10 too", {L"ubjump = 11, x", L"select = after"}, {}, {SyntaxError(L"ubjump = 11, x")}},
         {"a command wins over a variable of its name", {L"var select", L"select = 5"}, {L"copy 800 5"}, {}},
     };
     // clang-format on
@@ -147,20 +141,6 @@ TEST_F(ScriptHostWordsTest, WithoutAHostNothingIsSentAndOnlyBadValuesAreReported
     };
     // clang-format on
     for (const HostCase& c : cases) Check(c);
-}
-
-// The jumps that fail end the run with the launches of its end still to come; No to a yes-no box
-// ends it at once; the other failures go on.
-TEST_F(ScriptHostWordsTest, HowAFailedLineEndsTheRun) {
-    fake.windows().AddHostWindow(kHost);
-    auto expect = [this](LineOutcome outcome, std::initializer_list<const wchar_t*> lines) {
-        for (const wchar_t* line : lines) EXPECT_EQ(outcome, OutcomeOf(line)) << testing::PrintToString(line);
-    };
-    expect(LineOutcome::EndOfScript, {L"folderjump = 0,", L"filejump = 1", L"favoritejump = 10, C:\\a",
-                                      L"favoritejump = 2,", L"ubjump = 0, x", L"ubjump = 11, x"});
-    expect(LineOutcome::Next, {L"folderjump = 4, C:\\a", L"filejump = -1, C:\\a", L"postmessage =", L"postmessage = 0",
-                               L"postmessagetab = 1", L"ubjump = 10, x"});
-    expect(LineOutcome::Exit, {L"messageboxyn = Stop?"});
 }
 
 TEST_F(ScriptHostWordsTest, MessageBoxes) {

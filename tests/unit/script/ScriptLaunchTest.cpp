@@ -10,26 +10,44 @@
 
 namespace {
 
+constexpr platform::WindowRef kHost = 0x4711;
+
 class ScriptLaunchTest : public ScriptFixture {
 protected:
     ScriptLaunchTest() {
         nowDirectory = L"C:\\Now";
         fake.files().AddFile(L"C:\\T\\view.exe", std::string_view());
+        fake.files().AddDirectory(L"C:\\Data");
+        fake.files().AddShellFolder(L"::{FOLDER}");
+        fake.windows().AddHostWindow(kHost);
     }
 
-    // Each start through the shell as "program parameters @ directory".
-    std::vector<std::wstring> Starts() {
+    // Each start through the shell as "program parameters @ directory", from the given one on.
+    std::vector<std::wstring> Starts(size_t from = 0) {
         std::vector<std::wstring> started;
-        for (const auto& request : fake.processes().shellRequests())
-            started.push_back(request.file + L" " + request.parameters + L" @ " + request.directory);
+        const auto& requests = fake.processes().shellRequests();
+        for (size_t i = from; i < requests.size(); ++i)
+            started.push_back(requests[i].file +
+                              (requests[i].parameters.empty() ? L"" : L" " + requests[i].parameters) + L" @ " +
+                              requests[i].directory);
         return started;
     }
 
+    // What a script starts: folders handed to the host as "host <code> <folder>", then the shell's
+    // starts, then the programs started with the items dropped on them as "drop <command line>".
     std::vector<std::wstring> RunFor(const std::vector<std::wstring>& lines) {
-        const size_t before = fake.processes().shellRequests().size();
+        const size_t copies = fake.windows().copies().size(), requests = fake.processes().shellRequests().size();
+        const size_t drops = fake.processes().starts().size();
         RunLines(lines);
-        std::vector<std::wstring> started = Starts();
-        started.erase(started.begin(), started.begin() + static_cast<std::ptrdiff_t>(before));
+        std::vector<std::wstring> started;
+        for (size_t i = copies; i < fake.windows().copies().size(); ++i) {
+            const auto& copy = fake.windows().copies()[i];
+            EXPECT_EQ(kHost, copy.window);
+            started.push_back(L"host " + std::to_wstring(copy.code) + L" " + copy.text);
+        }
+        for (const std::wstring& start : Starts(requests)) started.push_back(start);
+        for (size_t i = drops; i < fake.processes().starts().size(); ++i)
+            started.push_back(L"drop " + fake.processes().starts()[i].commandLine);
         return started;
     }
 };
@@ -96,6 +114,21 @@ TEST_F(ScriptLaunchTest, WhatStartsAndWhen) {
           L"o.exe \"C:\\Data\\c.TXT\" @ C:\\Now"}},
         {"a list that shrank under an included script's entries ends the parent too",
          {include + L"shrink.txt", L"openmode = 1", L"run = p.exe"}, {L"v.exe \"C:\\Data\\b.jpg\" @ C:\\Now"}},
+        {"a directory goes to the host, and so does every later target, as its folder",
+         {L"run = C:\\Data", L"run = C:\\T\\view.exe"}, {L"host 200 C:\\Data", L"host 200 C:\\T"}},
+        {"a path that cannot be looked at counts as a directory", {L"run =  C:\\Gone "}, {L"host 200 C:\\Gone"}},
+        {"nothing to run decides nothing", {L"run =   ", L"run = ::{FOLDER}"}, {L"host 200 ::{FOLDER}"}},
+        {"a name-space item that is no folder starts", {L"run = ::{ITEM}"}, {L"::{ITEM} @ C:\\Now"}},
+        {"openmode 2 hands the host a file's folder", {L"openmode = 2", L"run = C:\\T\\view.exe"},
+         {L"host 100 C:\\T"}},
+        {"openmode 5 ignores the targets", {L"openmode = 5", L"run = C:\\T\\view.exe"}, {}},
+        {"bootdir 1 and a trailing separator: the parent", {L"openmode = 1", L"bootdir = 1", L"run = C:\\T\\App\\"},
+         {L"C:\\T\\App\\ @ C:\\T\\"}},
+        {"run does not see variables, shell does",
+         {L"var $tool = C:\\T\\view.exe", L"openmode = 1", L"run = $tool", L"shell = $tool"},
+         {L"$tool @ C:\\Now", L"C:\\T\\view.exe @ C:\\Now"}},
+        {"sendinfomode drops the items on the program", {L"sendinfomode = 1", L"run = C:\\T\\view.exe"},
+         {L"drop C:\\T\\view.exe"}},
         {"without entries a shrunk list ends nothing",
          {L"removeselectitems", L"openmode = 1", L"commandlineoption = /x", L"run = p.exe"}, {L"p.exe /x @ C:\\Now"}},
     };

@@ -110,21 +110,19 @@ TEST_F(ScriptRunnerTest, OptionLinesWriteTheSharedTable) {
         const wchar_t* key;
         const wchar_t* kept;
     };
+    // clang-format off
     const Case cases[] = {
-        {L"Timeout = 5000ms", L"timeout", L"5000"},
-        {L"timeout = v", L"timeout", L"42"},
-        {L"showwindow =", L"showwindow", L"0"},
-        {L"multicommandmode = 2", L"multicommandmode", L"0"},
-        {L"shiftsilentmode = 01", L"shiftsilentmode", L"1"},
-        {L"checkgrammar =", L"checkgrammar", L"0"},
+        {L"Timeout = 5000ms", L"timeout", L"5000"},                {L"timeout = v", L"timeout", L"42"},
+        {L"showwindow =", L"showwindow", L"0"},                    {L"multicommandmode = 2", L"multicommandmode", L"0"},
+        {L"shiftsilentmode = 01", L"shiftsilentmode", L"1"},       {L"checkgrammar =", L"checkgrammar", L"0"},
         {L"checkgrammar = 1", L"checkgrammar", L"1"},
         {L"checkgrammar = edit ?ErrorLine? v", L"checkgrammar", L"edit ?ErrorLine? 42"},
         {L"bootdir =  %Script_dir%v ", L"bootdir", L"C:\\Users\\tester\\AppData\\Local\\Qor\\Script\\42"},
-        {L"filter = txt,v", L"filter", L"txt,42"},
+        {L"filter = txt,v", L"filter", L"txt,42"},                 {L"openmode = 3", L"openmode", L"3"},
         {L"commandlineoption = -v ?SelFile?", L"commandlineoption", L"-42 ?SelFile?"},
-        {L"openmode = 3", L"openmode", L"3"},
         {L"icon = C:\\a.ico", L"icon", nullptr},
     };
+    // clang-format on
     for (const Case& c : cases) {
         VariableTable shared;
         shared.Set(L"v", L"42");

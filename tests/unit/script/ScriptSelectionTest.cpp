@@ -15,6 +15,7 @@ protected:
         fake.files().AddFile(L"C:\\Pics\\a.jpg", std::string_view("a"));
         fake.files().AddFile(L"C:\\Pics\\b.png", std::string_view("b"));
         fake.files().AddDirectory(L"C:\\Pics\\Old");
+        fake.files().ChangeDirectory(L"C:\\Pics");
     }
 };
 
@@ -39,6 +40,9 @@ TEST_F(ScriptSelectionTest, CommandsChangeTheList) {
          {L"C:\\a.jpg", L"C:\\b.png", L"C:\\Old"}, {}},
         {"a pattern's entries", {L"k"}, {L"getselectitems = C:\\Pics\\*.png"}, {L"k", L"C:\\Pics\\b.png"}, {}},
         {"a missing directory adds none", {}, {L"getselectitems = C:\\Nowhere"}, {}, {}},
+        {"an empty pattern lists the current directory", {}, {L"getselectitems ="}, {L"a.jpg", L"b.png", L"Old"}, {}},
+        {"with forward slashes the separator added is no backslash", {}, {L"getselectitems = C:/Pics",
+         L"getselectitems = C:/Pics/*.*"}, {L"a.jpg", L"b.png"}, {}},
         {"matching items dropped, order kept", {L"C:\\a.jpg", L"C:\\b.txt", L"C:\\c.JPG", L"C:\\d.doc"},
          {L"removeselectitems = *.jpg;*.doc"}, {L"C:\\b.txt"}, {}},
         {"\"!\" keeps the matching ones", {L"C:\\a.jpg", L"C:\\b.txt", L"C:\\c.jpg"}, {L"removeselectitems = ! *.jpg"},
@@ -69,40 +73,16 @@ TEST_F(ScriptSelectionTest, LoopSeesTheListAsItIsAndTheCountStays) {
            {{L"seen", L"\"a\"\"b\""}, {L"count", L"1"}}});
 }
 
-TEST_F(ScriptSelectionTest, ListingTakesItsPrefixKindAndLimitFromThePattern) {
+// A listing stops once the list holds 1001 items, looked at behind each entry, so that a full list
+// still takes one more; the shell of old systems is searched in the plain style.
+TEST_F(ScriptSelectionTest, ListingStopsAtItsLimit) {
     for (int i = 0; i < 1100; ++i) fake.files().AddFile(L"C:\\Many\\f" + std::to_wstring(i), std::string_view());
-    SelectionList list{L"before"};
-    EXPECT_EQ(kListedItemsLimit, ListDirectoryItems(L"C:\\Many\\", ItemKind::All, list));
-    EXPECT_EQ(L"C:\\Many\\f0", list[1]);
-    // A list already full still takes the first entry: the limit is looked at behind each one.
-    EXPECT_EQ(kListedItemsLimit + 1, ListDirectoryItems(L"C:\\Pics\\*.png", ItemKind::All, list));
-    EXPECT_EQ(L"C:\\Pics\\b.png", list.back());
-
-    // An empty pattern lists the current directory, not the root of its drive.
-    fake.files().ChangeDirectory(L"C:\\Pics");
-    list.clear();
-    EXPECT_EQ(3u, ListDirectoryItems(L"", ItemKind::All, list));
-    EXPECT_EQ(L"a.jpg", list[0]);
-
-    list.clear();
-    EXPECT_EQ(1u, ListDirectoryItems(L"C:\\Pics\\", ItemKind::Directories, list));
-    EXPECT_EQ(SelectionList{L"C:\\Pics\\Old"}, list);
-    list.clear();
-    EXPECT_EQ(2u, ListDirectoryItems(L"C:\\Pics\\*", ItemKind::Files, list));
-
-    // Nothing found gives 0 whatever the list held; entries of the other kind still count as found.
-    list = {L"kept"};
-    EXPECT_EQ(0u, ListDirectoryItems(L"C:\\Pics\\*.gif", ItemKind::All, list));
-    EXPECT_EQ(1u, ListDirectoryItems(L"C:\\Pics\\*.png", ItemKind::Directories, list));
-
-    // With a forward slash the separator added is U+008B, so the directory itself is not listed.
-    list.clear();
-    EXPECT_EQ(0u, ListDirectoryItems(L"C:/Pics", ItemKind::All, list));
-    EXPECT_EQ(2u, ListDirectoryItems(L"C:/Pics/*.*", ItemKind::All, list));
-    EXPECT_EQ(L"a.jpg", list[0]) << "no backslash, no prefix";
-
     fake.files().SetShellVersion(600);
-    EXPECT_EQ(2u, ListDirectoryItems(L"C:\\Pics\\*.*", ItemKind::Files, list = {}));
+    selection = {L"before"};
+    RunLines({L"getselectitems = C:\\Many\\", L"getselectitems = C:\\Pics\\*.png"});
+    ASSERT_EQ(kListedItemsLimit + 1, selection.size());
+    EXPECT_EQ(L"C:\\Many\\f0", selection[1]);
+    EXPECT_EQ(L"C:\\Pics\\b.png", selection.back());
     EXPECT_EQ(platform::FindStyle::Plain, fake.files().lastFindStyle());
 }
 
