@@ -25,42 +25,14 @@ std::wstring TempPath(const wchar_t* name) {
     return std::wstring(temp) + name;
 }
 
-// The user's "Script\Editor.txt", which "/A" runs, replaced for a test and put back after it.
-class EditorScript {
-public:
-    // text without its byte order mark, lines ended by CR LF.
-    explicit EditorScript(const std::wstring& text) : saved_(e2e::ReadFileBytes(Path())) {
-        CreateDirectoryW(Folder().c_str(), nullptr);
-        e2e::WriteUtf16File(Path(), L"\uFEFF" + text);
-    }
-    ~EditorScript() {
-        if (saved_.empty())
-            DeleteFileW(Path().c_str());
-        else
-            e2e::WriteFileBytes(Path(), saved_);
-    }
-
-private:
-    static std::wstring Folder() {
-        wchar_t value[MAX_PATH] = {};
-        GetEnvironmentVariableW(L"LOCALAPPDATA", value, MAX_PATH);
-        return std::wstring(value) + L"\\Qor\\Script";
-    }
-    static std::wstring Path() { return Folder() + L"\\Editor.txt"; }
-
-    std::string saved_;
-};
-
-// The file the editor script is run for, a plain text file with a blank in its name.
-class SelectedFile {
-public:
-    SelectedFile() : path_(TempPath(L"option notes.txt")) { e2e::WriteFileBytes(path_, "plain text\r\n"); }
-    ~SelectedFile() { DeleteFileW(path_.c_str()); }
-    const std::wstring& path() const { return path_; }
-
-private:
-    std::wstring path_;
-};
+// The user's "Script\Editor.txt", which "/A" runs.
+std::wstring EditorScriptPath() {
+    wchar_t value[MAX_PATH] = {};
+    GetEnvironmentVariableW(L"LOCALAPPDATA", value, MAX_PATH);
+    const std::wstring folder = std::wstring(value) + L"\\Qor\\Script";
+    CreateDirectoryW(folder.c_str(), nullptr);
+    return folder + L"\\Editor.txt";
+}
 
 // Reads until done accepts what was read, or five seconds have passed; gives what was read last.
 template <typename Read, typename Done>
@@ -101,20 +73,23 @@ std::vector<int> Buttons(HWND box) {
 TEST(EditorScript, TheScriptStartsTheEditorSteersTheHostAndStopsAtABadLine) {
     e2e::FakeHost host({.hidden = true});
     ASSERT_TRUE(host.Window());
-    SelectedFile file;
-    const std::wstring log = TempPath(L"option-editor-script.log");
-    DeleteFileW(log.c_str());
-    EditorScript script(
-        L"commandlineoption = --log \"" + log + L"\" ?SelFile?\r\nrun = " + e2e::TestDirectory() +
-        L"\\DropTarget.exe\r\n"
-        L"sendmessage = 40002\r\nsendmessageall = 8,9\r\nselect = C:\\a b.txt\r\nfolderjump = 2, C:\\Data\r\n"
-        L"filejump = 0, C:\\Data\\.\\x.txt\r\nfavoritejump = 0, C:\\Data\\..\\Tools\r\nubjump = 10, x\r\n"
-        L"system_command = 3000, hi\r\nfullstateopen = ?Date?\r\n"
-        L"var id = 40001\r\npostmessage = id, 7\r\npostmessage1 = 3,4\r\npostmessage2 = 5\r\n"
-        L"postwait = 6\r\npostmessagebar = 7\r\npostmessageall = -1,-2\r\n"
-        L"messageboxyn = Go on?\r\nvar button\r\nbutton = messagebox, 0x21, Pick one\r\n"
-        L"messageboxok = Got button\r\nubjump = 11, x\r\npostmessage = 40009\r\nmessageboxok = never shown\r\n");
-    e2e::Process option = e2e::StartOption({L"/A", file.path()});
+    // The file the script is run for: a plain text file with a blank in its name.
+    e2e::ScopedFile file(TempPath(L"option notes.txt"));
+    e2e::WriteFileBytes(file.Path(), "plain text\r\n");
+    const e2e::ScopedFile log(TempPath(L"option-editor-script.log"));
+    const e2e::ScopedFile script(EditorScriptPath());
+    e2e::WriteUtf16File(
+        script.Path(),
+        L"\uFEFFcommandlineoption = --log \"" + log.Path() + L"\" ?SelFile?\r\nrun = " + e2e::TestDirectory() +
+            L"\\DropTarget.exe\r\n"
+            L"sendmessage = 40002\r\nsendmessageall = 8,9\r\nselect = C:\\a b.txt\r\nfolderjump = 2, C:\\Data\r\n"
+            L"filejump = 0, C:\\Data\\.\\x.txt\r\nfavoritejump = 0, C:\\Data\\..\\Tools\r\nubjump = 10, x\r\n"
+            L"system_command = 3000, hi\r\nfullstateopen = ?Date?\r\n"
+            L"var id = 40001\r\npostmessage = id, 7\r\npostmessage1 = 3,4\r\npostmessage2 = 5\r\n"
+            L"postwait = 6\r\npostmessagebar = 7\r\npostmessageall = -1,-2\r\n"
+            L"messageboxyn = Go on?\r\nvar button\r\nbutton = messagebox, 0x21, Pick one\r\n"
+            L"messageboxok = Got button\r\nubjump = 11, x\r\npostmessage = 40009\r\nmessageboxok = never shown\r\n");
+    e2e::Process option = e2e::StartOption({L"/A", file.Path()});
     ASSERT_TRUE(option);
     EXPECT_THAT(TakeLinesUntil(host, "message 32776 18446744073709551615 -2"),
                 ElementsAre("command 40002", "message 32776 8 9", "copydata 800 C:\\a b.txt", "copydata 300 C:\\Data",
@@ -123,16 +98,18 @@ TEST(EditorScript, TheScriptStartsTheEditorSteersTheHostAndStopsAtABadLine) {
                             "message 32778 5 0", "message 32779 6 0", "message 32780 7 0",
                             "message 32776 18446744073709551615 -2"));
 
+    // The script's boxes are the host's, captioned "Qor"; the program's own says why the run ends.
     struct Step {
         const char* text;
         std::vector<int> buttons;
         int answer;
+        HWND owner;
     };
     const Step steps[] = {
-        {"Go on?", {IDYES, IDNO}, IDYES},
-        {"Pick one", {IDOK, IDCANCEL}, IDCANCEL},
-        {"Got 2", {IDOK}, IDOK},
-        {"ubjump = 11, x", {IDOK}, IDOK},
+        {"Go on?", {IDYES, IDNO}, IDYES, host.Window()},
+        {"Pick one", {IDOK, IDCANCEL}, IDCANCEL, host.Window()},
+        {"Got 2", {IDOK}, IDOK, host.Window()},
+        {"ubjump = 11, x", {IDOK}, IDOK, nullptr},
     };
     for (const Step& step : steps) {
         SCOPED_TRACE(step.text);
@@ -140,8 +117,8 @@ TEST(EditorScript, TheScriptStartsTheEditorSteersTheHostAndStopsAtABadLine) {
         ASSERT_TRUE(box);
         wchar_t title[64] = {};
         GetWindowTextW(box, title, 64);
-        EXPECT_EQ(std::wstring(L"Qor"), title);
-        EXPECT_EQ(host.Window(), GetWindow(box, GW_OWNER));
+        EXPECT_EQ(step.owner ? L"Qor" : L"Option", std::wstring(title));
+        EXPECT_EQ(step.owner, GetWindow(box, GW_OWNER));
         EXPECT_THAT(e2e::Utf8(e2e::DialogText(box)), HasSubstr(step.text));
         EXPECT_EQ(step.buttons, Buttons(box));
         ASSERT_TRUE(e2e::Answer(box, step.answer));
@@ -149,9 +126,9 @@ TEST(EditorScript, TheScriptStartsTheEditorSteersTheHostAndStopsAtABadLine) {
     EXPECT_EQ(0u, option.WaitOrKill());
 
     const std::vector<std::string> editor =
-        Poll([&] { return e2e::ReadLogLines(log); }, [](const auto& lines) { return lines.size() >= 2; });
+        Poll([&] { return e2e::ReadLogLines(log.Path()); }, [](const auto& lines) { return lines.size() >= 2; });
     ASSERT_GE(editor.size(), 2u) << "the editor did not start";
-    EXPECT_EQ("args --log \"" + e2e::Utf8(log) + "\" \"" + e2e::Utf8(file.path()) + "\"", editor[1]);
+    EXPECT_EQ("args --log \"" + e2e::Utf8(log.Path()) + "\" \"" + e2e::Utf8(file.Path()) + "\"", editor[1]);
     if (HWND window = FindWindowW(L"OptionTests.DropTarget", nullptr)) PostMessageW(window, WM_CLOSE, 0, 0);
     // A message posted now comes behind anything the script posted, so nothing was after the bad line
     // (the host only comes forward as each box closes).

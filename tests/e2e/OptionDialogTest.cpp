@@ -78,8 +78,7 @@ TEST(OptionDialog, OpensOverTheHostInItsOwnOrTranslatedWordsAndOnlyAValidPassSto
     reg::WriteString(kOptionPage, L"SetFolder", L"C:\\Work");
     reg::WriteString(kSettings, L"NLS", L".ja-JP");
     reg::WriteDword(kSettings, L"LangOut", 1);
-    const std::wstring file = e2e::StageRoot() + L"\\command\\Option\\.ja-JP\\Option\\159.txt";
-    DeleteFileW(file.c_str());
+    const e2e::ScopedFile translation(e2e::StageRoot() + L"\\command\\Option\\.ja-JP\\Option\\159.txt");
     e2e::FakeHost host;
     ASSERT_TRUE(host.Window());
 
@@ -102,7 +101,7 @@ TEST(OptionDialog, OpensOverTheHostInItsOwnOrTranslatedWordsAndOnlyAValidPassSto
     EXPECT_EQ(L"", reg::ReadString(kOptionPage, L"SetFolder").value_or(L"<absent>"));
     EXPECT_EQ(36u, reg::ReadDword(kOptionPage, L"Start").value_or(0));
     EXPECT_THAT(host.Commands(), testing::IsEmpty());
-    std::wstring text = e2e::ReadUtf16File(file);
+    std::wstring text = e2e::ReadUtf16File(translation.Path());
     ASSERT_TRUE(text.starts_with(L"\uFEFFオプション\r\n")) << "no dialog text file written";
     EXPECT_NE(std::wstring::npos, text.find(L"1301\tButton\t適用\r\n"));
 
@@ -111,7 +110,7 @@ TEST(OptionDialog, OpensOverTheHostInItsOwnOrTranslatedWordsAndOnlyAValidPassSto
     reg::DeleteKey(kOptionPage);
     reg::WriteDword(kAppInfo, L"UsePing", 0);
     reg::WriteDword(kAppInfo, L"NetworkTimeout", 500);
-    ASSERT_TRUE(e2e::WriteUtf16File(file, L"\uFEFFOptions\r\n1301\tButton\tApply\r\n"));
+    ASSERT_TRUE(e2e::WriteUtf16File(translation.Path(), L"\uFEFFOptions\r\n1301\tButton\tApply\r\n"));
     e2e::Process second = e2e::StartOption();
     ASSERT_TRUE(second);
     HWND translated = e2e::FindVisibleWindow(second.Id(), L"Options");
@@ -130,7 +129,6 @@ TEST(OptionDialog, OpensOverTheHostInItsOwnOrTranslatedWordsAndOnlyAValidPassSto
     EXPECT_EQ(0u, reg::ReadDword(kAppInfo, L"UsePing").value_or(99));
     EXPECT_EQ(500u, reg::ReadDword(kAppInfo, L"NetworkTimeout").value_or(0));
     EXPECT_THAT(host.Commands(), testing::IsEmpty());
-    DeleteFileW(file.c_str());
 }
 
 // Apply stores what the user changed on each page, stores the selected item as the page to open

@@ -52,4 +52,14 @@ std::string Utf8(const std::wstring& text) {
     return out;
 }
 
+ScopedFile::ScopedFile(std::wstring path) : path_(std::move(path)) {
+    if (GetFileAttributesW(path_.c_str()) != INVALID_FILE_ATTRIBUTES) saved_ = ReadFileBytes(path_);
+    DeleteFileW(path_.c_str());
+}
+
+ScopedFile::~ScopedFile() {
+    DeleteFileW(path_.c_str());
+    if (saved_) WriteFileBytes(path_, *saved_);
+}
+
 }  // namespace e2e

@@ -2,6 +2,7 @@
 // UTF-8 as the test programs log.
 #pragma once
 
+#include <optional>
 #include <string>
 
 namespace e2e {
@@ -15,5 +16,21 @@ std::wstring ReadUtf16File(const std::wstring& path);
 // Writes the units as they stand: a byte-order mark only when the text starts with one.
 bool WriteUtf16File(const std::wstring& path, const std::wstring& text);
 std::string Utf8(const std::wstring& text);
+
+// Removes the file for as long as the object lives, so that a test may write it freely, and puts
+// back what was there, or nothing, afterwards.
+class ScopedFile {
+public:
+    explicit ScopedFile(std::wstring path);
+    ScopedFile(const ScopedFile&) = delete;
+    ScopedFile& operator=(const ScopedFile&) = delete;
+    ~ScopedFile();
+
+    const std::wstring& Path() const { return path_; }
+
+private:
+    std::wstring path_;
+    std::optional<std::string> saved_;
+};
 
 }  // namespace e2e

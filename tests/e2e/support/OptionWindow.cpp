@@ -31,62 +31,32 @@ bool IsVisibleDialog(HWND window, bool withTree) {
            (FindWindowExW(window, nullptr, L"SysTreeView32", nullptr) != nullptr) == withTree;
 }
 
-// Memory in another process, for messages whose arguments point into the receiver's address space.
-class RemoteBuffer {
-public:
-    RemoteBuffer(HANDLE process, size_t size)
-        : process_(process), data_(VirtualAllocEx(process, nullptr, size, MEM_COMMIT | MEM_RESERVE, PAGE_READWRITE)) {}
-    ~RemoteBuffer() {
-        if (data_) VirtualFreeEx(process_, data_, 0, MEM_RELEASE);
-    }
-    RemoteBuffer(const RemoteBuffer&) = delete;
-    RemoteBuffer& operator=(const RemoteBuffer&) = delete;
-
-    void* get() const { return data_; }
-    bool Write(const void* data, size_t size, size_t offset = 0) const {
-        return data_ && WriteProcessMemory(process_, static_cast<char*>(data_) + offset, data, size, nullptr);
-    }
-    bool Read(void* data, size_t size, size_t offset = 0) const {
-        return data_ && ReadProcessMemory(process_, static_cast<char*>(data_) + offset, data, size, nullptr);
-    }
-
-private:
-    HANDLE process_;
-    void* data_;
-};
-
-// The text of the tree item the browser has selected.
-std::wstring SelectedName(HANDLE process, HWND browser) {
-    HWND tree = FindWindowExW(browser, nullptr, L"SysTreeView32", nullptr);
-    auto item = reinterpret_cast<HTREEITEM>(SendMessageW(tree, TVM_GETNEXTITEM, TVGN_CARET, 0));
-    if (!item) return L"";
-    constexpr int kChars = 260;
-    RemoteBuffer remote(process, sizeof(TVITEMW) + kChars * sizeof(wchar_t));
-    TVITEMW query = {};
-    query.mask = TVIF_TEXT;
-    query.hItem = item;
-    query.pszText = reinterpret_cast<wchar_t*>(static_cast<char*>(remote.get()) + sizeof(TVITEMW));
-    query.cchTextMax = kChars;
-    wchar_t text[kChars] = {};
-    if (!remote.Write(&query, sizeof query) ||
-        !SendMessageW(tree, TVM_GETITEMW, 0, reinterpret_cast<LPARAM>(remote.get())) ||
-        !remote.Read(text, sizeof text, sizeof(TVITEMW))) {
-        return L"";
-    }
-    text[kChars - 1] = 0;
-    return text;
-}
-
-// Selects until the tree shows name as its selection: the browser may still be filling its tree.
+// Selects in the browser until its tree shows name as the selection: the browser may still be
+// filling its tree. The selection's argument and the tree's answer live in the browser's process.
 bool SendSelection(HANDLE process, HWND browser, BOOL isPath, const void* data, size_t size, const std::wstring& name) {
-    RemoteBuffer remote(process, size);
-    if (!remote.Write(data, size)) return false;
-    for (DWORD waited = 0; waited < 10000; waited += 100) {
-        SendMessageW(browser, BFFM_SETSELECTIONW, isPath, reinterpret_cast<LPARAM>(remote.get()));
-        if (SelectedName(process, browser) == name) return true;
-        Sleep(100);
+    constexpr int kChars = 260;
+    const size_t itemAt = (size + 15) / 16 * 16, textAt = itemAt + sizeof(TVITEMW);
+    auto* remote = static_cast<char*>(
+        VirtualAllocEx(process, nullptr, textAt + kChars * sizeof(wchar_t), MEM_COMMIT | MEM_RESERVE, PAGE_READWRITE));
+    HWND tree = FindWindowExW(browser, nullptr, L"SysTreeView32", nullptr);
+    bool selected = false;
+    for (DWORD waited = 0; remote && !selected && waited < 10000; waited += 100) {
+        if (waited > 0) Sleep(100);
+        if (!WriteProcessMemory(process, remote, data, size, nullptr)) break;
+        SendMessageW(browser, BFFM_SETSELECTIONW, isPath, reinterpret_cast<LPARAM>(remote));
+        TVITEMW query = {};
+        query.mask = TVIF_TEXT;
+        query.hItem = reinterpret_cast<HTREEITEM>(SendMessageW(tree, TVM_GETNEXTITEM, TVGN_CARET, 0));
+        query.pszText = reinterpret_cast<wchar_t*>(remote + textAt);
+        query.cchTextMax = kChars;
+        wchar_t text[kChars] = {};
+        selected = query.hItem && WriteProcessMemory(process, remote + itemAt, &query, sizeof query, nullptr) &&
+                   SendMessageW(tree, TVM_GETITEMW, 0, reinterpret_cast<LPARAM>(remote + itemAt)) &&
+                   ReadProcessMemory(process, remote + textAt, text, sizeof text - sizeof(wchar_t), nullptr) &&
+                   name == text;
     }
-    return false;
+    if (remote) VirtualFreeEx(process, remote, 0, MEM_RELEASE);
+    return selected;
 }
 
 }  // namespace
