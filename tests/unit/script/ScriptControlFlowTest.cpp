@@ -71,6 +71,32 @@ TEST_F(ScriptControlFlowTest, BlocksLoopsAndJumps) {
     for (const ScriptCase& c : cases) Check(c);
 }
 
+// Labels are read before the run: any line ending in a colon names one, trimmed, a tab inside read as
+// a blank and case kept; comments, a lone colon and everything from the end of the file on name none.
+TEST_F(ScriptControlFlowTest, WhereAGotoLands) {
+    const std::wstring longest(32766, L'y');
+    // clang-format off
+    const ScriptCase cases[] = {
+        {"blanks and tabs around, a tab inside",
+         {L"var $v = _", L"goto start", L"$v = &X", L"   start   :  ", L"goto one two", L"$v = &X", L"one\ttwo:",
+          L"goto last", L"$v = &X", L"\tlast\t:\t", L"$v = &a"}, {{L"$v", L"_a"}}},
+        {"slashes later in the line, a statement ending in a colon, and case kept",
+         {L"var $v = _", L"goto a // b", L"$v = &X", L"a // b:", L"goto select = x", L"$v = &X", L"select = x:",
+          L"goto Start", L"$v = &X", L"start:", L"$v = &X", L"Start:", L"$v = &a"}, {{L"$v", L"_a"}}},
+        {"do with a colon is a label", {L"var $v = _", L"goto do", L"$v = &X", L"do:", L"$v = &a"}, {{L"$v", L"_a"}}},
+        {"a comment ending in a colon is none", {L"goto // see", L"// see:", L"var $v"}, {{L"$v", L"<none>"}},
+         {L"Undefined label.\ngoto // see"}},
+        {"lone colons are none, so never twice", {L":", L" : ", L"var $v"}, {{L"$v", L""}}},
+        {"EOF in any case ends the labels", {L"goto b", L"eOf", L"b:"}, {}, {L"Undefined label.\ngoto b"}},
+        {"EOF with more is no end", {L"var $v = _", L"goto b", L"EOF now", L"b:", L"$v = &a"}, {{L"$v", L"_a"}}},
+        {"a line of 32,766 characters is read", {L"var $v = _", L"goto b", longest, L"b:", L"$v = &a"},
+         {{L"$v", L"_a"}}},
+        {"a longer one is the end", {L"goto b", longest + L"y", L"b:"}, {}, {L"Undefined label.\ngoto b"}},
+    };
+    // clang-format on
+    for (const ScriptCase& c : cases) Check(c);
+}
+
 TEST_F(ScriptControlFlowTest, ForOverAnEmptySelectionSkipsToItsNext) {
     Check({"empty", {L"var s = _", L"for", L"s = &X", L"exitall", L"NEXT", L"s = &!"}, {{L"s", L"_!"}}});
 }

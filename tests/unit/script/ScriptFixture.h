@@ -20,7 +20,10 @@ struct ScriptCase {
 
     ScriptCase(const char* label, std::vector<std::wstring> lines, Values values = {},
                std::vector<std::wstring> messages = {}, int32_t result = 0)
-        : label(label), lines(std::move(lines)), values(std::move(values)), messages(std::move(messages)),
+        : label(label),
+          lines(std::move(lines)),
+          values(std::move(values)),
+          messages(std::move(messages)),
           result(result) {}
 
     const char* label;
@@ -47,13 +50,6 @@ protected:
         const std::wstring path = kScriptDirectory + name;
         fake.files().AddFile(path, Utf16Bytes(text, true));
         return path;
-    }
-
-    // Byte offset of a line of such a script.
-    static uint32_t OffsetOfLine(const std::vector<std::wstring>& lines, size_t index) {
-        uint32_t offset = 2;
-        for (size_t i = 0; i < index; ++i) offset += static_cast<uint32_t>(lines[i].size() + 2) * 2;
-        return offset;
     }
 
     int32_t Run(const std::wstring& path, VariableTable* variables = nullptr, RunOptionTable* options = nullptr) {

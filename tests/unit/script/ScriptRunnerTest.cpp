@@ -80,18 +80,21 @@ TEST_F(ScriptRunnerTest, IncludedScriptsShareTablesAndSelectionButNotLabels) {
               Messages());
 }
 
-// Without a debug line, or without the window when the script starts, nothing is traced. Otherwise
-// each script is announced as it starts and again when the parent goes on; then each line that runs
-// and each value it stores, comments and blank lines left out.
+// Without a debug line before the end of the file, or without the window when the script starts,
+// nothing is traced. Otherwise each script is announced as it starts and again when the parent goes
+// on; then each line that runs and each value it stores, comments and blank lines left out.
 TEST_F(ScriptRunnerTest, TheTraceWindowHearsOfScriptsLinesAndValues) {
     const std::wstring child = AddScript(L"child.txt", {L"debug"});
     EXPECT_EQ(0, Run(child));
+    fake.windows().SetTitledWindow(L"Qor Script Debugger", 0x77);
+    EXPECT_EQ(0, Run(child)) << "only the trace window's own title counts";
     fake.windows().SetTitledWindow(L"Script trace Qor", 0x51);
-    EXPECT_EQ(0, Run(AddScript(L"quiet.txt", {L"include = " + AddScript(L"plain.txt", {L"x = 1"})})));
+    const std::wstring plain = AddScript(L"plain.txt", {L"x = 1"});
+    EXPECT_EQ(0, Run(AddScript(L"quiet.txt", {L"include = " + plain, L"EOF", L"debug"})));
     EXPECT_TRUE(fake.windows().copies().empty());
 
-    const std::wstring parent =
-        AddScript(L"parent.txt", {L"debug", L"// x", L"include = " + child, L"var h = 0x10", L"var a[2]", L"h = &y"});
+    const std::wstring parent = AddScript(
+        L"parent.txt", {L"  DeBuG\t", L"// x", L"include = " + child, L"var h = 0x10", L"var a[2]", L"h = &y"});
     EXPECT_EQ(0, Run(parent));
     auto report = [](uint32_t code, const std::wstring& text) {
         return SentCopyData{0x51, 0, code, text, static_cast<uint32_t>(text.size() * 8 + 8)};
