@@ -3,7 +3,7 @@
 #include "app/AppServices.h"
 #include "pages/SortBenchmark.h"
 #include "resources/resource.h"
-#include "settings/ApplicationGroups.h"
+#include "settings/SettingsGroups.h"
 #include "ui/DataExchange.h"
 
 namespace {
@@ -16,7 +16,7 @@ constexpr uint32_t kMaxSortThreshold = 10000;
 COptionAppInfoDlg::COptionAppInfoDlg(AppServices& app) : OptionPage(IDD_OPTION_APPINFO, app) {}
 
 void COptionAppInfoDlg::LoadGroups() {
-    LoadGroup(app().store, AppGroup::General);
+    LoadGroup(app().store, SettingsGroup::General);
 }
 
 void COptionAppInfoDlg::DoDataExchange(ui::DataExchange& exchange) {
@@ -43,7 +43,7 @@ bool COptionAppInfoDlg::OnCommand(int id, int code) {
 
 bool COptionAppInfoDlg::Apply(PendingChanges& changes) {
     if (!UpdateData(true)) return false;
-    SaveGroup(app().store, AppGroup::General);
+    SaveGroup(app().store, SettingsGroup::General);
     changes.Record(kAppInfoChanged);
     return true;
 }

@@ -2,7 +2,7 @@
 
 #include "app/AppServices.h"
 #include "resources/resource.h"
-#include "settings/ApplicationGroups.h"
+#include "settings/SettingsGroups.h"
 #include "ui/Button.h"
 #include "ui/DataExchange.h"
 
@@ -15,7 +15,7 @@ constexpr uint16_t kNetworkChanged = 49021;
 COptionNetworkDlg::COptionNetworkDlg(AppServices& app) : OptionPage(IDD_OPTION_NETWORK, app) {}
 
 void COptionNetworkDlg::LoadGroups() {
-    LoadGroup(app().store, AppGroup::Network);
+    LoadGroup(app().store, SettingsGroup::Network);
 }
 
 void COptionNetworkDlg::DoDataExchange(ui::DataExchange& exchange) {
@@ -43,7 +43,7 @@ bool COptionNetworkDlg::OnCommand(int id, int code) {
 
 bool COptionNetworkDlg::Apply(PendingChanges& changes) {
     if (!UpdateData(true)) return false;
-    SaveGroup(app().store, AppGroup::Network);
+    SaveGroup(app().store, SettingsGroup::Network);
     changes.Record(kNetworkChanged);
     return true;
 }

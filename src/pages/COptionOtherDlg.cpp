@@ -4,7 +4,7 @@
 #include "platform/Platform.h"
 #include "resources/resource.h"
 #include "services/ProcessLaunch.h"
-#include "settings/ApplicationGroups.h"
+#include "settings/SettingsGroups.h"
 #include "ui/Button.h"
 #include "ui/ControlText.h"
 #include "ui/DataExchange.h"
@@ -29,7 +29,7 @@ bool COptionOtherDlg::OnInitDialog() {
 }
 
 void COptionOtherDlg::LoadGroups() {
-    LoadGroup(app().store, AppGroup::Other);
+    LoadGroup(app().store, SettingsGroup::Other);
 }
 
 void COptionOtherDlg::DoDataExchange(ui::DataExchange& exchange) {
@@ -80,7 +80,7 @@ bool COptionOtherDlg::OnCommand(int id, int code) {
 
 bool COptionOtherDlg::Apply(PendingChanges& changes) {
     if (!UpdateData(true)) return false;
-    SaveGroup(app().store, AppGroup::Other);
+    SaveGroup(app().store, SettingsGroup::Other);
     changes.Record(kStartUpControlChanged);
     return true;
 }

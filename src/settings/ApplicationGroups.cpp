@@ -1,4 +1,4 @@
-#include "settings/ApplicationGroups.h"
+#include "settings/SettingsGroups.h"
 
 #include <algorithm>
 #include <iterator>
@@ -94,7 +94,7 @@ const SettingRow kKeyPageRows[] = {
 // Section "Mouse".
 
 const SettingRow kContextMenuRows[] = {
-    IntRow(L"ContextMenu", &S::ContextMenu, 0x33333333),
+    IntRow(L"ContextMenu", &S::ContextMenu, 0x33333333).Writes((1u << kContextMenuChecks) - 1, kContextMenuBase),
 };
 
 const SettingRow kGestureRows[] = {
@@ -143,30 +143,6 @@ const SettingRow kSoundRows[] = {
     TextRow(L"SoundRecent", &S::SoundRecent, L""),
 };
 
-// The special steps beside the tables.
-
-// Load: bit n of ContextMenu becomes check n.
-void SplitContextMenu(SettingsStore& store) {
-    const auto bits = static_cast<uint32_t>(store.ContextMenu);
-    for (int n = 0; n < kContextMenuChecks; ++n) store.ContextMenuChecks[n] = (bits >> n) & 1;
-}
-
-// Save: the stored upper bits are dropped; only the checks survive.
-void JoinContextMenu(SettingsStore& store) {
-    auto bits = static_cast<uint32_t>(kContextMenuBase);
-    for (int n = 0; n < kContextMenuChecks; ++n)
-        if (store.ContextMenuChecks[n]) bits |= 1u << n;
-    store.ContextMenu = static_cast<int32_t>(bits);
-}
-
-// A group: its sections in the order they are read and written, and the steps around the rows.
-struct GroupDefinition {
-    AppGroup id;
-    std::span<const SectionRows> parts;
-    void (*afterLoad)(SettingsStore&) = nullptr;
-    void (*beforeSave)(SettingsStore&) = nullptr;
-};
-
 const SectionRows kGeneralParts[] = {{L"AppInfo", kGeneralRows}, {L"Settings", kImeRows}};
 const SectionRows kStartUpParts[] = {{L"AppInfo", kStartUpRows}};
 const SectionRows kMessageParts[] = {{L"AppInfo", kMessageRows}};
@@ -183,39 +159,26 @@ const SectionRows kGestureParts[] = {{L"Mouse", kGestureRows}};
 const SectionRows kEventParts[] = {{L"Event", kEventRows}};
 const SectionRows kSoundParts[] = {{L"Sound", kSoundRows}};
 
-const GroupDefinition kGroups[] = {
-    {AppGroup::General, kGeneralParts},
-    {AppGroup::StartUp, kStartUpParts},
-    {AppGroup::Message, kMessageParts},
-    {AppGroup::CommonOperation, kCommonOperationParts},
-    {AppGroup::IncrementalSearch, kIncrementalSearchParts},
-    {AppGroup::StandardCommands, kStandardCommandsParts},
-    {AppGroup::Network, kNetworkParts},
-    {AppGroup::VersionCheck, kVersionCheckParts},
-    {AppGroup::TitleBar, kTitleBarParts},
-    {AppGroup::Other, kOtherParts},
-    {AppGroup::KeyPage, kKeyPageParts},
-    {AppGroup::ContextMenu, kContextMenuParts, SplitContextMenu, JoinContextMenu},
-    {AppGroup::Gesture, kGestureParts},
-    {AppGroup::Event, kEventParts},
-    {AppGroup::Sound, kSoundParts},
+const GroupRows kGroups[] = {
+    {SettingsGroup::General, kGeneralParts},
+    {SettingsGroup::StartUp, kStartUpParts},
+    {SettingsGroup::Message, kMessageParts},
+    {SettingsGroup::CommonOperation, kCommonOperationParts},
+    {SettingsGroup::IncrementalSearch, kIncrementalSearchParts},
+    {SettingsGroup::StandardCommands, kStandardCommandsParts},
+    {SettingsGroup::Network, kNetworkParts},
+    {SettingsGroup::VersionCheck, kVersionCheckParts},
+    {SettingsGroup::TitleBar, kTitleBarParts},
+    {SettingsGroup::Other, kOtherParts},
+    {SettingsGroup::KeyPage, kKeyPageParts},
+    {SettingsGroup::ContextMenu, kContextMenuParts},
+    {SettingsGroup::Gesture, kGestureParts},
+    {SettingsGroup::Event, kEventParts},
+    {SettingsGroup::Sound, kSoundParts},
 };
-
-const GroupDefinition& Definition(AppGroup group) {
-    return *std::find_if(std::begin(kGroups), std::end(kGroups),
-                         [group](const GroupDefinition& definition) { return definition.id == group; });
-}
 
 }  // namespace
 
-void LoadGroup(SettingsStore& store, AppGroup group) {
-    const GroupDefinition& definition = Definition(group);
-    for (const SectionRows& part : definition.parts) LoadRows(store, part);
-    if (definition.afterLoad) definition.afterLoad(store);
-}
-
-void SaveGroup(SettingsStore& store, AppGroup group) {
-    const GroupDefinition& definition = Definition(group);
-    if (definition.beforeSave) definition.beforeSave(store);
-    for (const SectionRows& part : definition.parts) SaveRows(store, part);
+std::span<const GroupRows> ApplicationGroupRows() {
+    return kGroups;
 }

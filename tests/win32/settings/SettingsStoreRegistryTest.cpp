@@ -9,6 +9,8 @@
 #include "platform/win32/Win32Platform.h"
 #include "settings/SettingsStore.h"
 
+#include "unit/settings/GroupRoundTrip.h"
+
 namespace {
 
 constexpr const wchar_t* kSection = L"OptionStoreTest";
@@ -114,3 +116,9 @@ TEST_F(SettingsStoreRegistryTest, FontsReadBackAsTheSystemAndTheWriterGaveThem) 
 }
 
 }  // namespace
+
+// Every group over the real registry: what the host stored survives a page's Load and Apply.
+TEST_F(SettingsStoreRegistryTest, EveryGroupWritesBackWhatTheHostStored) {
+    ExpectEveryGroupWritesBackWhatTheHostStored();
+    ClearSections();
+}
