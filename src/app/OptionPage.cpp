@@ -2,7 +2,7 @@
 
 #include "app/AppServices.h"
 #include "platform/Platform.h"
-#include "resources/resource.h"
+#include "resources/app/AppIds.h"
 #include "ui/LocaliseDialog.h"
 
 namespace {

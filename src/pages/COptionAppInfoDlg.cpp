@@ -2,7 +2,7 @@
 
 #include "app/AppServices.h"
 #include "pages/SortBenchmark.h"
-#include "resources/resource.h"
+#include "resources/pages/PageIds.h"
 #include "settings/SettingsGroups.h"
 #include "ui/DataExchange.h"
 

@@ -4,7 +4,7 @@
 
 #include "app/AppServices.h"
 #include "pages/DropCommandChoices.h"
-#include "resources/resource.h"
+#include "resources/pages/PageIds.h"
 #include "settings/SettingsGroups.h"
 #include "ui/Button.h"
 #include "ui/ComboBox.h"

@@ -1,7 +1,7 @@
 #include "pages/COptionMessageDlg.h"
 
 #include "app/AppServices.h"
-#include "resources/resource.h"
+#include "resources/pages/PageIds.h"
 #include "services/CheckLabelCount.h"
 #include "services/MessageIds.h"
 #include "settings/SettingsGroups.h"

@@ -1,7 +1,7 @@
 #include "pages/COptionNetworkDlg.h"
 
 #include "app/AppServices.h"
-#include "resources/resource.h"
+#include "resources/pages/PageIds.h"
 #include "settings/SettingsGroups.h"
 #include "ui/Button.h"
 #include "ui/DataExchange.h"

@@ -2,7 +2,7 @@
 
 #include "app/AppServices.h"
 #include "platform/Platform.h"
-#include "resources/resource.h"
+#include "resources/pages/PageIds.h"
 #include "services/ProcessLaunch.h"
 #include "settings/SettingsGroups.h"
 #include "ui/Button.h"

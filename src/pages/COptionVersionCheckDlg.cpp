@@ -5,7 +5,7 @@
 #include <optional>
 
 #include "app/AppServices.h"
-#include "resources/resource.h"
+#include "resources/pages/PageIds.h"
 #include "services/CRuntime.h"
 #include "services/Format.h"
 #include "services/ProcessLaunch.h"
