@@ -9,7 +9,6 @@
 namespace {
 
 constexpr uint16_t kAppInfoChanged = 49017;
-constexpr uint32_t kMaxSortThreshold = 10000;
 
 }  // namespace
 
@@ -28,7 +27,8 @@ void COptionAppInfoDlg::DoDataExchange(ui::DataExchange& exchange) {
     DDX_Check(exchange, IDC_APPINFO_DRAG_HELPER, store.DragHelper);
     uint32_t threshold = static_cast<uint32_t>(store.ChgSortAlg);
     DDX_Text(exchange, IDC_APPINFO_SORT_THRESHOLD, threshold);
-    DDV_MinMaxUInt(exchange, threshold, 0, kMaxSortThreshold);
+    const SettingRange range = RangeOf(&SettingsStore::ChgSortAlg);
+    DDV_MinMaxUInt(exchange, threshold, static_cast<uint32_t>(range.low), static_cast<uint32_t>(range.high));
     store.ChgSortAlg = static_cast<int32_t>(threshold);
 }
 

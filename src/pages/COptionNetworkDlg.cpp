@@ -21,10 +21,8 @@ void COptionNetworkDlg::LoadGroups() {
 void COptionNetworkDlg::DoDataExchange(ui::DataExchange& exchange) {
     SettingsStore& store = app().store;
     DDX_Check(exchange, IDC_NETWORK_USE_PING, store.UsePing);
-    DDX_Text(exchange, IDC_NETWORK_TIMEOUT, store.NetworkTimeout);
-    DDV_MinMaxInt(exchange, store.NetworkTimeout, 10, 5000000);
-    DDX_Text(exchange, IDC_NETWORK_RETRY, store.NetworkRetry);
-    DDV_MinMaxInt(exchange, store.NetworkRetry, 1, 100);
+    ExchangeSetting(exchange, IDC_NETWORK_TIMEOUT, &SettingsStore::NetworkTimeout);
+    ExchangeSetting(exchange, IDC_NETWORK_RETRY, &SettingsStore::NetworkRetry);
     if (!exchange.saving()) EnablePingFields();
 }
 

@@ -13,8 +13,6 @@
 namespace {
 
 constexpr uint16_t kStartUpControlChanged = 49011;
-constexpr int32_t kMinScripts = 1;
-constexpr int32_t kMaxScripts = 50;
 // The third mode takes the folder typed or chosen on the page.
 constexpr int kChosenFolderMode = IDC_OTHER_USER_DIR_MODE + 2;
 
@@ -24,7 +22,8 @@ COptionOtherDlg::COptionOtherDlg(AppServices& app) : OptionPage(IDD_OPTION_OTHER
 
 bool COptionOtherDlg::OnInitDialog() {
     bool focusFirst = OptionPage::OnInitDialog();
-    ui::Spin(Item(IDC_OTHER_MAX_SCRIPT_SPIN)).SetRange(kMinScripts, kMaxScripts);
+    const SettingRange scripts = RangeOf(&SettingsStore::MaxScript);
+    ui::Spin(Item(IDC_OTHER_MAX_SCRIPT_SPIN)).SetRange(scripts.low, scripts.high);
     return focusFirst;
 }
 
@@ -38,8 +37,7 @@ void COptionOtherDlg::DoDataExchange(ui::DataExchange& exchange) {
     DDX_Text(exchange, IDC_OTHER_USER_DIR, store.UserDir);
     DDX_Check(exchange, IDC_OTHER_DUP_MUTEX, store.DupMutex);
     DDX_Check(exchange, IDC_OTHER_RESIDENT, store.Resident);
-    DDX_Text(exchange, IDC_OTHER_MAX_SCRIPT, store.MaxScript);
-    DDV_MinMaxInt(exchange, store.MaxScript, kMinScripts, kMaxScripts);
+    ExchangeSetting(exchange, IDC_OTHER_MAX_SCRIPT, &SettingsStore::MaxScript);
     if (!exchange.saving()) EnableChosenFolder();
 }
 

@@ -16,7 +16,7 @@ const SettingRow kGeneralRows[] = {
     IntRow(L"UseCompFolder", &S::UseCompFolder, 1),
     IntRow(L"CasheExCmd", &S::CasheExCmd, 0),
     IntRow(L"DragHelper", &S::DragHelper, 1),
-    IntRow(L"ChgSortAlg", &S::ChgSortAlg, 10),
+    IntRow(L"ChgSortAlg", &S::ChgSortAlg, 10).Range(0, 10000),
     IntRow(L"ListReserveVal", &S::ListReserveVal, 100000, Saved::No),
 };
 
@@ -39,9 +39,9 @@ const SettingRow kCommonOperationRows[] = {
 };
 
 const SettingRow kIncrementalSearchRows[] = {
-    IntRow(L"IncliMentTime", &S::IncliMentTime, 1000), IntRow(L"UseMigemo", &S::UseMigemo, 0),
+    IntRow(L"IncliMentTime", &S::IncliMentTime, 1000).Range(100, 10000), IntRow(L"UseMigemo", &S::UseMigemo, 0),
     TextRow(L"MigemoDll", &S::MigemoDll, L""),         TextRow(L"MigemoDic", &S::MigemoDic, L""),
-    IntRow(L"MigemoMax", &S::MigemoMax, 2000),
+    IntRow(L"MigemoMax", &S::MigemoMax, 2000).Range(0, 10000),
 };
 
 const SettingRow kStandardCommandsRows[] = {
@@ -53,8 +53,8 @@ const SettingRow kStandardCommandsRows[] = {
 
 const SettingRow kNetworkRows[] = {
     IntRow(L"UsePing", &S::UsePing, 0),
-    IntRow(L"NetworkTimeout", &S::NetworkTimeout, 500),
-    IntRow(L"NetworkRetry", &S::NetworkRetry, 3),
+    IntRow(L"NetworkTimeout", &S::NetworkTimeout, 500).Range(10, 5000000),
+    IntRow(L"NetworkRetry", &S::NetworkRetry, 3).Range(1, 100),
     IntRow(L"NoNetwork", &S::NoNetwork, 0, Saved::No),
 };
 
@@ -74,7 +74,7 @@ const SettingRow kTitleBarRows[] = {
 const SettingRow kOtherRows[] = {
     TextRow(L"UserDir", &S::UserDir, L""),          IntRow(L"UserDirMode", &S::UserDirMode, 0),
     IntRow(L"DupMutex", &S::DupMutex, 0),           IntRow(L"Resident", &S::Resident, 0),
-    TextRow(L"NLS", &S::NLS, L".ja-JP", Saved::No), IntRow(L"MaxScript", &S::MaxScript, 5),
+    TextRow(L"NLS", &S::NLS, L".ja-JP", Saved::No), IntRow(L"MaxScript", &S::MaxScript, 5).Range(1, 50),
     IntRow(L"EveryFront", &S::EveryFront, 0),
 };
 
@@ -87,7 +87,7 @@ const SettingRow kKeyPageRows[] = {
     IntRow(L"KeyLayout", &S::KeyLayout, 0, Saved::No),
     IntRow(L"BarLock", &S::BarLock, 0, Saved::No),
     IntRow(L"DefaultDrop", &S::DefaultDrop, 0, Saved::No),
-    IntRow(L"AutoSwitchAllocKeyTime", &S::AutoSwitchAllocKeyTime, 3000),
+    IntRow(L"AutoSwitchAllocKeyTime", &S::AutoSwitchAllocKeyTime, 3000).Range(0, 500000),
     IntRow(L"AutoSwitchAllocKey", &S::AutoSwitchAllocKey, 0),
 };
 
@@ -100,7 +100,7 @@ const SettingRow kContextMenuRows[] = {
 const SettingRow kGestureRows[] = {
     IntRow(L"Gesture", &S::Gesture, 0),
     IntRow(L"GestureCol", &S::GestureCol, 0xFF7F7F),
-    IntRow(L"GestureSensitivity", &S::GestureSensitivity, 5),
+    IntRow(L"GestureSensitivity", &S::GestureSensitivity, 5).Range(3, 100),
     IntRow(L"TimeOut", &S::TimeOut, 0),
 };
 
