@@ -12,7 +12,7 @@
 
 #include <string>
 
-#include "resources/resource.h"
+#include "resources/app/AppIds.h"
 
 namespace {
 

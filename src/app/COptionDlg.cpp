@@ -5,7 +5,7 @@
 
 #include "app/AppServices.h"
 #include "platform/Platform.h"
-#include "resources/resource.h"
+#include "resources/app/AppIds.h"
 #include "services/CheckLabelCount.h"
 #include "settings/SettingsStore.h"
 #include "ui/ControlText.h"

@@ -1,6 +1,6 @@
 #include "app/COptionNoneDlg.h"
 
-#include "resources/resource.h"
+#include "resources/app/AppIds.h"
 #include "ui/DataExchange.h"
 
 COptionNoneDlg::COptionNoneDlg(AppServices& app) : OptionPage(IDD_OPTION_NONE, app) {}

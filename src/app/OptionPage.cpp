@@ -2,7 +2,9 @@
 
 #include "app/AppServices.h"
 #include "platform/Platform.h"
-#include "resources/resource.h"
+#include "resources/app/AppIds.h"
+#include "settings/SettingsGroups.h"
+#include "ui/DataExchange.h"
 #include "ui/LocaliseDialog.h"
 
 namespace {
@@ -41,4 +43,11 @@ void OptionPage::OnOK() {
 
 void OptionPage::OnCancel() {
     PostToMainWindow(kPageCancelMessage);
+}
+
+void OptionPage::ExchangeSetting(ui::DataExchange& exchange, int id, int32_t SettingsStore::*member) const {
+    int32_t& value = app().store.*member;
+    const SettingRange range = RangeOf(member);
+    DDX_Text(exchange, id, value);
+    DDV_MinMaxInt(exchange, value, range.low, range.high);
 }

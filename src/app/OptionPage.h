@@ -8,6 +8,7 @@
 #include <cstdint>
 
 #include "app/ApplyChain.h"
+#include "settings/SettingsStore.h"
 #include "ui/Dialog.h"
 
 struct AppServices;
@@ -42,6 +43,8 @@ protected:
     void OnCancel() override;
 
     AppServices& app() const { return app_; }
+    // The control's number into the setting, refused outside the range its group gives it.
+    void ExchangeSetting(ui::DataExchange& exchange, int id, int32_t SettingsStore::*member) const;
 
 private:
     AppServices& app_;

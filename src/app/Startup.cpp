@@ -6,7 +6,7 @@
 #include "services/MessageIds.h"
 #include "services/PathHelpers.h"
 #include "services/ShareBlock.h"
-#include "settings/ApplicationGroups.h"
+#include "settings/SettingsGroups.h"
 
 namespace {
 
@@ -53,7 +53,7 @@ void Dispatch(AppServices& app, StartupTargets& targets, int effective, const st
         case kSwitchExRun:
         case kSwitchRun:
         case kSwitchCommands:
-            LoadGroup(app.store, AppGroup::Message);
+            LoadGroup(app.store, SettingsGroup::Message);
             targets.OpenEditor(effective, file);
             break;
         case kSwitchMenu:
@@ -96,7 +96,7 @@ void RunStartup(AppServices& app, StartupTargets& targets, const std::vector<std
     app.commands.LoadCommandLists(app.directories.UserDirectory());
 
     CommandLine line = ParseCommandLine(arguments);
-    LoadGroup(app.store, AppGroup::StartUp);
+    LoadGroup(app.store, SettingsGroup::StartUp);
 
     int effective = EffectiveSwitch(line);
     if (effective == kSwitchAuto) effective = SwitchForDefinitionFile(line.file);

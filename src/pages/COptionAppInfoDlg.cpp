@@ -2,21 +2,20 @@
 
 #include "app/AppServices.h"
 #include "pages/SortBenchmark.h"
-#include "resources/resource.h"
-#include "settings/ApplicationGroups.h"
+#include "resources/pages/PageIds.h"
+#include "settings/SettingsGroups.h"
 #include "ui/DataExchange.h"
 
 namespace {
 
 constexpr uint16_t kAppInfoChanged = 49017;
-constexpr uint32_t kMaxSortThreshold = 10000;
 
 }  // namespace
 
 COptionAppInfoDlg::COptionAppInfoDlg(AppServices& app) : OptionPage(IDD_OPTION_APPINFO, app) {}
 
 void COptionAppInfoDlg::LoadGroups() {
-    LoadGroup(app().store, AppGroup::General);
+    LoadGroup(app().store, SettingsGroup::General);
 }
 
 void COptionAppInfoDlg::DoDataExchange(ui::DataExchange& exchange) {
@@ -28,7 +27,8 @@ void COptionAppInfoDlg::DoDataExchange(ui::DataExchange& exchange) {
     DDX_Check(exchange, IDC_APPINFO_DRAG_HELPER, store.DragHelper);
     uint32_t threshold = static_cast<uint32_t>(store.ChgSortAlg);
     DDX_Text(exchange, IDC_APPINFO_SORT_THRESHOLD, threshold);
-    DDV_MinMaxUInt(exchange, threshold, 0, kMaxSortThreshold);
+    const SettingRange range = RangeOf(&SettingsStore::ChgSortAlg);
+    DDV_MinMaxUInt(exchange, threshold, static_cast<uint32_t>(range.low), static_cast<uint32_t>(range.high));
     store.ChgSortAlg = static_cast<int32_t>(threshold);
 }
 
@@ -43,7 +43,7 @@ bool COptionAppInfoDlg::OnCommand(int id, int code) {
 
 bool COptionAppInfoDlg::Apply(PendingChanges& changes) {
     if (!UpdateData(true)) return false;
-    SaveGroup(app().store, AppGroup::General);
+    SaveGroup(app().store, SettingsGroup::General);
     changes.Record(kAppInfoChanged);
     return true;
 }

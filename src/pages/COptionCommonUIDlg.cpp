@@ -4,8 +4,8 @@
 
 #include "app/AppServices.h"
 #include "pages/DropCommandChoices.h"
-#include "resources/resource.h"
-#include "settings/ApplicationGroups.h"
+#include "resources/pages/PageIds.h"
+#include "settings/SettingsGroups.h"
 #include "ui/Button.h"
 #include "ui/ComboBox.h"
 #include "ui/DataExchange.h"
@@ -44,7 +44,7 @@ void TakeChoice(const ui::ComboBox& combo, int32_t& stored) {
 COptionCommonUIDlg::COptionCommonUIDlg(AppServices& app) : OptionPage(IDD_OPTION_COMMON_UI, app) {}
 
 void COptionCommonUIDlg::LoadGroups() {
-    LoadGroup(app().store, AppGroup::CommonOperation);
+    LoadGroup(app().store, SettingsGroup::CommonOperation);
     // Once, after the translation of the template's items: the data exchange only selects.
     const std::vector<DropChoice> commands = DropCommands(app().commands);
     AddCommands(ui::ComboBox(Item(IDC_COMMON_UI_DROP_COPY)), commands);
@@ -84,7 +84,7 @@ bool COptionCommonUIDlg::OnCommand(int id, int code) {
 
 bool COptionCommonUIDlg::Apply(PendingChanges& changes) {
     if (!UpdateData(true)) return false;
-    SaveGroup(app().store, AppGroup::CommonOperation);
+    SaveGroup(app().store, SettingsGroup::CommonOperation);
     changes.Record(kCommonOperationChanged);
     return true;
 }

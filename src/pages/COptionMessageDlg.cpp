@@ -1,10 +1,10 @@
 #include "pages/COptionMessageDlg.h"
 
 #include "app/AppServices.h"
-#include "resources/resource.h"
+#include "resources/pages/PageIds.h"
 #include "services/CheckLabelCount.h"
 #include "services/MessageIds.h"
-#include "settings/ApplicationGroups.h"
+#include "settings/SettingsGroups.h"
 #include "ui/ControlText.h"
 #include "ui/DataExchange.h"
 
@@ -19,7 +19,7 @@ constexpr int kMessageColumnWidth = 800;
 COptionMessageDlg::COptionMessageDlg(AppServices& app) : OptionPage(IDD_OPTION_MESSAGE, app) {}
 
 void COptionMessageDlg::LoadGroups() {
-    LoadGroup(app().store, AppGroup::Message);
+    LoadGroup(app().store, SettingsGroup::Message);
     list_ = ui::ListView(Item(IDC_MESSAGE_LIST));
     list_.SetExtendedStyle(LVS_EX_CHECKBOXES | LVS_EX_FULLROWSELECT, LVS_EX_CHECKBOXES | LVS_EX_FULLROWSELECT);
     std::vector<std::wstring> headers;
@@ -67,7 +67,7 @@ bool COptionMessageDlg::OnCommand(int id, int code) {
 
 bool COptionMessageDlg::Apply(PendingChanges& changes) {
     if (!UpdateData(true)) return false;
-    SaveGroup(app().store, AppGroup::Message);
+    SaveGroup(app().store, SettingsGroup::Message);
     changes.Record(kConfirmationsChanged);
     return true;
 }

@@ -1,8 +1,8 @@
 #include "pages/COptionNetworkDlg.h"
 
 #include "app/AppServices.h"
-#include "resources/resource.h"
-#include "settings/ApplicationGroups.h"
+#include "resources/pages/PageIds.h"
+#include "settings/SettingsGroups.h"
 #include "ui/Button.h"
 #include "ui/DataExchange.h"
 
@@ -15,16 +15,14 @@ constexpr uint16_t kNetworkChanged = 49021;
 COptionNetworkDlg::COptionNetworkDlg(AppServices& app) : OptionPage(IDD_OPTION_NETWORK, app) {}
 
 void COptionNetworkDlg::LoadGroups() {
-    LoadGroup(app().store, AppGroup::Network);
+    LoadGroup(app().store, SettingsGroup::Network);
 }
 
 void COptionNetworkDlg::DoDataExchange(ui::DataExchange& exchange) {
     SettingsStore& store = app().store;
     DDX_Check(exchange, IDC_NETWORK_USE_PING, store.UsePing);
-    DDX_Text(exchange, IDC_NETWORK_TIMEOUT, store.NetworkTimeout);
-    DDV_MinMaxInt(exchange, store.NetworkTimeout, 10, 5000000);
-    DDX_Text(exchange, IDC_NETWORK_RETRY, store.NetworkRetry);
-    DDV_MinMaxInt(exchange, store.NetworkRetry, 1, 100);
+    ExchangeSetting(exchange, IDC_NETWORK_TIMEOUT, &SettingsStore::NetworkTimeout);
+    ExchangeSetting(exchange, IDC_NETWORK_RETRY, &SettingsStore::NetworkRetry);
     if (!exchange.saving()) EnablePingFields();
 }
 
@@ -43,7 +41,7 @@ bool COptionNetworkDlg::OnCommand(int id, int code) {
 
 bool COptionNetworkDlg::Apply(PendingChanges& changes) {
     if (!UpdateData(true)) return false;
-    SaveGroup(app().store, AppGroup::Network);
+    SaveGroup(app().store, SettingsGroup::Network);
     changes.Record(kNetworkChanged);
     return true;
 }

@@ -2,9 +2,9 @@
 
 #include "app/AppServices.h"
 #include "platform/Platform.h"
-#include "resources/resource.h"
+#include "resources/pages/PageIds.h"
 #include "services/ProcessLaunch.h"
-#include "settings/ApplicationGroups.h"
+#include "settings/SettingsGroups.h"
 #include "ui/Button.h"
 #include "ui/ControlText.h"
 #include "ui/DataExchange.h"
@@ -13,8 +13,6 @@
 namespace {
 
 constexpr uint16_t kStartUpControlChanged = 49011;
-constexpr int32_t kMinScripts = 1;
-constexpr int32_t kMaxScripts = 50;
 // The third mode takes the folder typed or chosen on the page.
 constexpr int kChosenFolderMode = IDC_OTHER_USER_DIR_MODE + 2;
 
@@ -24,12 +22,13 @@ COptionOtherDlg::COptionOtherDlg(AppServices& app) : OptionPage(IDD_OPTION_OTHER
 
 bool COptionOtherDlg::OnInitDialog() {
     bool focusFirst = OptionPage::OnInitDialog();
-    ui::Spin(Item(IDC_OTHER_MAX_SCRIPT_SPIN)).SetRange(kMinScripts, kMaxScripts);
+    const SettingRange scripts = RangeOf(&SettingsStore::MaxScript);
+    ui::Spin(Item(IDC_OTHER_MAX_SCRIPT_SPIN)).SetRange(scripts.low, scripts.high);
     return focusFirst;
 }
 
 void COptionOtherDlg::LoadGroups() {
-    LoadGroup(app().store, AppGroup::Other);
+    LoadGroup(app().store, SettingsGroup::Other);
 }
 
 void COptionOtherDlg::DoDataExchange(ui::DataExchange& exchange) {
@@ -38,8 +37,7 @@ void COptionOtherDlg::DoDataExchange(ui::DataExchange& exchange) {
     DDX_Text(exchange, IDC_OTHER_USER_DIR, store.UserDir);
     DDX_Check(exchange, IDC_OTHER_DUP_MUTEX, store.DupMutex);
     DDX_Check(exchange, IDC_OTHER_RESIDENT, store.Resident);
-    DDX_Text(exchange, IDC_OTHER_MAX_SCRIPT, store.MaxScript);
-    DDV_MinMaxInt(exchange, store.MaxScript, kMinScripts, kMaxScripts);
+    ExchangeSetting(exchange, IDC_OTHER_MAX_SCRIPT, &SettingsStore::MaxScript);
     if (!exchange.saving()) EnableChosenFolder();
 }
 
@@ -80,7 +78,7 @@ bool COptionOtherDlg::OnCommand(int id, int code) {
 
 bool COptionOtherDlg::Apply(PendingChanges& changes) {
     if (!UpdateData(true)) return false;
-    SaveGroup(app().store, AppGroup::Other);
+    SaveGroup(app().store, SettingsGroup::Other);
     changes.Record(kStartUpControlChanged);
     return true;
 }

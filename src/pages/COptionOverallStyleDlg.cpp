@@ -1,14 +1,14 @@
 #include "pages/COptionOverallStyleDlg.h"
 
 #include "app/AppServices.h"
-#include "resources/resource.h"
-#include "settings/ApplicationGroups.h"
+#include "resources/pages/PageIds.h"
+#include "settings/SettingsGroups.h"
 #include "ui/DataExchange.h"
 
 COptionOverallStyleDlg::COptionOverallStyleDlg(AppServices& app) : OptionPage(IDD_OPTION_OVERALL_STYLE, app) {}
 
 void COptionOverallStyleDlg::LoadGroups() {
-    LoadGroup(app().store, AppGroup::TitleBar);
+    LoadGroup(app().store, SettingsGroup::TitleBar);
 }
 
 void COptionOverallStyleDlg::DoDataExchange(ui::DataExchange& exchange) {
@@ -23,6 +23,6 @@ void COptionOverallStyleDlg::OnCancel() {
 
 bool COptionOverallStyleDlg::Apply(PendingChanges&) {
     if (!UpdateData(true)) return false;
-    SaveGroup(app().store, AppGroup::TitleBar);
+    SaveGroup(app().store, SettingsGroup::TitleBar);
     return true;
 }

@@ -5,11 +5,11 @@
 #include <optional>
 
 #include "app/AppServices.h"
-#include "resources/resource.h"
+#include "resources/pages/PageIds.h"
 #include "services/CRuntime.h"
 #include "services/Format.h"
 #include "services/ProcessLaunch.h"
-#include "settings/ApplicationGroups.h"
+#include "settings/SettingsGroups.h"
 #include "ui/DataExchange.h"
 
 namespace {
@@ -47,7 +47,7 @@ std::optional<DATE> ResetDate() {
 COptionVersionCheckDlg::COptionVersionCheckDlg(AppServices& app) : OptionPage(IDD_OPTION_VERSION_CHECK, app) {}
 
 void COptionVersionCheckDlg::LoadGroups() {
-    LoadGroup(app().store, AppGroup::VersionCheck);
+    LoadGroup(app().store, SettingsGroup::VersionCheck);
 }
 
 void COptionVersionCheckDlg::DoDataExchange(ui::DataExchange& exchange) {
@@ -91,7 +91,7 @@ bool COptionVersionCheckDlg::OnCommand(int id, int code) {
 
 bool COptionVersionCheckDlg::Apply(PendingChanges& changes) {
     if (!UpdateData(true)) return false;
-    SaveGroup(app().store, AppGroup::VersionCheck);
+    SaveGroup(app().store, SettingsGroup::VersionCheck);
     changes.Record(kAppInfoChanged);
     return true;
 }

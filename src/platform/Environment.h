@@ -37,6 +37,8 @@ public:
     virtual std::wstring FromAnsi(const std::string& text) = 0;
     // GetSystemMetrics of the index; 0 for an index the system does not know.
     virtual int32_t GetSystemMetrics(int32_t index) = 0;
+    // GetSysColor of the index, a COLORREF.
+    virtual int32_t SysColor(int32_t index) = 0;
 };
 
 }  // namespace platform

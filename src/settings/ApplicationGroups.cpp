@@ -1,4 +1,4 @@
-#include "settings/ApplicationGroups.h"
+#include "settings/SettingsGroups.h"
 
 #include <algorithm>
 #include <iterator>
@@ -16,7 +16,7 @@ const SettingRow kGeneralRows[] = {
     IntRow(L"UseCompFolder", &S::UseCompFolder, 1),
     IntRow(L"CasheExCmd", &S::CasheExCmd, 0),
     IntRow(L"DragHelper", &S::DragHelper, 1),
-    IntRow(L"ChgSortAlg", &S::ChgSortAlg, 10),
+    IntRow(L"ChgSortAlg", &S::ChgSortAlg, 10).Range(0, 10000),
     IntRow(L"ListReserveVal", &S::ListReserveVal, 100000, Saved::No),
 };
 
@@ -39,9 +39,9 @@ const SettingRow kCommonOperationRows[] = {
 };
 
 const SettingRow kIncrementalSearchRows[] = {
-    IntRow(L"IncliMentTime", &S::IncliMentTime, 1000), IntRow(L"UseMigemo", &S::UseMigemo, 0),
+    IntRow(L"IncliMentTime", &S::IncliMentTime, 1000).Range(100, 10000), IntRow(L"UseMigemo", &S::UseMigemo, 0),
     TextRow(L"MigemoDll", &S::MigemoDll, L""),         TextRow(L"MigemoDic", &S::MigemoDic, L""),
-    IntRow(L"MigemoMax", &S::MigemoMax, 2000),
+    IntRow(L"MigemoMax", &S::MigemoMax, 2000).Range(0, 10000),
 };
 
 const SettingRow kStandardCommandsRows[] = {
@@ -53,8 +53,8 @@ const SettingRow kStandardCommandsRows[] = {
 
 const SettingRow kNetworkRows[] = {
     IntRow(L"UsePing", &S::UsePing, 0),
-    IntRow(L"NetworkTimeout", &S::NetworkTimeout, 500),
-    IntRow(L"NetworkRetry", &S::NetworkRetry, 3),
+    IntRow(L"NetworkTimeout", &S::NetworkTimeout, 500).Range(10, 5000000),
+    IntRow(L"NetworkRetry", &S::NetworkRetry, 3).Range(1, 100),
     IntRow(L"NoNetwork", &S::NoNetwork, 0, Saved::No),
 };
 
@@ -74,7 +74,7 @@ const SettingRow kTitleBarRows[] = {
 const SettingRow kOtherRows[] = {
     TextRow(L"UserDir", &S::UserDir, L""),          IntRow(L"UserDirMode", &S::UserDirMode, 0),
     IntRow(L"DupMutex", &S::DupMutex, 0),           IntRow(L"Resident", &S::Resident, 0),
-    TextRow(L"NLS", &S::NLS, L".ja-JP", Saved::No), IntRow(L"MaxScript", &S::MaxScript, 5),
+    TextRow(L"NLS", &S::NLS, L".ja-JP", Saved::No), IntRow(L"MaxScript", &S::MaxScript, 5).Range(1, 50),
     IntRow(L"EveryFront", &S::EveryFront, 0),
 };
 
@@ -87,20 +87,20 @@ const SettingRow kKeyPageRows[] = {
     IntRow(L"KeyLayout", &S::KeyLayout, 0, Saved::No),
     IntRow(L"BarLock", &S::BarLock, 0, Saved::No),
     IntRow(L"DefaultDrop", &S::DefaultDrop, 0, Saved::No),
-    IntRow(L"AutoSwitchAllocKeyTime", &S::AutoSwitchAllocKeyTime, 3000),
+    IntRow(L"AutoSwitchAllocKeyTime", &S::AutoSwitchAllocKeyTime, 3000).Range(0, 500000),
     IntRow(L"AutoSwitchAllocKey", &S::AutoSwitchAllocKey, 0),
 };
 
 // Section "Mouse".
 
 const SettingRow kContextMenuRows[] = {
-    IntRow(L"ContextMenu", &S::ContextMenu, 0x33333333),
+    IntRow(L"ContextMenu", &S::ContextMenu, 0x33333333).Writes((1u << kContextMenuChecks) - 1, kContextMenuBase),
 };
 
 const SettingRow kGestureRows[] = {
     IntRow(L"Gesture", &S::Gesture, 0),
     IntRow(L"GestureCol", &S::GestureCol, 0xFF7F7F),
-    IntRow(L"GestureSensitivity", &S::GestureSensitivity, 5),
+    IntRow(L"GestureSensitivity", &S::GestureSensitivity, 5).Range(3, 100),
     IntRow(L"TimeOut", &S::TimeOut, 0),
 };
 
@@ -143,30 +143,6 @@ const SettingRow kSoundRows[] = {
     TextRow(L"SoundRecent", &S::SoundRecent, L""),
 };
 
-// The special steps beside the tables.
-
-// Load: bit n of ContextMenu becomes check n.
-void SplitContextMenu(SettingsStore& store) {
-    const auto bits = static_cast<uint32_t>(store.ContextMenu);
-    for (int n = 0; n < kContextMenuChecks; ++n) store.ContextMenuChecks[n] = (bits >> n) & 1;
-}
-
-// Save: the stored upper bits are dropped; only the checks survive.
-void JoinContextMenu(SettingsStore& store) {
-    auto bits = static_cast<uint32_t>(kContextMenuBase);
-    for (int n = 0; n < kContextMenuChecks; ++n)
-        if (store.ContextMenuChecks[n]) bits |= 1u << n;
-    store.ContextMenu = static_cast<int32_t>(bits);
-}
-
-// A group: its sections in the order they are read and written, and the steps around the rows.
-struct GroupDefinition {
-    AppGroup id;
-    std::span<const SectionRows> parts;
-    void (*afterLoad)(SettingsStore&) = nullptr;
-    void (*beforeSave)(SettingsStore&) = nullptr;
-};
-
 const SectionRows kGeneralParts[] = {{L"AppInfo", kGeneralRows}, {L"Settings", kImeRows}};
 const SectionRows kStartUpParts[] = {{L"AppInfo", kStartUpRows}};
 const SectionRows kMessageParts[] = {{L"AppInfo", kMessageRows}};
@@ -183,39 +159,26 @@ const SectionRows kGestureParts[] = {{L"Mouse", kGestureRows}};
 const SectionRows kEventParts[] = {{L"Event", kEventRows}};
 const SectionRows kSoundParts[] = {{L"Sound", kSoundRows}};
 
-const GroupDefinition kGroups[] = {
-    {AppGroup::General, kGeneralParts},
-    {AppGroup::StartUp, kStartUpParts},
-    {AppGroup::Message, kMessageParts},
-    {AppGroup::CommonOperation, kCommonOperationParts},
-    {AppGroup::IncrementalSearch, kIncrementalSearchParts},
-    {AppGroup::StandardCommands, kStandardCommandsParts},
-    {AppGroup::Network, kNetworkParts},
-    {AppGroup::VersionCheck, kVersionCheckParts},
-    {AppGroup::TitleBar, kTitleBarParts},
-    {AppGroup::Other, kOtherParts},
-    {AppGroup::KeyPage, kKeyPageParts},
-    {AppGroup::ContextMenu, kContextMenuParts, SplitContextMenu, JoinContextMenu},
-    {AppGroup::Gesture, kGestureParts},
-    {AppGroup::Event, kEventParts},
-    {AppGroup::Sound, kSoundParts},
+const GroupRows kGroups[] = {
+    {SettingsGroup::General, kGeneralParts},
+    {SettingsGroup::StartUp, kStartUpParts},
+    {SettingsGroup::Message, kMessageParts},
+    {SettingsGroup::CommonOperation, kCommonOperationParts},
+    {SettingsGroup::IncrementalSearch, kIncrementalSearchParts},
+    {SettingsGroup::StandardCommands, kStandardCommandsParts},
+    {SettingsGroup::Network, kNetworkParts},
+    {SettingsGroup::VersionCheck, kVersionCheckParts},
+    {SettingsGroup::TitleBar, kTitleBarParts},
+    {SettingsGroup::Other, kOtherParts},
+    {SettingsGroup::KeyPage, kKeyPageParts},
+    {SettingsGroup::ContextMenu, kContextMenuParts},
+    {SettingsGroup::Gesture, kGestureParts},
+    {SettingsGroup::Event, kEventParts},
+    {SettingsGroup::Sound, kSoundParts},
 };
-
-const GroupDefinition& Definition(AppGroup group) {
-    return *std::find_if(std::begin(kGroups), std::end(kGroups),
-                         [group](const GroupDefinition& definition) { return definition.id == group; });
-}
 
 }  // namespace
 
-void LoadGroup(SettingsStore& store, AppGroup group) {
-    const GroupDefinition& definition = Definition(group);
-    for (const SectionRows& part : definition.parts) LoadRows(store, part);
-    if (definition.afterLoad) definition.afterLoad(store);
-}
-
-void SaveGroup(SettingsStore& store, AppGroup group) {
-    const GroupDefinition& definition = Definition(group);
-    if (definition.beforeSave) definition.beforeSave(store);
-    for (const SectionRows& part : definition.parts) SaveRows(store, part);
+std::span<const GroupRows> ApplicationGroupRows() {
+    return kGroups;
 }

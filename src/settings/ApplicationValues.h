@@ -1,10 +1,9 @@
 // The members of the application-wide sections "AppInfo", "Settings", "Mouse", "Event" and "Sound",
 // each named exactly as its registry value (misspellings included). SettingsStore holds them all; the
-// Load and Save groups in ApplicationGroups.cpp give their defaults and say which ones are written.
+// groups in ApplicationGroups.cpp give their defaults and say which ones are written.
 // Before a group loads, every member is zero or empty.
 #pragma once
 
-#include <array>
 #include <cstdint>
 #include <string>
 
@@ -72,13 +71,8 @@ struct SettingsSectionValues {
     int32_t AutoSwitchAllocKey = 0;
 };
 
-// The twelve context menu switches live in the low twelve bits of ContextMenu.
-constexpr int kContextMenuChecks = 12;
-
 struct MouseValues {
-    int32_t ContextMenu = 0;
-    // Bit n of ContextMenu, 0 or 1, as its check box shows it.
-    std::array<int32_t, kContextMenuChecks> ContextMenuChecks{};
+    int32_t ContextMenu = 0;  // bit n is the page's check n
     // Gestures.
     int32_t Gesture = 0;
     int32_t GestureCol = 0;

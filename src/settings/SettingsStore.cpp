@@ -152,6 +152,29 @@ bool SettingsStore::WriteFont(const LogFont& font) {
     return WriteString(L"FontName", FaceName(font));
 }
 
+PathStateList SettingsStore::ReadAllStrings() {
+    constexpr uint32_t kNameChars = 1024;
+    constexpr uint32_t kDataBytes = 1024;
+    PathStateList values;
+    if (!OpenKey()) return values;
+    for (uint32_t index = 0;; ++index) {
+        uint8_t data[kDataBytes + 2] = {};
+        uint32_t size = kDataBytes;
+        std::wstring name;
+        const long result = key_->EnumValue(index, kNameChars, name, nullptr, data, &size);
+        // A name or text too long still makes a row, with whatever the system left in the buffers;
+        // any other failure ends the list rather than asking again for ever.
+        if (result != platform::kRegistryOk && result != platform::kRegistryMoreData) break;
+        values.push_back({std::move(name), TextOfBytes(data, sizeof data)});
+    }
+    return values;
+}
+
+bool SettingsStore::DeleteSection() {
+    key_.reset();
+    return platform::Current().registry.DeleteKey(currentPath_) == platform::kRegistryOk;
+}
+
 std::wstring DirectReadString(const std::wstring& path, const std::wstring& name, const std::wstring& defaultText) {
     auto key = CreateKey(path);
     if (!key) return defaultText;

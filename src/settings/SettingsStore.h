@@ -10,13 +10,31 @@
 #include "platform/Registry.h"
 #include "platform/LogFont.h"
 #include "settings/ApplicationValues.h"
+#include "settings/BarValues.h"
+#include "settings/ListValues.h"
 
-// The settings members come from one struct per section, so that pages name them as store().UsePing.
+// The settings members come from one struct per section, so that pages name them as store().UsePing
+// (or store().TreeInfoValues::Caption where sections share a name).
 class SettingsStore : public AppInfoValues,
                       public SettingsSectionValues,
                       public MouseValues,
                       public EventValues,
-                      public SoundValues {
+                      public SoundValues,
+                      public ListInitValues,
+                      public ListDrawValues,
+                      public ListActionValues,
+                      public ListMouseValues,
+                      public ColorValues,
+                      public ThumbValues,
+                      public DetailValues,
+                      public TreeInfoValues,
+                      public TabStyleValues,
+                      public UBarValues,
+                      public BarValues,
+                      public PreViewValues,
+                      public RecentValues,
+                      public FolderInfoValues,
+                      public SkinValues {
 public:
     // Where the sections live beneath HKEY_CURRENT_USER.
     static constexpr const wchar_t* kSectionRoot = L"Software\\Tarnwick\\QOR\\Main001\\";
@@ -41,10 +59,14 @@ public:
     // strike-out are never stored and come back as 0.
     void ReadFont(LogFont& font);
     bool WriteFont(const LogFont& font);
+    // Every value of the selected section as its name and text, in the registry's order; names of up
+    // to 1,023 characters and texts of up to 1,024 bytes (a longer one still makes an entry).
+    PathStateList ReadAllStrings();
+    // Deletes the selected section's key (it must have no subkeys); the next access creates it again.
+    bool DeleteSection();
 
     const std::wstring& current_path() const { return currentPath_; }
 
-    int32_t BkAlpha = 128;
     double DisplayFactor = 1.0;
 
 private:

@@ -23,6 +23,8 @@ public:
     std::string ToAnsi(const std::wstring& text) override;
     std::wstring FromAnsi(const std::string& text) override;
     int32_t GetSystemMetrics(int32_t index) override;
+    // A colour of its own for every index: 0x0A0B00 plus the index.
+    int32_t SysColor(int32_t index) override { return 0x0A0B00 + index; }
 
     // Names ignore case; the name keeps the spelling it was first set with.
     void SetVariable(const std::wstring& name, const std::wstring& value);

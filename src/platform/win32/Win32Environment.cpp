@@ -108,6 +108,10 @@ int32_t Win32Environment::GetSystemMetrics(int32_t index) {
     return ::GetSystemMetrics(index);
 }
 
+int32_t Win32Environment::SysColor(int32_t index) {
+    return static_cast<int32_t>(::GetSysColor(index));
+}
+
 std::wstring ProgramName() {
     std::wstring path = Win32Environment().ModuleFileName();
     size_t slash = path.find_last_of(L'\\');

@@ -16,6 +16,7 @@ public:
     std::string ToAnsi(const std::wstring& text) override;
     std::wstring FromAnsi(const std::string& text) override;
     int32_t GetSystemMetrics(int32_t index) override;
+    int32_t SysColor(int32_t index) override;
 };
 
 // The running program's file name without directory and extension ("Option").

@@ -18,7 +18,8 @@
 #include "app/OptionPageTable.h"
 #include "app/Startup.h"
 #include "platform/fake/FakePlatform.h"
-#include "resources/resource.h"
+#include "resources/app/AppIds.h"
+#include "resources/pages/PageIds.h"
 #include "settings/SettingsStore.h"
 #include "ui/TreeView.h"
 
