@@ -2,7 +2,11 @@
 #include <gtest/gtest.h>
 #include <windows.h>
 
+#include <functional>
+
 #include "bindings/COptionKeySetting.h"
+#include "bindings/KeyTableFiles.h"
+#include "ui/ListView.h"
 #include "resources/bindings/BindingIds.h"
 #include "win32/support/OptionDialogFixture.h"
 #include "unit/Utf16.h"
@@ -75,6 +79,38 @@ TEST_F(CommandPickerTest, OkNeedsACommandAndSearchFindsOneByNumber) {
     const std::vector<uint8_t> rows = Utf16Bytes(L"32800\t開く(O)\tファイルを開く\r\n32811\t詳細\t詳細表示\r\n", true);
     ASSERT_GT(dump.size(), rows.size());
     EXPECT_EQ(rows, std::vector<uint8_t>(dump.begin(), dump.begin() + rows.size())) << "then the numbered groups";
+    COptionKeySetting::ReleaseShared();
+}
+
+// The key page's Edit opens the picker on the row's command; what is chosen there is the row's, and
+// Apply writes it into the key file of its mode.
+TEST_F(CommandPickerTest, TheKeyPageBindsARowThroughThePicker) {
+    SetStart(2);
+    COptionDlg dialog(app_);
+    ASSERT_TRUE(dialog.Create(nullptr));
+    HWND page = dialog.Page(2)->hwnd();
+    ui::ListView list(GetDlgItem(page, IDC_KEYSET_LIST));
+    ASSERT_EQ(76, list.GetItemCount());
+    list.SelectRow(1);
+    static std::function<void()> inPicker;
+    inPicker = [] {
+        HWND picker = FindWindowW(L"#32770", L"機能一覧");
+        ASSERT_NE(nullptr, picker);
+        SetDlgItemTextW(picker, IDC_KEY_SETTING_ID, L"32811");
+        Click(picker, IDC_KEY_SETTING_SEARCH);
+        Click(picker, IDOK);
+    };
+    SetTimer(nullptr, 0, 50, [](HWND, UINT, UINT_PTR id, DWORD) {
+        KillTimer(nullptr, id);
+        inPicker();
+    });
+    Click(page, IDC_KEYSET_EDIT);
+    EXPECT_EQ((std::pair<std::wstring, LPARAM>{L"詳細表示", 32811}), (std::pair{list.GetItemText(1, 1), list.GetItemData(1)}));
+
+    SendMessageW(dialog.hwnd(), WM_COMMAND, MAKEWPARAM(1301, BN_CLICKED), 0);
+    KeyTableSet saved;
+    LoadKeyTables(app_.directories.UserDirectory(), saved);
+    EXPECT_EQ(32811, saved.Word(0, kModifierNone, 1));
     COptionKeySetting::ReleaseShared();
 }
 
