@@ -7,6 +7,7 @@
 
 #include "app/ApplyChain.h"
 #include "app/HostSwitches.h"
+#include "bindings/KeyTableSet.h"
 #include "definitions/CommandCatalog.h"
 #include "platform/ResourceLibrary.h"
 #include "services/DialogLanguage.h"
@@ -40,6 +41,8 @@ struct AppServices {
     std::vector<std::wstring> modifierNames;
     // Names of the commands the user's lists define, read at start and emptied at the end.
     CommandCatalog commands;
+    // The nine key modes the key page edits, loaded when it is first shown.
+    KeyTableSet keys;
     // The language library; null when it could not be loaded.
     std::unique_ptr<platform::ResourceLibrary> resourceModule;
 };

@@ -8,6 +8,7 @@
 
 #include "app/COptionDlg.h"
 #include "app/Startup.h"
+#include "bindings/COptionKeySetting.h"
 #include "bindings/KeyListWriter.h"
 #include "platform/win32/Win32Platform.h"
 #include "script/ScriptRunner.h"
@@ -55,6 +56,7 @@ int COptionApp::InitInstance() {
         AppServices app(ScreenLogPixelsY());
         app_ = &app;
         RunStartup(app, *this, Arguments());
+        COptionKeySetting::ReleaseShared();
         app_ = nullptr;
     }
     if (SUCCEEDED(com)) CoUninitialize();

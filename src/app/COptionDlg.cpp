@@ -4,6 +4,7 @@
 #include <string>
 
 #include "app/AppServices.h"
+#include "app/HelpPage.h"
 #include "platform/Platform.h"
 #include "resources/app/AppIds.h"
 #include "services/CheckLabelCount.h"
@@ -21,11 +22,6 @@ constexpr int kLastGroupId = 1010;
 // The pages of the frame are numbered from 2 to 45.
 constexpr int kFirstPageId = 2;
 constexpr int kLastPageId = 45;
-
-// The manual is installed beside the program; its pages are named by web-style relative paths.
-constexpr const wchar_t* kManualFolder = L"Manual\\";
-constexpr uint32_t kShellMaskNoUi = 512;  // SEE_MASK_FLAG_NO_UI
-constexpr int kShowNormal = 5;            // SW_SHOW
 
 bool IsKnownGroup(int id) {
     return id >= kDefaultGroupId && id <= kLastGroupId;
@@ -204,11 +200,5 @@ void COptionDlg::ClosePages() {
 void COptionDlg::ShowHelp() {
     HTREEITEM item = tree_.GetSelectedItem();
     int id = item ? static_cast<int>(tree_.GetItemData(item)) : kDefaultGroupId;
-    std::wstring path = HelpPathOf(id);
-    std::replace(path.begin(), path.end(), L'/', L'\\');
-    platform::Platform& os = platform::Current();
-    platform::ShellRequest request{
-        kShellMaskNoUi, os.windows.MainWindow(), app_.directories.ApplicationRoot() + kManualFolder + path, L"", L"",
-        kShowNormal};
-    os.processes.ExecuteShell(request);
+    OpenHelpPage(app_.directories.ApplicationRoot(), HelpPathOf(id));
 }

@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "app/COptionDlg.h"
+#include "bindings/COptionKeySetDlg.h"
 #include "pages/COptionAppInfoDlg.h"
 #include "pages/COptionCommonUIDlg.h"
 #include "pages/COptionMessageDlg.h"
@@ -32,6 +33,7 @@ std::unique_ptr<OptionPage> MakeGeneric(const OptionPageInfo& page, AppServices&
 
 const std::vector<PageClass>& PageClasses() {
     static const std::vector<PageClass> classes = {
+        {2, &Make<COptionKeySetDlg>},
         {5, &Make<COptionOtherDlg>},
         {20, &Make<COptionAppInfoDlg>},
         {24, &Make<COptionCommonUIDlg>},

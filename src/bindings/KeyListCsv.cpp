@@ -2,6 +2,7 @@
 
 #include <cstdint>
 
+#include "services/Format.h"
 #include "services/WholeFileWriter.h"
 #include "services/WideStream.h"
 
@@ -25,4 +26,9 @@ bool WriteKeyListCsv(const std::wstring& path, std::span<const uint16_t, kKeyCou
     std::vector<uint8_t> bytes;
     AppendUtf16(bytes, KeyListCsvText(KeyListRows(block, catalog, library)));
     return WriteWholeFile(path, bytes);
+}
+
+std::wstring PageKeyListName(int mode, int modifier) {
+    const std::wstring base = mode == 0 ? L"Command" : mode == 1 ? L"Search" : crt::Format(L"mode%d", mode + 1);
+    return base + kKeyListSuffixes[modifier] + L".csv";
 }

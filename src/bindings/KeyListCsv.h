@@ -11,6 +11,10 @@
 // Behind the base name of a key list file, by modifier; ".csv" follows.
 inline constexpr const wchar_t* kKeyListSuffixes[] = {L"", L" Shift", L" Ctrl", L" Ctrl+Shift"};
 
+// The file name the key page's save button gives the block of (mode, modifier): "Command", "Search",
+// then "mode3" to "mode9", the modifier's suffix and ".csv".
+std::wstring PageKeyListName(int mode, int modifier);
+
 struct KeyListRow {
     std::wstring key;
     std::wstring command;

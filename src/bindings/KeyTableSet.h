@@ -27,4 +27,17 @@ struct KeyTableSet {
         return std::span<const uint16_t, kKeyCount>(modes[mode].data() + modifier * kKeyCount, kKeyCount);
     }
     bool operator==(const KeyTableSet&) const = default;
+
+    // The key page's three resets from the defaults: one key of the block shown, the block shown, and
+    // "all keys", which reaches the first three modes only.
+    void ResetKey(const KeyTableSet& defaults, int mode, int modifier, int key) {
+        Word(mode, modifier, key) = defaults.Word(mode, modifier, key);
+    }
+    void ResetBlock(const KeyTableSet& defaults, int mode, int modifier) {
+        for (int key = 0; key < kKeyCount; ++key) ResetKey(defaults, mode, modifier, key);
+    }
+    void ResetAllKeys(const KeyTableSet& defaults) {
+        for (int mode = 0; mode < kResetAllModes; ++mode) modes[mode] = defaults.modes[mode];
+    }
+    static constexpr int kResetAllModes = 3;
 };

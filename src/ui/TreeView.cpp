@@ -14,6 +14,25 @@ HTREEITEM TreeView::InsertItem(const std::wstring& text, LPARAM data, HTREEITEM 
     return reinterpret_cast<HTREEITEM>(Send(TVM_INSERTITEMW, 0, reinterpret_cast<LPARAM>(&insert)));
 }
 
+HTREEITEM TreeView::InsertItem(const std::wstring& text, LPARAM data, int image, HTREEITEM parent) const {
+    TVINSERTSTRUCTW insert{};
+    insert.hParent = parent;
+    insert.hInsertAfter = TVI_LAST;
+    insert.item.mask = TVIF_TEXT | TVIF_PARAM | TVIF_IMAGE | TVIF_SELECTEDIMAGE;
+    insert.item.pszText = const_cast<wchar_t*>(text.c_str());
+    insert.item.lParam = data;
+    insert.item.iImage = insert.item.iSelectedImage = image;
+    return reinterpret_cast<HTREEITEM>(Send(TVM_INSERTITEMW, 0, reinterpret_cast<LPARAM>(&insert)));
+}
+
+void TreeView::SetItemImage(HTREEITEM item, int image) const {
+    TVITEMW change{};
+    change.mask = TVIF_IMAGE | TVIF_SELECTEDIMAGE;
+    change.hItem = item;
+    change.iImage = change.iSelectedImage = image;
+    Send(TVM_SETITEMW, 0, reinterpret_cast<LPARAM>(&change));
+}
+
 LPARAM TreeView::GetItemData(HTREEITEM item) const {
     TVITEMW query{};
     query.mask = TVIF_PARAM;

@@ -52,7 +52,6 @@
 
 // The pages of the option dialog.
 #define IDD_OPTION_SKIN 104
-#define IDD_OPTION_KEYSET 105
 #define IDD_OPTION_MOUSE_GESTURE 107
 #define IDD_OPTION_APPINFO 109
 #define IDD_OPTION_LIST_STYLE 110

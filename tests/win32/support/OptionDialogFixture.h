@@ -76,8 +76,8 @@ inline RECT ScreenRect(HWND window) {
 
 // Runs the dialog modally; once the modal loop runs, each step gets the dialog's window in turn,
 // the next one after what the one before posted has been handled.
-inline INT_PTR RunModal(COptionDlg& dialog, std::vector<std::function<void(HWND)>> steps) {
-    static COptionDlg* running;
+inline INT_PTR RunModal(ui::Dialog& dialog, std::vector<std::function<void(HWND)>> steps) {
+    static ui::Dialog* running;
     static std::vector<std::function<void(HWND)>>* pending;
     static size_t next;
     running = &dialog;

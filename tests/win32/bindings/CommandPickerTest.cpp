@@ -1,0 +1,117 @@
+// The command picker with its real template, over a fake language library and fake files.
+#include <gtest/gtest.h>
+#include <windows.h>
+
+#include <functional>
+
+#include "bindings/COptionKeySetting.h"
+#include "bindings/KeyTableFiles.h"
+#include "ui/ListView.h"
+#include "resources/bindings/BindingIds.h"
+#include "win32/support/OptionDialogFixture.h"
+#include "unit/Utf16.h"
+
+namespace {
+
+using namespace optiontest;
+using platform::MenuItem;
+using platform::fake::ShownMessage;
+
+constexpr const wchar_t* kLibrary = L"C:\\Qor\\Lang\\Qor.ja-JP.dll";
+
+class CommandPickerTest : public OptionDialogFixture {
+protected:
+    void SetUp() override {
+        OptionDialogFixture::SetUp();
+        platform::fake::LibraryContent content;
+        content.menus[130] = {{0, L"ファイル(&F)", false, true, {{32800, L"開く(&O)...", false, false, {}}}}};
+        content.menus[501] = {{0, L"表示", false, true, {{32811, L"詳細", false, false, {}}}}};
+        content.strings = {{32800, L"ファイルを開く\nTip"}, {32811, L"詳細表示"}};
+        fake_.system().AddLibrary(kLibrary, content);
+        app_.resourceModule = fake_.system().LoadDataLibrary(kLibrary);
+        fake_.files().AddFile(L"C:\\Qor\\Lang\\Msg.ja-JP.txt", Utf16Bytes(L"62301\t項目が選択されていません\r\n", true));
+        app_.messages.SetPath(L"C:\\Qor\\Lang\\Msg.ja-JP.txt");
+    }
+
+    static std::wstring Text(HWND dialog, int id) { return TextOf(GetDlgItem(dialog, id)); }
+    static void Click(HWND dialog, int id) { SendMessageW(dialog, WM_COMMAND, MAKEWPARAM(id, BN_CLICKED), 0); }
+    static std::wstring Selected(HWND dialog) {
+        ui::TreeView tree(GetDlgItem(dialog, IDC_KEY_SETTING_TREE));
+        HTREEITEM item = tree.GetSelectedItem();
+        return item ? tree.GetItemText(item) : L"<none>";
+    }
+};
+
+// Opened on no command, OK is refused with "nothing selected"; a number typed and searched selects
+// its command, and OK gives the number and the tree's text.
+TEST_F(CommandPickerTest, OkNeedsACommandAndSearchFindsOneByNumber) {
+    COptionKeySetting& picker = COptionKeySetting::Shared(app_);
+    EXPECT_EQ(&picker, &COptionKeySetting::Shared(app_)) << "one picker for the process";
+    picker.currentId = 0;
+    std::vector<std::wstring> seen;
+    INT_PTR result = RunModal(picker, {
+        [&](HWND dialog) {
+            seen.push_back(Selected(dialog));
+            Click(dialog, IDOK);
+        },
+        [&](HWND dialog) {
+            SetDlgItemTextW(dialog, IDC_KEY_SETTING_ID, L"32811");
+            Click(dialog, IDC_KEY_SETTING_SEARCH);
+            seen.push_back(Selected(dialog) + L" / " + Text(dialog, IDC_KEY_SETTING_TEXT));
+            Click(dialog, IDOK);
+        },
+    });
+    EXPECT_EQ(IDOK, result);
+    EXPECT_EQ((std::vector<std::wstring>{L"<none>", L"詳細 / 詳細表示"}), seen);
+    EXPECT_EQ((std::vector<ShownMessage>{{L"項目が選択されていません", 0}}), fake_.prompts().shown());
+    EXPECT_EQ(32811u, picker.currentId);
+    EXPECT_EQ(L"詳細", picker.resultText);
+
+    // Opened again on that command, it is selected at once; with Ctrl held the tree is dumped as text.
+    fake_.windows().SetKeyDown(VK_CONTROL, true);
+    RunModal(picker, {[&](HWND dialog) {
+        seen.push_back(Selected(dialog));
+        Click(dialog, IDCANCEL);
+    }});
+    EXPECT_EQ(L"詳細", seen.back());
+    std::vector<uint8_t> dump;
+    ASSERT_TRUE(fake_.files().ReadFile(L"C:\\Qor\\AllCommand.txt", dump));
+    const std::vector<uint8_t> rows = Utf16Bytes(L"32800\t開く(O)\tファイルを開く\r\n32811\t詳細\t詳細表示\r\n", true);
+    ASSERT_GT(dump.size(), rows.size());
+    EXPECT_EQ(rows, std::vector<uint8_t>(dump.begin(), dump.begin() + rows.size())) << "then the numbered groups";
+    COptionKeySetting::ReleaseShared();
+}
+
+// The key page's Edit opens the picker on the row's command; what is chosen there is the row's, and
+// Apply writes it into the key file of its mode.
+TEST_F(CommandPickerTest, TheKeyPageBindsARowThroughThePicker) {
+    SetStart(2);
+    COptionDlg dialog(app_);
+    ASSERT_TRUE(dialog.Create(nullptr));
+    HWND page = dialog.Page(2)->hwnd();
+    ui::ListView list(GetDlgItem(page, IDC_KEYSET_LIST));
+    ASSERT_EQ(76, list.GetItemCount());
+    list.SelectRow(1);
+    static std::function<void()> inPicker;
+    inPicker = [] {
+        HWND picker = FindWindowW(L"#32770", L"機能一覧");
+        ASSERT_NE(nullptr, picker);
+        SetDlgItemTextW(picker, IDC_KEY_SETTING_ID, L"32811");
+        Click(picker, IDC_KEY_SETTING_SEARCH);
+        Click(picker, IDOK);
+    };
+    SetTimer(nullptr, 0, 50, [](HWND, UINT, UINT_PTR id, DWORD) {
+        KillTimer(nullptr, id);
+        inPicker();
+    });
+    Click(page, IDC_KEYSET_EDIT);
+    EXPECT_EQ((std::pair<std::wstring, LPARAM>{L"詳細表示", 32811}), (std::pair{list.GetItemText(1, 1), list.GetItemData(1)}));
+
+    SendMessageW(dialog.hwnd(), WM_COMMAND, MAKEWPARAM(1301, BN_CLICKED), 0);
+    KeyTableSet saved;
+    LoadKeyTables(app_.directories.UserDirectory(), saved);
+    EXPECT_EQ(32811, saved.Word(0, kModifierNone, 1));
+    COptionKeySetting::ReleaseShared();
+}
+
+}  // namespace
