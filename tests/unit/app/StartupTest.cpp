@@ -126,59 +126,27 @@ TEST_F(StartupTest, MissingLanguageLibraryIsToldAndTheProgramGoesOn) {
               fake.prompts().shown());
 }
 
+// The option dialog reads the settings it shows at start; only the editors read the confirmations, with
+// every one on when none are stored. The host's window mode comes from its switch string.
 TEST_F(StartupTest, SettingsReadAtStart) {
+    Run({L"/D", L"x"});
+    EXPECT_EQ(-1, app.store.Message);
     DirectWriteString(kDirectSettingsPath, L"UserDir", L"D:\\Mine\\");
     SettingsStore store;
     store.SelectSection(L"AppInfo");
     store.WriteInt(L"Alfa", 200);
     store.WriteInt(L"DoubleBuffer", 1);
     store.WriteInt(L"Message", 0x38FB);
+    fake.environment().SetVariable(L"QOR_ExCommand", L"3:1:1:2:100:0:0:0:None:x");
     Run({});
+    EXPECT_EQ((std::vector<int32_t>{200, 1, -1, 3}),
+              (std::vector<int32_t>{app.store.Alfa, app.store.DoubleBuffer, app.store.Message, app.host.windowMode}));
     EXPECT_EQ(L"D:\\Mine\\", app.userDir);
-    EXPECT_EQ(200, app.store.Alfa);
-    EXPECT_EQ(1, app.store.DoubleBuffer);
-    EXPECT_EQ(0, app.store.Message) << "only the editors read it at start";
     Run({L"/R", L"x"});
     EXPECT_EQ(0x38FB, app.store.Message);
     // Reading "Settings" creates the key even when nothing is in it.
     std::unique_ptr<platform::RegistryKey> key;
     EXPECT_EQ(0, fake.registry().OpenKey(L"Software\\Tarnwick\\QOR\\Main001\\Settings", key));
-}
-
-TEST_F(StartupTest, EditorsReadMessageWithItsDefault) {
-    Run({L"/D", L"x"});
-    EXPECT_EQ(-1, app.store.Message) << "every confirmation on";
-}
-
-TEST_F(StartupTest, HostSwitchStringAndTheHandBack) {
-    fake.windows().AddHostWindow(0x1111);
-    fake.windows().AddHostWindow(0x2222);
-    struct Case {
-        const wchar_t* switches;  // null: the variable is absent
-        int32_t mode;
-        std::vector<platform::WindowRef> broughtForward;
-    };
-    const Case cases[] = {
-        {nullptr, 0, {}},
-        {L"3:1:1:2:100:0:0:0:share:x", 3, {0x1111}},
-        {L"2:2:1:2:100:0:0:0:Share:x", 2, {}},  // only reactivation 1 hands back
-        {L"3:1:1:2:100:0:0:0:Share", 0, {}},    // nine fields are no switch string
-    };
-    for (const auto& c : cases) {
-        std::vector<platform::WindowRef> before = fake.windows().foreground();
-        if (c.switches)
-            fake.environment().SetVariable(L"QOR_ExCommand", c.switches);
-        else
-            fake.environment().RemoveVariable(L"QOR_ExCommand");
-        AppServices fresh{96};
-        RecordingTargets targets;
-        RunStartup(fresh, targets, {L"/T", L"x"});
-        std::string label = c.switches ? testing::PrintToString(std::wstring(c.switches)) : "absent";
-        EXPECT_EQ(c.mode, fresh.host.windowMode) << label;
-        std::vector<platform::WindowRef> now(fake.windows().foreground().begin() + before.size(),
-                                             fake.windows().foreground().end());
-        EXPECT_EQ(c.broughtForward, now) << label;
-    }
 }
 
 // The language library, the command lists and the presence mutex are there while the target runs and

@@ -4,17 +4,6 @@
 
 namespace {
 
-TEST(FakePlatform, IsInForceForItsLifetimeAndRestoresTheOneBefore) {
-    platform::fake::FakePlatform outer;
-    EXPECT_EQ(&outer.registry(), &platform::Current().registry);
-    {
-        platform::fake::FakePlatform inner;
-        EXPECT_EQ(&inner.files(), &platform::Current().files);
-        EXPECT_EQ(&inner.prompts(), &platform::Current().prompts);
-    }
-    EXPECT_EQ(&outer.environment(), &platform::Current().environment);
-}
-
 TEST(FakeEnvironment, VariableNamesIgnoreCase) {
     platform::fake::FakePlatform fakes;
     auto& environment = fakes.environment();

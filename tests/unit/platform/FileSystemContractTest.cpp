@@ -152,21 +152,16 @@ TEST_P(FileSystemContract, FullPathsFollowTheRealRules) {
         std::wstring path;
         std::wstring full;
     };
+    // clang-format off
     const Case cases[] = {
-        {L"a\\..\\b\\.\\c", At(L"b\\c")},
-        {L"x/y", At(L"x\\y")},
+        {L"a\\..\\b\\.\\c", At(L"b\\c")}, {L"x/y", At(L"x\\y")}, {At(L"a\\\\b"), At(L"a\\b")},
         {At(L"dir\\name. . "), At(L"dir\\name")},  // trailing dots and blanks of the last name
         {At(L"na.me.\\x"), At(L"na.me\\x")},       // trailing dots of any name
-        {At(L"a\\\\b"), At(L"a\\b")},
-        {At(L"a\\b\\"), At(L"a\\b\\")},
-        {At(L"a\\b\\."), At(L"a\\b")},
+        {At(L"a\\b\\"), At(L"a\\b\\")}, {At(L"a\\b\\."), At(L"a\\b")}, {At(L"a\\b\\.\\"), At(L"a\\b\\")},
         {At(L"a\\b\\..\\"), At(L"a\\")},  // a separator behind ".." stays
-        {At(L"a\\b\\.\\"), At(L"a\\b\\")},
-        {L".", root_},
-        {L"..", parent},
-        {drive + L"\\a\\..\\..\\..", drive + L"\\"},
-        {L"\\top", drive + L"\\top"},
+        {L".", root_}, {L"..", parent}, {drive + L"\\a\\..\\..\\..", drive + L"\\"}, {L"\\top", drive + L"\\top"},
     };
+    // clang-format on
     for (const Case& c : cases) {
         std::wstring full = L"poison";
         EXPECT_TRUE(files().FullPathName(c.path, 1024, full)) << testing::PrintToString(c.path);
@@ -188,15 +183,13 @@ TEST_P(FileSystemContract, CreatingDirectoriesGivesTheShellCodes) {
         std::wstring path;
         int result;
     };
+    // clang-format off
     const Case cases[] = {
-        {At(L"a\\b\\c"), 0},        // with every missing parent
-        {At(L"A\\B\\C"), 183},      // already there
-        {At(L"t\\"), 0},            // a trailing separator
-        {At(L"file.txt"), 183},     // a file of that name
-        {At(L"file.txt\\sub"), 3},  // below a file
-        {L"rel\\x", 161},           // relative
-        {L"", 161},
+        {At(L"a\\b\\c"), 0}, {At(L"A\\B\\C"), 183}, {At(L"t\\"), 0},  // every missing parent; already there
+        {At(L"file.txt"), 183}, {At(L"file.txt\\sub"), 3},     // a file of that name, below a file
+        {L"rel\\x", 161}, {L"", 161},                           // relative
     };
+    // clang-format on
     for (const Case& c : cases)
         EXPECT_EQ(c.result, files().CreateDirectoryTree(c.path)) << testing::PrintToString(c.path);
     enum Kind { Nothing, File, Directory };
@@ -222,16 +215,14 @@ TEST_P(FileSystemContract, FindMatchesWildcardsInTheLastName) {
         std::wstring pattern;
         Names names;
     };
+    // clang-format off
     const Case cases[] = {
-        {At(L"*.txt"), {L"alpha.txt", L"beta.txt"}},
-        {At(L"?eta.*"), {L"beta.txt"}},
+        {At(L"*.txt"), {L"alpha.txt", L"beta.txt"}}, {At(L"?eta.*"), {L"beta.txt"}},
         {At(L"GAMMA.LOG"), {L"Gamma.log"}},  // the name as stored
-        {At(L"*"), {L".", L"..", L"alpha.txt", L"beta.txt", L"Gamma.log", L"sub"}},
-        {At(L"sub\\*"), {L".", L".."}},
-        {At(L"nothing*"), {}},
-        {At(L"sub\\"), {}},  // a trailing separator finds nothing
-        {At(L"missing\\*"), {}},
+        {At(L"*"), {L".", L"..", L"alpha.txt", L"beta.txt", L"Gamma.log", L"sub"}}, {At(L"sub\\*"), {L".", L".."}},
+        {At(L"nothing*"), {}}, {At(L"sub\\"), {}} /* a trailing separator finds nothing */, {At(L"missing\\*"), {}},
     };
+    // clang-format on
     for (FindStyle style : {FindStyle::Plain, FindStyle::BasicLargeFetch}) {
         for (const Case& c : cases) {
             EXPECT_EQ(c.names, FoundNames(c.pattern, style)) << testing::PrintToString(c.pattern);
@@ -347,15 +338,16 @@ TEST_P(FileSystemContract, ReplaceTakesTheTargetsPlaceOrLeavesBoth) {
         Holder holder;
         uint32_t error;
     };
+    // clang-format off
     const Case cases[] = {
-        {"an existing file", Standing::File, Holder::None, 0},
-        {"no file yet", Standing::Nothing, Holder::None, 0},
+        {"an existing file", Standing::File, Holder::None, 0}, {"no file yet", Standing::Nothing, Holder::None, 0},
         {"a read-only file", Standing::ReadOnlyFile, Holder::None, 5},  // ERROR_ACCESS_DENIED
         {"a directory", Standing::Directory, Holder::None, 5},
         {"a file a reader holds", Standing::File, Holder::ReaderDenyingWriters, 5},
         {"a file a writer holds", Standing::File, Holder::Writer, 5},
         {"a file held for itself alone", Standing::File, Holder::DenyAll, 5},
     };
+    // clang-format on
     int number = 0;
     for (const Case& c : cases) {
         SCOPED_TRACE(c.label);
@@ -457,30 +449,5 @@ TEST_P(FileSystemContract, ShellVersionIsAVersionNumber) {
 INSTANTIATE_TEST_SUITE_P(FileSystem, FileSystemContract,
                          testing::ValuesIn(contract::Implementations<FileSystemHarness, FakeHarness, RealHarness>()),
                          contract::NameOf);
-
-TEST(FakeFileSystem, ShortNamesDrivesAndScene) {
-    platform::fake::FakeFileSystem files;
-    ASSERT_TRUE(files.AddFile(L"C:\\Program Files\\Qor\\Qor.exe", "MZ"));
-    ASSERT_TRUE(files.SetShortName(L"C:\\Program Files", L"PROGRA~1"));
-    std::wstring longPath;
-    EXPECT_TRUE(files.LongPathName(L"c:\\progra~1\\QOR\\qor.exe", longPath));
-    EXPECT_EQ(L"c:\\Program Files\\QOR\\qor.exe", longPath) << "only the short name changes";
-    EXPECT_EQ("MZ", files.FileText(L"C:\\PROGRA~1\\Qor\\Qor.exe"));
-
-    EXPECT_EQ(platform::kInvalidAttributes, files.GetAttributes(L"D:\\"));
-    files.AddDrive(L'd');
-    EXPECT_EQ(platform::kAttributeDirectory, files.GetAttributes(L"D:\\"));
-    files.ChangeDirectory(L"D:\\work\\");
-    std::wstring full;
-    EXPECT_TRUE(files.FullPathName(L"x", 260, full));
-    EXPECT_EQ(L"D:\\work\\x", full);
-
-    FindData found;
-    files.FindFirst(L"C:\\*", platform::FindStyle::BasicLargeFetch, found);
-    EXPECT_EQ(L"Program Files", found.name) << "a drive root has no dot entries";
-    EXPECT_EQ(platform::FindStyle::BasicLargeFetch, files.lastFindStyle());
-    files.SetShellVersion(601);
-    EXPECT_EQ(601, files.ShellVersion());
-}
 
 }  // namespace
