@@ -83,30 +83,23 @@ TEST_F(StartupTest, DispatchesOnTheEffectiveSwitch) {
     EXPECT_TRUE(fake.prompts().shown().empty());
 }
 
+// "/A" opens a file of one "run" line in the run editor, of one "exrun" line in the exrun editor, and
+// anything else as a script.
 TEST_F(StartupTest, AutomaticSwitchFollowsTheFileKind) {
-    struct Case {
-        const wchar_t* content;
-        int kind;
-        std::vector<std::wstring> calls;
+    const std::wstring opened[] = {L"script C:\\d.txt", L"editor 1 C:\\d.txt", L"editor 2 C:\\d.txt"};
+    // clang-format off
+    const std::pair<const wchar_t*, int> cases[] = {
+        {L"run=notepad.exe", 2}, {L"\uFEFF// comment\r\n\tRUN = x\r\n", 2}, {L"exrun=a\r\n", 1},
+        {L"exrun=a\r\nrun=b\r\n", 0}, {L"run=a\r\nrun=b\r\n", 0}, {L"run=a\r\nexec=b\r\n", 0},
+        {L"run=\r\nrun=b\r\n", 2}, {L"exrun=   \r\n", 0}, {L"run=a\r\nEOF\r\nrun=b\r\n", 2},
+        {L"run=a\r\neof\r\nrun=b\r\n", 0}, {L"//run=a\r\nrunx=b\r\nrun a\r\n", 0}, {L"call=x\r\nrun=a\r\n", 0},
     };
-    const Case cases[] = {
-        {L"run=notepad.exe", 2, {L"editor 2 C:\\d.txt"}},
-        {L"\uFEFF// comment\r\n\tRUN = x\r\n", 2, {L"editor 2 C:\\d.txt"}},
-        {L"exrun=a\r\n", 1, {L"editor 1 C:\\d.txt"}},
-        {L"exrun=a\r\nrun=b\r\n", 0, {L"script C:\\d.txt"}},
-        {L"run=a\r\nrun=b\r\n", 0, {L"script C:\\d.txt"}},
-        {L"run=a\r\nexec=b\r\n", 0, {L"script C:\\d.txt"}},
-        {L"run=\r\nrun=b\r\n", 2, {L"editor 2 C:\\d.txt"}},
-        {L"exrun=   \r\n", 0, {L"script C:\\d.txt"}},
-        {L"run=a\r\nEOF\r\nrun=b\r\n", 2, {L"editor 2 C:\\d.txt"}},
-        {L"run=a\r\neof\r\nrun=b\r\n", 0, {L"script C:\\d.txt"}},
-        {L"//run=a\r\nrunx=b\r\nrun a\r\n", 0, {L"script C:\\d.txt"}},
-        {L"call=x\r\nrun=a\r\n", 0, {L"script C:\\d.txt"}},
-    };
-    for (const auto& c : cases) {
-        fake.files().AddFile(L"C:\\d.txt", Utf16Bytes(c.content));
-        EXPECT_EQ(c.kind, SniffDefinitionFile(L"C:\\d.txt")) << testing::PrintToString(std::wstring(c.content));
-        EXPECT_EQ(c.calls, Run({L"/A", L"C:\\d.txt"})) << testing::PrintToString(std::wstring(c.content));
+    // clang-format on
+    for (const auto& [content, kind] : cases) {
+        fake.files().AddFile(L"C:\\d.txt", Utf16Bytes(content));
+        EXPECT_EQ(kind, SniffDefinitionFile(L"C:\\d.txt")) << testing::PrintToString(std::wstring(content));
+        EXPECT_EQ(std::vector<std::wstring>{opened[kind]}, Run({L"/A", L"C:\\d.txt"}))
+            << testing::PrintToString(std::wstring(content));
     }
 }
 

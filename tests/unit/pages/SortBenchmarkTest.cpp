@@ -44,7 +44,7 @@ TEST(SortBenchmark, SortsLikeStableSortInBothDirections) {
     std::vector<Keyed> scratch;
     for (size_t n : lengths) {
         for (size_t threshold : thresholds) {
-            for (int depth : {0, 2}) {
+            for (int depth : {0, 2}) {  // 2: the halves are sorted in parallel sections
                 for (bool descending : {false, true}) {
                     std::vector<Keyed> sorted = Shuffled(n, 1 + static_cast<int64_t>(n) / 4, static_cast<uint32_t>(n));
                     std::vector<Keyed> expected = sorted;
@@ -76,29 +76,6 @@ TEST(SortBenchmark, EachRunFlipsTheDirectionStartingAscending) {
                 EXPECT_EQ(*expected, values) << n << " " << threshold;
             }
         }
-    }
-}
-
-TEST(SortBenchmark, DepthIsTheFloorOfLog2OfTheThreads) {
-    const std::pair<int, int> cases[] = {{1, 0}, {2, 1}, {3, 1}, {4, 2}, {7, 2}, {8, 3}, {64, 6}};
-    for (auto [threads, depth] : cases) EXPECT_EQ(depth, sortbench::SortDepth(threads)) << threads;
-}
-
-TEST(SortBenchmark, ParallelSectionsBeginBelowDepthTwo) {
-    // Depth 1, what two threads give, still sorts in sequence; each further level nests one region.
-    const std::pair<int, int> cases[] = {{0, 0}, {1, 0}, {2, 1}, {3, 2}};
-    for (auto [depth, levels] : cases) {
-        int deepest = 0;
-        auto less = [&deepest](int64_t x, int64_t y) {
-#pragma omp critical
-            deepest = std::max(deepest, omp_get_level());
-            return x < y;
-        };
-        std::vector<int64_t> values = {5, 1, 4, 2, 8, 7, 3, 6, 0, 9, 11, 10};
-        std::vector<int64_t> scratch;
-        MergeSort(std::span<int64_t>(values), scratch, 0, depth, false, less);
-        EXPECT_EQ(levels, deepest) << depth;
-        EXPECT_TRUE(std::is_sorted(values.begin(), values.end())) << depth;
     }
 }
 
