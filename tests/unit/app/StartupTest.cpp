@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <functional>
+#include <tuple>
 
 #include "app/SniffDefinitionFile.h"
 #include "app/Startup.h"
@@ -146,22 +147,16 @@ TEST_F(StartupTest, SettingsReadAtStart) {
 // gone after it.
 TEST_F(StartupTest, WhatTheTargetFindsIsHeldForItAndLetGoAfterIt) {
     fake.files().AddFile(std::wstring(kUserDir) + L"PlugInCommand.txt", Utf16Bytes(L"41501\t\t\tx.dll\tPlug-in\r\n"));
-    int libraries = -1;
-    std::wstring listed;
-    bool held = false;
-    RecordingTargets targets;
-    targets.whileOpen = [&] {
-        libraries = fake.system().loadedLibraries();
-        listed = app.commands.LookupListedCommand(41501);
-        held = fake.system().HoldsMutex(L"ExCommand.Option.exe");
+    auto state = [&] {
+        return std::tuple(fake.system().loadedLibraries(), app.commands.LookupListedCommand(41501),
+                          fake.system().HoldsMutex(L"ExCommand.Option.exe"));
     };
+    decltype(state()) whileOpen;
+    RecordingTargets targets;
+    targets.whileOpen = [&] { whileOpen = state(); };
     RunStartup(app, targets, {});
-    EXPECT_EQ(1, libraries);
-    EXPECT_EQ(L"Plug-in", listed);
-    EXPECT_TRUE(held);
-    EXPECT_EQ(0, fake.system().loadedLibraries());
-    EXPECT_EQ(0u, app.commands.size());
-    EXPECT_FALSE(fake.system().HoldsMutex(L"ExCommand.Option.exe"));
+    EXPECT_EQ(std::tuple(1, std::wstring(L"Plug-in"), true), whileOpen);
+    EXPECT_EQ(std::tuple(0, std::wstring(), false), state());
     EXPECT_EQ(L"C:\\Qor\\Lang\\Msg.ja-JP.txt", app.messages.path());
     EXPECT_EQ(L"Software\\Tarnwick\\QOR\\Command\\Option", app.commandOptionRoot);
     // A second copy finds the mutex taken and still runs.

@@ -242,19 +242,26 @@ TEST_P(FileSystemContract, FindMatchesWildcardsInTheLastName) {
     EXPECT_NE(0u, found.attributes & platform::kAttributeDirectory);
 }
 
+// Both ways of opening: writing starts the file afresh, appending goes on behind what it holds and
+// creates a file that is not there, and reading needs the file.
 TEST_P(FileSystemContract, OpenModesReadWriteAndAppend) {
-    std::wstring path = At(L"data.bin");
-    EXPECT_EQ(nullptr, files().Open(path, FileAccess::Read, false)) << "reading needs the file";
-    ASSERT_TRUE(WriteFile(path, std::string("ab\0c", 4)));
-    EXPECT_EQ(std::string("ab\0c", 4), ReadFile(path));
-    ASSERT_TRUE(WriteFile(path, "de", FileAccess::Append));
-    EXPECT_EQ(std::string("ab\0cde", 6), ReadFile(path));
-    ASSERT_TRUE(WriteFile(path, "f"));
-    EXPECT_EQ("f", ReadFile(path)) << "writing starts the file afresh";
-    ASSERT_TRUE(WriteFile(At(L"new.bin"), "g", FileAccess::Append));
-    EXPECT_EQ("g", ReadFile(At(L"new.bin")));
-    EXPECT_EQ("f", ReadFile(L"\\\\?\\" + path)) << "the long-path form";
-
+    for (bool alone : {false, true}) {
+        SCOPED_TRACE(alone ? "held for itself alone" : "shared");
+        auto put = [&](const std::wstring& path, const std::string& bytes, FileAccess access) {
+            uint32_t error = 99;
+            auto file = alone ? files().OpenDenyAll(path, access, error) : files().Open(path, access, false);
+            return file && file->Write(bytes.data(), bytes.size()) == bytes.size() && error == (alone ? 0u : 99u);
+        };
+        const std::wstring path = At(alone ? L"alone.bin" : L"shared.bin"), fresh = path + L".new";
+        EXPECT_FALSE(put(path, "", FileAccess::Read));
+        EXPECT_TRUE(put(path, std::string("ab\0c", 4), FileAccess::Write));
+        EXPECT_TRUE(put(path, "de", FileAccess::Append));
+        EXPECT_EQ(std::string("ab\0cde", 6), ReadFile(path));
+        EXPECT_TRUE(put(path, "f", FileAccess::Write));
+        EXPECT_TRUE(put(fresh, "g", FileAccess::Append));
+        EXPECT_EQ((std::vector<std::string>{"f", "g"}), (std::vector<std::string>{ReadFile(path), ReadFile(fresh)}));
+    }
+    EXPECT_EQ("f", ReadFile(L"\\\\?\\" + At(L"shared.bin"))) << "the long-path form";
     ASSERT_EQ(0, files().CreateDirectoryTree(At(L"dir")));
     EXPECT_EQ(nullptr, files().Open(At(L"dir"), FileAccess::Read, false));
     EXPECT_EQ(nullptr, files().Open(At(L"dir"), FileAccess::Write, false));
@@ -292,22 +299,6 @@ TEST_P(FileSystemContract, SharingDecidesWhoElseMayOpenAHeldFile) {
     }
     EXPECT_EQ("old", ReadFile(path)) << "no refused writer touched it";
     uint32_t error = 99;
-    {
-        auto holder = files().OpenDenyAll(path, FileAccess::Append, error);
-        ASSERT_TRUE(holder);
-        EXPECT_EQ(0u, error);
-        EXPECT_EQ(3u, holder->Write("new", 3));
-    }
-    EXPECT_EQ("oldnew", ReadFile(path)) << "appended, and let go with its holder";
-    {
-        auto holder = files().OpenDenyAll(path, FileAccess::Write, error);
-        ASSERT_TRUE(holder);
-        holder->Write("w", 1);
-    }
-    EXPECT_EQ("w", ReadFile(path)) << "Write starts the file afresh";
-    EXPECT_NE(nullptr, files().OpenDenyAll(At(L"new.txt"), FileAccess::Append, error)) << "Append creates the file";
-    EXPECT_EQ("", ReadFile(At(L"new.txt")));
-
     struct Failure {
         const wchar_t* below;
         FileAccess access;
