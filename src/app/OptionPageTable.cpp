@@ -1,5 +1,6 @@
 #include "app/OptionPageTable.h"
 
+#include <algorithm>
 #include <iterator>
 
 namespace {
@@ -103,6 +104,11 @@ std::wstring HelpPathOf(int id) {
 int GroupTextControlOf(int id) {
     if (id >= 1000 && id <= 1010) return kFirstGroupTextControl + (id - 1000);
     return kFirstGroupTextControl;
+}
+
+bool IsPageId(int id) {
+    auto pages = OptionPages();
+    return std::any_of(pages.begin(), pages.end(), [id](const OptionPageInfo& page) { return page.id == id; });
 }
 
 bool AddTreeItems(int labelList, const std::vector<std::wstring>& labels, std::vector<OptionTreeItem>& items) {

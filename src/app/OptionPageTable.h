@@ -41,6 +41,8 @@ constexpr int kFirstGroupTextControl = 1900;
 std::wstring HelpPathOf(int id);
 // The static control whose text explains a group; unknown ids explain as group 1000.
 int GroupTextControlOf(int id);
+// Whether an id names a page that the dialog switches to.
+bool IsPageId(int id);
 
 // One tree item to insert: its label, its id, and the index (in insertion order) of its parent, or
 // -1 for a root.

@@ -81,6 +81,8 @@ TEST(OptionPageTable, PagesHelpAndGroupTexts) {
     std::set<int> twoTo45;
     for (int id = 2; id <= 45; ++id) twoTo45.insert(id);
     EXPECT_EQ(twoTo45, ids);
+    for (int id : {1, 46, 1000, 1010}) EXPECT_FALSE(IsPageId(id)) << id;
+    EXPECT_TRUE(IsPageId(45));
     EXPECT_EQ(44u, templates.size()) << "each page its own template";
 
     struct HelpCase {
