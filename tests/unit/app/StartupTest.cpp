@@ -121,7 +121,8 @@ TEST_F(StartupTest, MissingLanguageLibraryIsToldAndTheProgramGoesOn) {
 }
 
 // The option dialog reads the settings it shows at start; only the editors read the confirmations, with
-// every one on when none are stored. The host's window mode comes from its switch string.
+// every one on when none are stored. The host's window mode comes from its switch string, and the host
+// is brought back at the end when it asked for it.
 TEST_F(StartupTest, SettingsReadAtStart) {
     Run({L"/D", L"x"});
     EXPECT_EQ(-1, app.store.Message);
@@ -132,7 +133,9 @@ TEST_F(StartupTest, SettingsReadAtStart) {
     store.WriteInt(L"DoubleBuffer", 1);
     store.WriteInt(L"Message", 0x38FB);
     fake.environment().SetVariable(L"QOR_ExCommand", L"3:1:1:2:100:0:0:0:None:x");
+    fake.windows().AddHostWindow(0x1111);
     Run({});
+    EXPECT_EQ(std::vector<platform::WindowRef>{0x1111}, fake.windows().foreground()) << "reactivation 1 hands back";
     EXPECT_EQ((std::vector<int32_t>{200, 1, -1, 3}),
               (std::vector<int32_t>{app.store.Alfa, app.store.DoubleBuffer, app.store.Message, app.host.windowMode}));
     EXPECT_EQ(L"D:\\Mine\\", app.userDir);

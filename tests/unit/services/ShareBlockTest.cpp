@@ -4,6 +4,8 @@
 
 #include <algorithm>
 
+#include "platform/fake/FakePlatform.h"
+
 namespace {
 
 // "|" stands for a zero unit, so that a block as the reader leaves it can be written down.
@@ -14,8 +16,8 @@ std::vector<uint16_t> Units(std::wstring_view text, size_t count = 0) {
     return units;
 }
 
-// Reading the block from the host's mapping, under its mutex, is tried on Windows with the plain
-// layouts; here is how the others split. The split leaves the inspection text to the reader.
+// The plain layouts are read from a real mapping on Windows; here is how the others split. The split leaves the
+// inspection text to the reader.
 TEST(ShareBlock, SplitsTabEndedFieldsAndOverwritesEachTabItPasses) {
     // clang-format off
     struct Case { const char* what; std::wstring text; size_t limit; ShareBlock expected; std::wstring after; };
@@ -46,6 +48,24 @@ TEST(ShareBlock, InspectionTextEndsEveryEntryWithATab) {
     EXPECT_EQ(L"ShareMemMap\nCurrentDir:C:\\w\nOption:-x\na\tb\t\nc\t", ShareBlockInspection(block));
     EXPECT_EQ(L"ShareMemMap\nCurrentDir:\nOption:\n\n", ShareBlockInspection({}));
     EXPECT_EQ(L"ShareMem_-1_20", ShareBlockName(-1, 20));
+}
+
+// Read through the fake host's block: mapped, split under the host's mutex, the view let go before the
+// mutex; a mapping the system refuses is told and skipped.
+TEST(ShareBlock, ReadsUnderTheHostsMutexAndTellsAFailedMapping) {
+    platform::fake::FakePlatform fake;
+    fake.sharedMemory().AddBlock(L"ShareMem_7_8", Units(L"1\t0\tC:\\w\t\ta\t", 32));
+    EXPECT_EQ(std::vector<std::wstring>{L"a"}, ReadShareBlock(7, 8, 64).firstList);
+    EXPECT_EQ(Units(L"1|0|C:\\w||a|", 32), *fake.sharedMemory().Block(L"ShareMem_7_8"));
+    fake.sharedMemory().FailMapping(87);
+    fake.processes().SetErrorText(87, L"The parameter is incorrect.\r\n");
+    EXPECT_EQ(ShareBlock{}, ReadShareBlock(3, 4, 0));
+    EXPECT_EQ((std::vector<std::wstring>{L"map ShareMem_7_8 64", L"mutex ShareMem_7_8_Mutex",
+                                         L"lock ShareMem_7_8_Mutex", L"unlock ShareMem_7_8_Mutex",
+                                         L"unmap ShareMem_7_8", L"close ShareMem_7_8_Mutex", L"map ShareMem_3_4 0"}),
+              fake.sharedMemory().events());
+    EXPECT_EQ((std::vector<platform::fake::ShownMessage>{{L"The parameter is incorrect.\r\n", 0}}),
+              fake.prompts().shown());
 }
 
 }  // namespace
