@@ -225,20 +225,11 @@ double Wcstod(const wchar_t* text, const wchar_t** end) {
     return Compose(m, base, negative);
 }
 
-std::wstring TrimLeft(std::wstring_view text) {
-    size_t first = 0;
-    while (first < text.size() && IsSpace(text[first])) ++first;
-    return std::wstring(text.substr(first));
-}
-
-std::wstring TrimRight(std::wstring_view text) {
-    size_t last = text.size();
-    while (last > 0 && IsSpace(text[last - 1])) --last;
-    return std::wstring(text.substr(0, last));
-}
-
 std::wstring Trim(std::wstring_view text) {
-    return TrimLeft(TrimRight(text));
+    size_t first = 0, last = text.size();
+    while (first < last && IsSpace(text[first])) ++first;
+    while (last > first && IsSpace(text[last - 1])) --last;
+    return std::wstring(text.substr(first, last - first));
 }
 
 std::wstring MakeLower(std::wstring_view text) {

@@ -29,10 +29,8 @@ int32_t Wcstol(const wchar_t* text, const wchar_t** end, int base);
 // "nan" in any case; correctly rounded, +-HUGE_VAL on overflow. *end as for Wcstol.
 double Wcstod(const wchar_t* text, const wchar_t** end);
 
-// CString::Trim, TrimLeft, TrimRight: white space as IsSpace.
+// CString::Trim: white space as IsSpace, from both ends.
 std::wstring Trim(std::wstring_view text);
-std::wstring TrimLeft(std::wstring_view text);
-std::wstring TrimRight(std::wstring_view text);
 
 // CString::Replace: every occurrence of piece, matched with case, in one pass from the left; an
 // empty piece changes nothing. Returns the number replaced.

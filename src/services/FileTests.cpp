@@ -1,7 +1,6 @@
 #include "services/FileTests.h"
 
 #include "platform/Platform.h"
-#include "services/LongPath.h"
 #include "services/PathHelpers.h"
 
 platform::FindStyle SearchStyle() {
@@ -12,8 +11,4 @@ platform::FindStyle SearchStyle() {
 bool FileExists(const std::wstring& path) {
     platform::FindData found;
     return platform::Current().files.FindFirst(StripSeparator(path), SearchStyle(), found);
-}
-
-uint32_t FileAttributes(const std::wstring& path) {
-    return platform::Current().files.GetAttributes(ToLongPathForm(path));
 }

@@ -8,7 +8,5 @@
 
 // True when a file or directory of that name exists (the path less its trailing separator is searched for).
 bool FileExists(const std::wstring& path);
-// GetFileAttributesW on the long-path form; platform::kInvalidAttributes when absent.
-uint32_t FileAttributes(const std::wstring& path);
 // The faster search with large fetch, or the plain one on the shells of the early 2000s that lack it.
 platform::FindStyle SearchStyle();

@@ -21,10 +21,6 @@ void FakeEnvironment::SetVariable(const std::wstring& name, const std::wstring& 
     if (!added) it->second.value = value;
 }
 
-void FakeEnvironment::RemoveVariable(const std::wstring& name) {
-    variables_.erase(UpperCase(name));
-}
-
 std::wstring FakeEnvironment::FormatLocalTime(int64_t time, const std::wstring& format, size_t bufferChars) {
     return FormatCLocaleTime(time + utcOffset_, format, bufferChars);
 }

@@ -28,7 +28,6 @@ public:
 
     // Names ignore case; the name keeps the spelling it was first set with.
     void SetVariable(const std::wstring& name, const std::wstring& value);
-    void RemoveVariable(const std::wstring& name);
     void SetModuleFileName(const std::wstring& path) { moduleFileName_ = path; }
     void SetIconTitleFont(const LogFont& font) { iconTitleFont_ = font; }
     // An empty text makes the call fail.

@@ -210,9 +210,4 @@ long FakeRegistry::DeleteKey(const std::wstring& path) {
     return kRegistryOk;
 }
 
-bool FakeRegistry::KeyExists(const std::wstring& path) const {
-    std::shared_ptr<Node> node;
-    return const_cast<FakeRegistry*>(this)->Find(path, false, node) == kRegistryOk;
-}
-
 }  // namespace platform::fake

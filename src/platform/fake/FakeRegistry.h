@@ -25,9 +25,6 @@ public:
     void RefuseWrites(bool refuse) { refuseWrites_ = refuse; }
     bool refusesWrites() const { return refuseWrites_; }
 
-    // What tests look at without going through a handle.
-    bool KeyExists(const std::wstring& path) const;
-
     struct Node;
 
 private:

@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <tuple>
+
 #include "app/HostSwitches.h"
 
 namespace {
@@ -24,17 +26,13 @@ TEST(HostSwitches, OnlyExactlyTenFieldsCount) {
         {L":::::::::", true, 0, 0, false},
     };
     for (const auto& c : cases) {
-        HostSwitches switches = ParseHostSwitches(c.text);
-        std::string label = testing::PrintToString(std::wstring(c.text));
-        EXPECT_EQ(c.valid, switches.valid) << label;
-        EXPECT_EQ(c.mode, switches.windowMode) << label;
-        EXPECT_EQ(c.reactivate, switches.reactivate) << label;
-        EXPECT_EQ(c.share, switches.share) << label;
+        HostSwitches s = ParseHostSwitches(c.text);
+        EXPECT_EQ(std::tuple(c.valid, c.mode, c.reactivate, c.share),
+                  std::tuple(s.valid, s.windowMode, s.reactivate, s.share))
+            << testing::PrintToString(std::wstring(c.text));
     }
     HostSwitches block = ParseHostSwitches(L"0:0:12:34:2048:5:6:7:Share:9");
-    EXPECT_EQ(12, block.blockFirst);
-    EXPECT_EQ(34, block.blockSecond);
-    EXPECT_EQ(2048, block.blockSize);
+    EXPECT_EQ(std::tuple(12, 34, 2048), std::tuple(block.blockFirst, block.blockSecond, block.blockSize));
 }
 
 }  // namespace

@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <functional>
+#include <tuple>
 
 #include "app/SniffDefinitionFile.h"
 #include "app/Startup.h"
@@ -83,30 +84,23 @@ TEST_F(StartupTest, DispatchesOnTheEffectiveSwitch) {
     EXPECT_TRUE(fake.prompts().shown().empty());
 }
 
+// "/A" opens a file of one "run" line in the run editor, of one "exrun" line in the exrun editor, and
+// anything else as a script.
 TEST_F(StartupTest, AutomaticSwitchFollowsTheFileKind) {
-    struct Case {
-        const wchar_t* content;
-        int kind;
-        std::vector<std::wstring> calls;
+    const std::wstring opened[] = {L"script C:\\d.txt", L"editor 1 C:\\d.txt", L"editor 2 C:\\d.txt"};
+    // clang-format off
+    const std::pair<const wchar_t*, int> cases[] = {
+        {L"run=notepad.exe", 2}, {L"\uFEFF// comment\r\n\tRUN = x\r\n", 2}, {L"exrun=a\r\n", 1},
+        {L"exrun=a\r\nrun=b\r\n", 0}, {L"run=a\r\nrun=b\r\n", 0}, {L"run=a\r\nexec=b\r\n", 0},
+        {L"run=\r\nrun=b\r\n", 2}, {L"exrun=   \r\n", 0}, {L"run=a\r\nEOF\r\nrun=b\r\n", 2},
+        {L"run=a\r\neof\r\nrun=b\r\n", 0}, {L"//run=a\r\nrunx=b\r\nrun a\r\n", 0}, {L"call=x\r\nrun=a\r\n", 0},
     };
-    const Case cases[] = {
-        {L"run=notepad.exe", 2, {L"editor 2 C:\\d.txt"}},
-        {L"\uFEFF// comment\r\n\tRUN = x\r\n", 2, {L"editor 2 C:\\d.txt"}},
-        {L"exrun=a\r\n", 1, {L"editor 1 C:\\d.txt"}},
-        {L"exrun=a\r\nrun=b\r\n", 0, {L"script C:\\d.txt"}},
-        {L"run=a\r\nrun=b\r\n", 0, {L"script C:\\d.txt"}},
-        {L"run=a\r\nexec=b\r\n", 0, {L"script C:\\d.txt"}},
-        {L"run=\r\nrun=b\r\n", 2, {L"editor 2 C:\\d.txt"}},
-        {L"exrun=   \r\n", 0, {L"script C:\\d.txt"}},
-        {L"run=a\r\nEOF\r\nrun=b\r\n", 2, {L"editor 2 C:\\d.txt"}},
-        {L"run=a\r\neof\r\nrun=b\r\n", 0, {L"script C:\\d.txt"}},
-        {L"//run=a\r\nrunx=b\r\nrun a\r\n", 0, {L"script C:\\d.txt"}},
-        {L"call=x\r\nrun=a\r\n", 0, {L"script C:\\d.txt"}},
-    };
-    for (const auto& c : cases) {
-        fake.files().AddFile(L"C:\\d.txt", Utf16Bytes(c.content));
-        EXPECT_EQ(c.kind, SniffDefinitionFile(L"C:\\d.txt")) << testing::PrintToString(std::wstring(c.content));
-        EXPECT_EQ(c.calls, Run({L"/A", L"C:\\d.txt"})) << testing::PrintToString(std::wstring(c.content));
+    // clang-format on
+    for (const auto& [content, kind] : cases) {
+        fake.files().AddFile(L"C:\\d.txt", Utf16Bytes(content));
+        EXPECT_EQ(kind, SniffDefinitionFile(L"C:\\d.txt")) << testing::PrintToString(std::wstring(content));
+        EXPECT_EQ(std::vector<std::wstring>{opened[kind]}, Run({L"/A", L"C:\\d.txt"}))
+            << testing::PrintToString(std::wstring(content));
     }
 }
 
@@ -126,18 +120,25 @@ TEST_F(StartupTest, MissingLanguageLibraryIsToldAndTheProgramGoesOn) {
               fake.prompts().shown());
 }
 
+// The option dialog reads the settings it shows at start; only the editors read the confirmations, with
+// every one on when none are stored. The host's window mode comes from its switch string, and the host
+// is brought back at the end when it asked for it.
 TEST_F(StartupTest, SettingsReadAtStart) {
+    Run({L"/D", L"x"});
+    EXPECT_EQ(-1, app.store.Message);
     DirectWriteString(kDirectSettingsPath, L"UserDir", L"D:\\Mine\\");
     SettingsStore store;
     store.SelectSection(L"AppInfo");
     store.WriteInt(L"Alfa", 200);
     store.WriteInt(L"DoubleBuffer", 1);
     store.WriteInt(L"Message", 0x38FB);
+    fake.environment().SetVariable(L"QOR_ExCommand", L"3:1:1:2:100:0:0:0:None:x");
+    fake.windows().AddHostWindow(0x1111);
     Run({});
+    EXPECT_EQ(std::vector<platform::WindowRef>{0x1111}, fake.windows().foreground()) << "reactivation 1 hands back";
+    EXPECT_EQ((std::vector<int32_t>{200, 1, -1, 3}),
+              (std::vector<int32_t>{app.store.Alfa, app.store.DoubleBuffer, app.store.Message, app.host.windowMode}));
     EXPECT_EQ(L"D:\\Mine\\", app.userDir);
-    EXPECT_EQ(200, app.store.Alfa);
-    EXPECT_EQ(1, app.store.DoubleBuffer);
-    EXPECT_EQ(0, app.store.Message) << "only the editors read it at start";
     Run({L"/R", L"x"});
     EXPECT_EQ(0x38FB, app.store.Message);
     // Reading "Settings" creates the key even when nothing is in it.
@@ -145,62 +146,20 @@ TEST_F(StartupTest, SettingsReadAtStart) {
     EXPECT_EQ(0, fake.registry().OpenKey(L"Software\\Tarnwick\\QOR\\Main001\\Settings", key));
 }
 
-TEST_F(StartupTest, EditorsReadMessageWithItsDefault) {
-    Run({L"/D", L"x"});
-    EXPECT_EQ(-1, app.store.Message) << "every confirmation on";
-}
-
-TEST_F(StartupTest, HostSwitchStringAndTheHandBack) {
-    fake.windows().AddHostWindow(0x1111);
-    fake.windows().AddHostWindow(0x2222);
-    struct Case {
-        const wchar_t* switches;  // null: the variable is absent
-        int32_t mode;
-        std::vector<platform::WindowRef> broughtForward;
-    };
-    const Case cases[] = {
-        {nullptr, 0, {}},
-        {L"3:1:1:2:100:0:0:0:share:x", 3, {0x1111}},
-        {L"2:2:1:2:100:0:0:0:Share:x", 2, {}},  // only reactivation 1 hands back
-        {L"3:1:1:2:100:0:0:0:Share", 0, {}},    // nine fields are no switch string
-    };
-    for (const auto& c : cases) {
-        std::vector<platform::WindowRef> before = fake.windows().foreground();
-        if (c.switches)
-            fake.environment().SetVariable(L"QOR_ExCommand", c.switches);
-        else
-            fake.environment().RemoveVariable(L"QOR_ExCommand");
-        AppServices fresh{96};
-        RecordingTargets targets;
-        RunStartup(fresh, targets, {L"/T", L"x"});
-        std::string label = c.switches ? testing::PrintToString(std::wstring(c.switches)) : "absent";
-        EXPECT_EQ(c.mode, fresh.host.windowMode) << label;
-        std::vector<platform::WindowRef> now(fake.windows().foreground().begin() + before.size(),
-                                             fake.windows().foreground().end());
-        EXPECT_EQ(c.broughtForward, now) << label;
-    }
-}
-
 // The language library, the command lists and the presence mutex are there while the target runs and
 // gone after it.
 TEST_F(StartupTest, WhatTheTargetFindsIsHeldForItAndLetGoAfterIt) {
     fake.files().AddFile(std::wstring(kUserDir) + L"PlugInCommand.txt", Utf16Bytes(L"41501\t\t\tx.dll\tPlug-in\r\n"));
-    int libraries = -1;
-    std::wstring listed;
-    bool held = false;
-    RecordingTargets targets;
-    targets.whileOpen = [&] {
-        libraries = fake.system().loadedLibraries();
-        listed = app.commands.LookupListedCommand(41501);
-        held = fake.system().HoldsMutex(L"ExCommand.Option.exe");
+    auto state = [&] {
+        return std::tuple(fake.system().loadedLibraries(), app.commands.LookupListedCommand(41501),
+                          fake.system().HoldsMutex(L"ExCommand.Option.exe"));
     };
+    decltype(state()) whileOpen;
+    RecordingTargets targets;
+    targets.whileOpen = [&] { whileOpen = state(); };
     RunStartup(app, targets, {});
-    EXPECT_EQ(1, libraries);
-    EXPECT_EQ(L"Plug-in", listed);
-    EXPECT_TRUE(held);
-    EXPECT_EQ(0, fake.system().loadedLibraries());
-    EXPECT_EQ(0u, app.commands.size());
-    EXPECT_FALSE(fake.system().HoldsMutex(L"ExCommand.Option.exe"));
+    EXPECT_EQ(std::tuple(1, std::wstring(L"Plug-in"), true), whileOpen);
+    EXPECT_EQ(std::tuple(0, std::wstring(), false), state());
     EXPECT_EQ(L"C:\\Qor\\Lang\\Msg.ja-JP.txt", app.messages.path());
     EXPECT_EQ(L"Software\\Tarnwick\\QOR\\Command\\Option", app.commandOptionRoot);
     // A second copy finds the mutex taken and still runs.

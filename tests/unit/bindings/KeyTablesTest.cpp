@@ -35,9 +35,6 @@ TEST(KeyTables, DefaultBindings) {
             << "mode " << c.mode << " modifier " << c.modifier << " key " << testing::PrintToString(c.key);
     }
     for (int mode = 3; mode < kKeyModeCount; ++mode) EXPECT_EQ(defaults.modes[2], defaults.modes[mode]) << mode;
-    // The file's word order: (modifier + 4 * mode) * 76 + key.
-    EXPECT_EQ(35515, defaults.modes[1][46]);
-    EXPECT_EQ(40503, defaults.modes[0][1 * 76 + 75]);
 }
 
 class KeyTableFilesTest : public testing::Test {
@@ -74,16 +71,15 @@ TEST_F(KeyTableFilesTest, LoadingTakesWhatEachFileHolds) {
     KeyTableSet set;
     for (auto& table : set.modes) table.fill(0xBEEF);
     LoadKeyTables(dir, set);
-    const KeyTableSet& defaults = DefaultKeyTables();
-    for (int i = 0; i < 50; ++i) EXPECT_EQ(1000 + i, set.modes[0][i]) << i;
-    for (int i = 50; i < 304; ++i) EXPECT_EQ(0xBEEF, set.modes[0][i]) << i;
-    EXPECT_EQ(defaults.modes[1], set.modes[1]);
-    EXPECT_EQ(0x1234, set.modes[4][0]);
-    EXPECT_EQ(0xABCD, set.modes[4][303]);
-    EXPECT_EQ(0x0201, set.modes[8][0]);
-    EXPECT_EQ(0xBE03, set.modes[8][1]);
-    EXPECT_EQ(0xBEEF, set.modes[8][2]);
-    for (int mode : {2, 3, 5, 6, 7}) EXPECT_EQ(defaults.modes[mode], set.modes[mode]) << mode;
+    KeyTableSet expected = DefaultKeyTables();
+    expected.modes[0].fill(0xBEEF);
+    std::copy(fifty.begin(), fifty.end(), expected.modes[0].begin());
+    expected.modes[4].fill(0x1234);
+    expected.modes[4][303] = 0xABCD;
+    expected.modes[8].fill(0xBEEF);
+    expected.modes[8][0] = 0x0201;
+    expected.modes[8][1] = 0xBE03;
+    EXPECT_EQ(expected.modes, set.modes);
     EXPECT_TRUE(fake.prompts().shown().empty());
 }
 
@@ -103,21 +99,19 @@ TEST_F(KeyTableFilesTest, SavedTablesReadBackAsTheyWere) {
     EXPECT_EQ((std::set<std::wstring>{L"CommandMode.key", L"SerchMode.key", L"Mode3.key", L"Mode4.key", L"Mode5.key",
                                       L"Mode6.key", L"Mode7.key", L"Mode8.key", L"Mode9.key"}),
               names);
-    std::vector<uint8_t> bytes;
+    std::vector<uint8_t> bytes, serch;
     ASSERT_TRUE(fake.files().ReadFile(dir + L"CommandMode.key", bytes));
-    ASSERT_EQ(608u, bytes.size());
-    const size_t enter = 2 * (3 * 76 + 75);
-    EXPECT_EQ(0x01, bytes[enter]);
-    EXPECT_EQ(0x80, bytes[enter + 1]);
-    ASSERT_TRUE(fake.files().ReadFile(dir + L"SerchMode.key", bytes));
-    EXPECT_EQ(608u, bytes.size());
+    ASSERT_TRUE(fake.files().ReadFile(dir + L"SerchMode.key", serch));
+    EXPECT_EQ((std::vector<size_t>{608, 608}), (std::vector<size_t>{bytes.size(), serch.size()}));
+    const size_t enter = 2 * (3 * 76 + 75);  // the file's word order: (modifier + 4 * mode) * 76 + key
+    EXPECT_EQ((std::vector<uint8_t>{0x01, 0x80}),
+              std::vector<uint8_t>(bytes.begin() + enter, bytes.begin() + enter + 2));
 
     KeyTableSet loaded;
     LoadKeyTables(dir, loaded);
-    EXPECT_EQ(saved.modes[0], loaded.modes[0]);
-    EXPECT_EQ(saved.modes[1], loaded.modes[1]);
-    EXPECT_EQ(saved.modes[8], loaded.modes[8]);
-    EXPECT_EQ(DefaultKeyTables().modes[3], loaded.modes[3]);
+    KeyTableSet expected = saved;
+    expected.modes[3] = DefaultKeyTables().modes[3];  // Mode4.key could not be written
+    EXPECT_EQ(expected.modes, loaded.modes);
 }
 
 }  // namespace

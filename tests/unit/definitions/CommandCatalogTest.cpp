@@ -135,18 +135,6 @@ TEST_F(CommandCatalogTest, CommandStrings) {
     }
 }
 
-TEST_F(CommandCatalogTest, ListedCommandsOfARange) {
-    WriteLists({{L"ExternalDefCommand.txt",
-                 L"42002\t\t\tx\tSecond\r\n42001\t\t\tx\tFirst\r\n43000\t\t\tx\tLast\r\n"
-                 L"43001\t\t\tx\tBeyond\r\n40001\t\t\tx\tBefore\r\n"},
-                {L"ExternalUserCommand.txt", L"42600\t\t\tx\tUser\r\n"}});
-    catalog.LoadCommandLists(kUserDir);
-    using Listed = std::vector<std::pair<uint16_t, std::wstring>>;
-    EXPECT_EQ((Listed{{42001, L"First"}, {42002, L"Second"}, {42600, L"User"}, {43000, L"Last"}}),
-              catalog.ListedCommands(42001, 43000));
-    EXPECT_EQ(Listed{}, catalog.ListedCommands(41000, 42000));
-}
-
 // The sample installation's user directory names every external command that a default key of the
 // two listed modes starts, so that a key list written from it shows names and not numbers.
 TEST_F(CommandCatalogTest, TheSampleListsNameTheExternalCommandsOfTheDefaultKeys) {

@@ -10,14 +10,16 @@
 
 namespace {
 
-// The named commands of the last group of external commands only, in list order.
+// The named commands of the last group of external commands only, whichever list names them, in the
+// order of their numbers.
 TEST(DropCommandChoices, OfferTheNamedCommandsOfTheLastExternalGroup) {
     platform::fake::FakePlatform fake;
-    fake.files().AddFile(L"C:\\User\\ExternalUserCommand.txt", Utf16Bytes(L"42001\t\t-\tzip.exe\tPack\r\n"
-                                                                          L"42600\t\t-\tmail.exe\tMail\r\n"
+    fake.files().AddFile(L"C:\\User\\ExternalUserCommand.txt", Utf16Bytes(L"42600\t\t-\tmail.exe\tMail\r\n"
+                                                                          L"42001\t\t-\tzip.exe\tPack\r\n"
                                                                           L"41999\t\t-\tother.exe\tOutside\r\n"
                                                                           L"43001\t\t-\tother.exe\tBeyond\r\n",
                                                                           true));
+    fake.files().AddFile(L"C:\\User\\ExternalDefCommand.txt", Utf16Bytes(L"43000\t\t-\tlast.exe\tLast\r\n", true));
     CommandCatalog commands;
     commands.LoadCommandLists(L"C:\\User\\");
     std::vector<std::wstring> names;
@@ -26,8 +28,8 @@ TEST(DropCommandChoices, OfferTheNamedCommandsOfTheLastExternalGroup) {
         names.push_back(choice.text);
         ids.push_back(choice.command);
     }
-    EXPECT_EQ((std::vector<std::wstring>{L"Pack", L"Mail"}), names);
-    EXPECT_EQ((std::vector<int32_t>{42001, 42600}), ids);
+    EXPECT_EQ((std::vector<std::wstring>{L"Pack", L"Mail", L"Last"}), names);
+    EXPECT_EQ((std::vector<int32_t>{42001, 42600, 43000}), ids);
     EXPECT_EQ((std::vector<int32_t>{0, 1, 1}),
               (std::vector<int32_t>{ShellDropCommand(0), ShellDropCommand(1), ShellDropCommand(2)}));
 }

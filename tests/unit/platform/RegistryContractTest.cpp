@@ -265,53 +265,43 @@ TEST_P(RegistryContract, SubkeysEnumerateInAlphabeticalOrder) {
     EXPECT_EQ((std::vector<std::wstring>{L"a1", L"Alpha", L"B2", L"beta", L"zeta"}), SubkeyNames(*key));
 }
 
-TEST_P(RegistryContract, DeletingFollowsTheRules) {
-    Create(L"parent\\child");
+// Creating makes every missing key on the path; deleting takes one key without subkeys, in any
+// letter case, and a handle to a deleted key fails even when a new key of its path is made.
+TEST_P(RegistryContract, KeysAreCreatedWithTheirPathAndDeletedOneByOne) {
+    Create(L"a\\b\\c\\d");
     Create(L"leaf");
+    auto held = Create(L"gone");
+    ASSERT_EQ(0, registry().DeleteKey(Path(L"gone")));
+    auto again = Create(L"gone");
     struct Case {
+        bool open;  // or delete
         const wchar_t* path;
         long result;
     };
+    // clang-format off
     const Case cases[] = {
-        {L"parent", 5},           // a key with subkeys stays
-        {L"absent", 2},           //
-        {L"no\\such", 2},         // a missing key on the way
-        {L"LEAF", 0},             // any letter case
-        {L"leaf", 2},             // gone now
-        {L"parent\\child\\", 0},  // a trailing separator is ignored
-        {L"parent", 0},           // no subkeys any more
+        {true, L"a", 0}, {true, L"a\\b", 0}, {true, L"A\\B\\C", 0}, {true, L"a\\b\\c\\D", 0}, {true, L"a\\b\\x", 2},
+        {false, L"a\\b\\c", 5},      // a key with subkeys stays
+        {false, L"absent", 2}, {false, L"no\\such", 2},  // a missing key on the way
+        {false, L"LEAF", 0}, {false, L"leaf", 2},
+        {false, L"a\\b\\c\\d\\", 0},  // a trailing separator is ignored
+        {false, L"a\\b\\c", 0}, {true, L"a\\b\\c", 2},
     };
-    for (const Case& c : cases)
-        EXPECT_EQ(c.result, registry().DeleteKey(Path(c.path))) << testing::PrintToString(c.path);
-    auto key = Create(L"k");
-    EXPECT_EQ(2, key->DeleteValue(L"absent"));
-}
-
-TEST_P(RegistryContract, HandlesToADeletedKeyFail) {
-    auto held = Create(L"gone");
-    ASSERT_EQ(0, registry().DeleteKey(Path(L"gone")));
-    auto again = Create(L"gone");  // a new key of the same path does not revive the old handle
-
+    // clang-format on
+    for (const Case& c : cases) {
+        std::unique_ptr<RegistryKey> key;
+        EXPECT_EQ(c.result, c.open ? registry().OpenKey(Path(c.path), key) : registry().DeleteKey(Path(c.path)))
+            << (c.open ? "open " : "delete ") << testing::PrintToString(c.path);
+    }
+    EXPECT_EQ(2, again->DeleteValue(L"absent"));
     uint32_t data = 1;
     uint32_t size = 4;
     std::wstring name;
-    EXPECT_EQ(1018, held->SetValue(L"v", platform::kRegDword, &data, 4));
-    EXPECT_EQ(1018, held->QueryValue(L"v", nullptr, &data, &size));
-    EXPECT_EQ(1018, held->DeleteValue(L"v"));
-    EXPECT_EQ(1018, held->EnumValueName(0, name));
-    EXPECT_EQ(1018, held->EnumKeyName(0, name));
-    EXPECT_EQ(0, again->SetValue(L"v", platform::kRegDword, &data, 4));
-}
-
-TEST_P(RegistryContract, CreateMakesEveryMissingKeyOnThePath) {
-    auto deep = Create(L"a\\b\\c\\d");
-    ASSERT_TRUE(deep);
-    for (const wchar_t* path : {L"a", L"a\\b", L"A\\B\\C", L"a\\b\\c\\D"}) {
-        std::unique_ptr<RegistryKey> key;
-        EXPECT_EQ(0, registry().OpenKey(Path(path), key)) << testing::PrintToString(path);
-    }
-    std::unique_ptr<RegistryKey> key;
-    EXPECT_EQ(2, registry().OpenKey(Path(L"a\\b\\x"), key));
+    EXPECT_EQ((std::vector<long>{1018, 1018, 1018, 1018, 1018, 0}),
+              (std::vector<long>{held->SetValue(L"v", platform::kRegDword, &data, 4),
+                                 held->QueryValue(L"v", nullptr, &data, &size), held->DeleteValue(L"v"),
+                                 held->EnumValueName(0, name), held->EnumKeyName(0, name),
+                                 again->SetValue(L"v", platform::kRegDword, &data, 4)}));
 }
 
 TEST_P(RegistryContract, PathSpellingsAsTheRealRegistryTreatsThem) {
@@ -341,28 +331,5 @@ TEST_P(RegistryContract, PathSpellingsAsTheRealRegistryTreatsThem) {
 INSTANTIATE_TEST_SUITE_P(Registry, RegistryContract,
                          testing::ValuesIn(contract::Implementations<RegistryHarness, FakeHarness, RealHarness>()),
                          contract::NameOf);
-
-TEST(FakeRegistry, RefusesWritesWhenAsked) {
-    platform::fake::FakeRegistry registry;
-    std::unique_ptr<RegistryKey> key;
-    ASSERT_EQ(0, registry.CreateKey(L"Software\\Existing\\Child", key));
-    uint32_t data = 1;
-    ASSERT_EQ(0, key->SetValue(L"v", platform::kRegDword, &data, 4));
-    registry.RefuseWrites(true);
-
-    std::unique_ptr<RegistryKey> opened;
-    EXPECT_EQ(0, registry.CreateKey(L"software\\existing", opened)) << "an existing key still opens";
-    EXPECT_EQ(5, registry.CreateKey(L"Software\\Existing\\New", opened));
-    EXPECT_FALSE(registry.KeyExists(L"Software\\Existing\\New"));
-    EXPECT_EQ(5, key->SetValue(L"v", platform::kRegDword, &data, 4));
-    EXPECT_EQ(5, key->SetValue(L"w", platform::kRegDword, &data, 4));
-    EXPECT_EQ(5, key->DeleteValue(L"v"));
-    EXPECT_EQ(5, registry.DeleteKey(L"Software\\Existing\\Child"));
-    uint32_t size = 4;
-    EXPECT_EQ(0, key->QueryValue(L"v", nullptr, &data, &size)) << "reads go on";
-
-    registry.RefuseWrites(false);
-    EXPECT_EQ(0, registry.DeleteKey(L"Software\\Existing\\Child"));
-}
 
 }  // namespace

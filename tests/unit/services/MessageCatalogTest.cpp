@@ -78,10 +78,8 @@ TEST(MessageCatalog, ConfirmationsFollowTheirBit) {
     }
     fake.prompts().Clear();
     messages.Confirm(-1, 63329);
-    ASSERT_EQ(1u, fake.prompts().shown().size());
-    EXPECT_EQ(L"question 15\n\nclosing", fake.prompts().shown()[0].text);
-    EXPECT_EQ(L"caption 15", fake.prompts().shown()[0].caption);
-    EXPECT_EQ(static_cast<unsigned>(platform::kStyleYesNo), fake.prompts().shown()[0].style);
+    EXPECT_EQ((std::vector<ShownMessage>{{L"question 15\n\nclosing", platform::kStyleYesNo, L"caption 15"}}),
+              fake.prompts().shown());
 }
 
 TEST(MessageCatalog, PathIsGluedFromTheTagAsItStands) {

@@ -33,23 +33,11 @@ TEST(PathSystem, MakeDirectoryCreatesParentsAndKeepsRoots) {
     EXPECT_NE(0, MakeDirectory(L"C:\\"));
 }
 
-TEST(PathSystem, ExpandEnvironmentReplacesDefinedNamesOnly) {
+// The rules of "%NAME%" are compared with the system's on Windows; the length it stops at is not.
+TEST(PathSystem, ExpandEnvironmentStopsAtTheSystemsLimit) {
     FakePlatform fake;
-    fake.environment().SetVariable(L"Home", L"C:\\Users\\me");
-    fake.environment().SetVariable(L"EMPTY", L"");
-    // clang-format off
-    struct Case { const wchar_t* text; const wchar_t* expected; };
-    const Case cases[] = {
-        {L"%HOME%\\x", L"C:\\Users\\me\\x"}, {L"%home%%HOME%", L"C:\\Users\\meC:\\Users\\me"},
-        {L"%UNKNOWN%\\x", L"%UNKNOWN%\\x"}, {L"%UNKNOWN%HOME%", L"%UNKNOWN%HOME%"}, {L"100%", L"100%"}, {L"%%", L"%%"},
-        {L"a%EMPTY%b", L"ab"}, {L"%HOME", L"%HOME"}, {L"", L""},
-    };
-    // clang-format on
-    for (const auto& c : cases) {
-        EXPECT_EQ(c.expected, ExpandEnvironment(c.text)) << testing::PrintToString(std::wstring(c.text));
-    }
     fake.environment().SetVariable(L"BIG", std::wstring(20000, L'x'));
-    EXPECT_EQ(16383u, ExpandEnvironment(L"%BIG%").size());
+    EXPECT_EQ(std::wstring(16383, L'x'), ExpandEnvironment(L"%BIG%"));
 }
 
 TEST(PathSystem, FileExistsSearchesWithoutTheTrailingSeparator) {
@@ -65,8 +53,6 @@ TEST(PathSystem, FileExistsSearchesWithoutTheTrailingSeparator) {
         EXPECT_TRUE(FileExists(L"C:\\dir\\f.txt"));
         EXPECT_EQ(platform::FindStyle::Plain, fake.files().lastFindStyle()) << oldShell;
     }
-    EXPECT_EQ(platform::kAttributeDirectory, FileAttributes(L"C:\\dir") & platform::kAttributeDirectory);
-    EXPECT_EQ(platform::kInvalidAttributes, FileAttributes(L"C:\\nothing"));
 }
 
 TEST(PathSystem, NormaliseLongNameDropsPrefixesAndLengthensShortNames) {

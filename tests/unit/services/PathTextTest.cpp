@@ -64,29 +64,18 @@ TEST(PathText, SplitPathGivesDriveDirectoryNameExtension) {
     }
 }
 
+// From 260 units on, a path of a drive or a server gains the long-path prefix; others stay as they are.
 TEST(PathText, LongPathFormFrom260Characters) {
     auto tail = [](size_t total, const std::wstring& head) { return head + std::wstring(total - head.size(), L'a'); };
-    struct Case {
-        std::wstring path, expected;
-    };
-    const std::wstring drive259 = tail(259, L"C:\\");
-    const std::wstring drive260 = tail(260, L"C:\\");
-    const std::wstring unc260 = tail(260, L"\\\\srv\\share\\");
-    const std::wstring prefixed = tail(270, L"\\\\?\\C:\\");
-    const std::wstring relative = tail(300, L"..\\");
-    const Case cases[] = {
-        {L"", L""},
-        {drive259, drive259},
-        {drive260, L"\\\\?\\" + drive260},
-        {tail(260, L"d:\\"), L"\\\\?\\" + tail(260, L"d:\\")},
-        {unc260, L"\\\\?\\UNC" + unc260.substr(1)},
-        {prefixed, prefixed},
-        {relative, relative},
+    // clang-format off
+    const std::pair<std::wstring, std::wstring> cases[] = {
+        {L"", L""}, {tail(259, L"C:\\"), tail(259, L"C:\\")}, {tail(260, L"C:\\"), tail(264, L"\\\\?\\C:\\")},
+        {tail(260, L"d:\\"), tail(264, L"\\\\?\\d:\\")}, {tail(260, L"\\\\srv\\share\\"), tail(266, L"\\\\?\\UNC\\srv\\share\\")},
+        {tail(270, L"\\\\?\\C:\\"), tail(270, L"\\\\?\\C:\\")}, {tail(300, L"..\\"), tail(300, L"..\\")},
         {tail(260, L"\u00C4:\\"), tail(260, L"\u00C4:\\")},
     };
-    for (const auto& c : cases) {
-        EXPECT_EQ(c.expected, ToLongPathForm(c.path)) << c.path.size() << " units: " << c.path.substr(0, 12).size();
-    }
+    // clang-format on
+    for (const auto& [path, expected] : cases) EXPECT_EQ(expected, ToLongPathForm(path)) << path.substr(0, 12);
 }
 
 }  // namespace
