@@ -4,17 +4,21 @@
 // dialog cannot do without: its libraries, its template, its tree and its group pane. Then, in each run, how long
 // switching to a page that was never opened takes until the dialog is idle again, and for contrast switching back to
 // one already open and the wait for the idle dialog with nothing to do. Last, Apply with every page opened: each page
-// takes its controls back and stores its settings (no host runs, so nobody is told).
+// takes its controls back and stores its settings (no host runs, so nobody is told). On the key page,
+// switching the modifier, and opening the command picker with its whole tree and 3,000 listed external
+// commands of a user directory of the benchmark's own.
 // Run: wine dialog_benchmark.exe [runs]
 #include <windows.h>
 
 #include <algorithm>
 #include <cstdio>
+#include <filesystem>
 #include <string>
 #include <vector>
 
 #include "app/OptionPageTable.h"
 #include "support/OptionTree.h"
+#include "support/Files.h"
 #include "support/OptionWindow.h"
 #include "support/Process.h"
 #include "support/Registry.h"
@@ -104,6 +108,59 @@ std::vector<double> TimeApplies(const Shown& shown, int count) {
     return times;
 }
 
+constexpr int kKeyList = 1601;
+constexpr int kKeyModifierFirst = 1211;
+constexpr int kKeyEdit = 1301;
+
+// A user directory whose first command list names every external command, 40001 to 43000.
+std::wstring MakeUserDirectory() {
+    const std::filesystem::path user =
+        std::filesystem::temp_directory_path() / ("DialogBenchmark" + std::to_string(GetCurrentProcessId()));
+    std::filesystem::create_directories(user);
+    std::wstring list = L"\xFEFF";
+    for (int id = 40001; id <= 43000; ++id)
+        list += std::to_wstring(id) + L"\t\tN--\tcmd.exe /c echo " + std::to_wstring(id) + L"\tExternal command " +
+                std::to_wstring(id) + L"\r\n";
+    e2e::WriteUtf16File((user / L"ExternalDefCommand.txt").wstring(), list);
+    for (const wchar_t* empty : {L"ExternalUserCommand.txt", L"ScriptCommand.txt", L"ScriptNaviCommand.txt",
+                                 L"UserMenuCommand.txt", L"PlugInCommand.txt"})
+        e2e::WriteUtf16File((user / empty).wstring(), L"\xFEFF");
+    return user.wstring();
+}
+
+struct KeyPageTimes {
+    std::vector<double> modifierSwitch;
+    std::vector<double> pickerOpening;
+};
+
+// The key page, opened by the page switches before: each modifier in turn, then the picker on the
+// first key until it waits for input, closed again.
+KeyPageTimes TimeKeyPage(const Shown& shown) {
+    KeyPageTimes times;
+    HWND page = e2e::PageWith(shown.dialog, kKeyList);
+    if (!page) return times;
+    for (int modifier : {1, 2, 3, 0}) {
+        const double start = Now();
+        SendMessageW(GetDlgItem(page, kKeyModifierFirst + modifier), BM_CLICK, 0, 0);
+        e2e::WaitUntilDialogIdle(shown.dialog, shown.process.Handle());
+        times.modifierSwitch.push_back(Now() - start);
+    }
+    // The first key selected as the keyboard would, then Edit.
+    HWND list = GetDlgItem(page, kKeyList);
+    PostMessageW(list, WM_KEYDOWN, VK_HOME, 0);
+    e2e::WaitUntilDialogIdle(shown.dialog, shown.process.Handle());
+    const double start = Now();
+    PostMessageW(page, WM_COMMAND, MAKEWPARAM(kKeyEdit, BN_CLICKED), reinterpret_cast<LPARAM>(GetDlgItem(page, kKeyEdit)));
+    HWND picker = e2e::FindVisibleWindow(shown.process.Id(), L"機能一覧", kTimeoutMs, 1);
+    if (!picker) return times;
+    WaitForInputIdle(shown.process.Handle(), kTimeoutMs);
+    e2e::WaitUntilDialogIdle(picker, shown.process.Handle());
+    times.pickerOpening.push_back(Now() - start);
+    PostMessageW(picker, WM_COMMAND, MAKEWPARAM(IDCANCEL, BN_CLICKED), 0);
+    e2e::WaitUntilDialogIdle(shown.dialog, shown.process.Handle());
+    return times;
+}
+
 struct Figures {
     explicit Figures(const char* name) : what(name) {}
 
@@ -128,6 +185,9 @@ struct Figures {
 int wmain(int argc, wchar_t** argv) {
     // Apply stores every opened page's settings; the tests that run later expect the settings they left.
     e2e::registry::ScopedKey settings(L"Software\\Tarnwick");
+    const std::wstring user = MakeUserDirectory();
+    e2e::registry::WriteDword(L"Software\\Tarnwick\\Qor\\Main001\\Settings", L"UserDirMode", 2);
+    e2e::registry::WriteString(L"Software\\Tarnwick\\Qor\\Main001\\Settings", L"UserDir", user);
     int runs = argc > 1 ? _wtoi(argv[1]) : 21;
     if (runs < 1) runs = 1;
     const std::wstring floorProgram = e2e::TestDirectory() + L"\\EmptyDialog.exe";
@@ -141,6 +201,7 @@ int wmain(int argc, wchar_t** argv) {
     Figures firstSwitch{"switch to a page never opened"}, againSwitch{"switch to a page already open"};
     Figures firstSelection{"  of which the selection message"}, idle{"waiting for the idle dialog alone"};
     Figures apply{"Apply with every page opened"};
+    Figures modifierSwitch{"key page: a switch of modifier"}, picker{"command picker, its first opening in a run"};
     // The first run of each warms the caches and is not counted.
     for (int i = 0; i <= runs; ++i) {
         Shown empty = StartAndTime(floorProgram, L"Empty");
@@ -169,6 +230,7 @@ int wmain(int argc, wchar_t** argv) {
         Switches again = TimePageSwitches(shown);
         std::vector<double> probes = TimeIdleProbes(shown, 10);
         std::vector<double> applies = TimeApplies(shown, 5);
+        KeyPageTimes keys = TimeKeyPage(shown);
         if (!Close(shown)) {
             std::printf("the option dialog did not end on Cancel\n");
             return 1;
@@ -183,6 +245,8 @@ int wmain(int argc, wchar_t** argv) {
         againSwitch.times.insert(againSwitch.times.end(), again.total.begin(), again.total.end());
         idle.times.insert(idle.times.end(), probes.begin(), probes.end());
         apply.times.insert(apply.times.end(), applies.begin(), applies.end());
+        modifierSwitch.times.insert(modifierSwitch.times.end(), keys.modifierSwitch.begin(), keys.modifierSwitch.end());
+        picker.times.insert(picker.times.end(), keys.pickerOpening.begin(), keys.pickerOpening.end());
     }
     const double floorMs = floor.Print();
     const double controlsMs = controls.Print();
@@ -201,5 +265,8 @@ int wmain(int argc, wchar_t** argv) {
     againSwitch.Print();
     idle.Print();
     std::printf("Apply: median %.1f ms (target under 20 ms)\n", apply.Print());
+    std::printf("key page modifier switch: median %.1f ms (target under 15 ms)\n", modifierSwitch.Print());
+    std::printf("command picker opening: median %.1f ms (target under 150 ms)\n", picker.Print());
+    std::filesystem::remove_all(user);
     return 0;
 }
