@@ -133,29 +133,6 @@ TEST_F(OptionPagesTest, OutOfRangeFieldsRefuseApply) {
     }
 }
 
-// The general page stores its checks, the threshold and IME in "Settings"; ListReserveVal is only
-// read.
-TEST_F(OptionPagesTest, GeneralPageStoresItsGroupAndImeElsewhere) {
-    DirectWriteInt(kSettings, L"IME", 0);
-    COptionDlg dialog(app_);
-    HWND page = Open(dialog, 20);
-    ASSERT_NE(nullptr, page);
-    EXPECT_TRUE(Checked(page, 1251));
-    EXPECT_FALSE(Checked(page, 1254));
-    EXPECT_EQ(L"10", Field(page, 1003));
-
-    Click(page, 1254);
-    Click(page, 1252);
-    Type(page, 1003, L"0");
-    Apply(dialog);
-    EXPECT_EQ(1, DirectReadInt(kSettings, L"IME", -1));
-    EXPECT_EQ(1, DirectReadInt(kAppInfo, L"DisableAnimation", -1));
-    EXPECT_EQ(0, DirectReadInt(kAppInfo, L"ChgSortAlg", -1));
-    EXPECT_EQ(1, DirectReadInt(kAppInfo, L"UseCompFolder", -1)) << "every value of the group is written";
-    EXPECT_EQ(-1, DirectReadInt(kAppInfo, L"ListReserveVal", -1));
-    EXPECT_EQ(std::vector<uint16_t>{49017}, Codes());
-}
-
 // The benchmark reports in a message box and shows the threshold it found; only Apply stores it.
 TEST_F(OptionPagesTest, BenchmarkShowsItsReportAndTheThresholdItFound) {
     DirectWriteInt(kAppInfo, L"ChgSortAlg", 777);
