@@ -25,14 +25,8 @@ public:
     int GetCurSel() const { return static_cast<int>(Send(CB_GETCURSEL)); }
     // -1 clears the selection.
     int SetCurSel(int index) const { return static_cast<int>(Send(CB_SETCURSEL, static_cast<WPARAM>(index))); }
-    std::wstring GetLBText(int index) const { return ItemText(CB_GETLBTEXTLEN, CB_GETLBTEXT, index); }
     LPARAM GetItemData(int index) const { return Send(CB_GETITEMDATA, static_cast<WPARAM>(index)); }
     void SetItemData(int index, LPARAM data) const { Send(CB_SETITEMDATA, static_cast<WPARAM>(index), data); }
-    // The first item after start whose whole text matches, ignoring case; -1 searches from the top.
-    int FindStringExact(int start, const std::wstring& text) const {
-        return static_cast<int>(
-            Send(CB_FINDSTRINGEXACT, static_cast<WPARAM>(start), reinterpret_cast<LPARAM>(text.c_str())));
-    }
     void LimitText(int count) const { Send(CB_LIMITTEXT, static_cast<WPARAM>(count)); }
 };
 

@@ -12,14 +12,6 @@ std::wstring Control::Text() const {
     return std::wstring(buffer.data(), static_cast<size_t>(copied > 0 ? copied : 0));
 }
 
-std::wstring Control::ItemText(UINT lengthMessage, UINT textMessage, int index) const {
-    LRESULT length = Send(lengthMessage, static_cast<WPARAM>(index));
-    if (length < 0) return {};
-    std::vector<wchar_t> buffer(static_cast<size_t>(length) + 1, L'\0');
-    LRESULT copied = Send(textMessage, static_cast<WPARAM>(index), reinterpret_cast<LPARAM>(buffer.data()));
-    return copied < 0 ? std::wstring() : std::wstring(buffer.data(), static_cast<size_t>(copied));
-}
-
 bool Control::IsClass(const wchar_t* className) const {
     wchar_t name[64] = {};
     if (!window_ || !GetClassNameW(window_, name, 64)) return false;

@@ -32,10 +32,6 @@ public:
     // Whether the window's class is this one, ignoring case ("Edit", WC_COMBOBOXW, ...).
     bool IsClass(const wchar_t* className) const;
 
-protected:
-    // The text of a list's item by its length and text messages (LB_ or CB_); empty for no such item.
-    std::wstring ItemText(UINT lengthMessage, UINT textMessage, int index) const;
-
 private:
     HWND window_ = nullptr;
 };

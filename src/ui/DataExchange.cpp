@@ -97,38 +97,12 @@ void DDX_Text(DataExchange& dx, int id, uint32_t& value) {
     TakeNumber(dx, control, value, fieldtext::ParseUInt, fieldtext::PositiveIntegerExpected());
 }
 
-void DDX_Text(DataExchange& dx, int id, double& value) {
-    HWND control = dx.PrepareControl(id);
-    if (!dx.saving()) return ShowText(control, fieldtext::ShowDouble(value));
-    TakeNumber(dx, control, value, fieldtext::ParseDouble, fieldtext::NumberExpected());
-}
-
-void DDX_CBIndex(DataExchange& dx, int id, int32_t& index) {
-    HWND control = dx.PrepareControl(id);
-    if (dx.saving())
-        index = static_cast<int32_t>(SendMessageW(control, CB_GETCURSEL, 0, 0));
-    else
-        SendMessageW(control, CB_SETCURSEL, static_cast<WPARAM>(index), 0);
-}
-
 void DDV_MinMaxInt(DataExchange& dx, int32_t value, int32_t min, int32_t max) {
     if (dx.saving() && (value < min || value > max)) dx.Fail(fieldtext::IntegerBetween(min, max));
 }
 
 void DDV_MinMaxUInt(DataExchange& dx, uint32_t value, uint32_t min, uint32_t max) {
     if (dx.saving() && (value < min || value > max)) dx.Fail(fieldtext::UnsignedBetween(min, max));
-}
-
-void DDV_MaxChars(DataExchange& dx, const std::wstring& value, int32_t count) {
-    if (dx.saving()) {
-        if (value.size() > static_cast<size_t>(count)) dx.Fail(fieldtext::NoMoreCharactersThan(count));
-        return;
-    }
-    Control control(dx.lastControl());
-    if (control.IsClass(WC_EDITW))
-        SendMessageW(control.hwnd(), EM_LIMITTEXT, static_cast<WPARAM>(count), 0);
-    else if (control.IsClass(WC_COMBOBOXW))
-        SendMessageW(control.hwnd(), CB_LIMITTEXT, static_cast<WPARAM>(count), 0);
 }
 
 }  // namespace ui

@@ -30,8 +30,6 @@ public:
     HWND PrepareControl(int id);
     // Remembers how to give the member of the control just taken its earlier value back.
     void KeepUndo(std::function<void()> undo) { undo_ = std::move(undo); }
-    // The control last prepared; null before the first.
-    HWND lastControl() const { return last_; }
 
     // Shows the message, puts the last control's member back, focuses and selects the control,
     // and ends the pass.
@@ -53,15 +51,9 @@ void DDX_Radio(DataExchange& dx, int id, int32_t& value);
 void DDX_Text(DataExchange& dx, int id, std::wstring& value);
 void DDX_Text(DataExchange& dx, int id, int32_t& value);
 void DDX_Text(DataExchange& dx, int id, uint32_t& value);
-void DDX_Text(DataExchange& dx, int id, double& value);
-// The selected index of a combo box, -1 for none.
-void DDX_CBIndex(DataExchange& dx, int id, int32_t& index);
 
 // Range checks of the value the DDX_ before took; they check only while saving.
 void DDV_MinMaxInt(DataExchange& dx, int32_t value, int32_t min, int32_t max);
 void DDV_MinMaxUInt(DataExchange& dx, uint32_t value, uint32_t min, uint32_t max);
-// A length limit: the control refuses longer input while loading, and a longer text is refused
-// while saving.
-void DDV_MaxChars(DataExchange& dx, const std::wstring& value, int32_t count);
 
 }  // namespace ui

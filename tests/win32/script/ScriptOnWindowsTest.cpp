@@ -1,11 +1,9 @@
 // Scripts run on the real system: the bytes the output file gets, values in the real registry, the
-// clipboard and the screen, programs started and waited for, the trace window found by its title, and
-// date macros as the C runtime writes the local time. Message boxes stay fake, so that a test sees
-// them instead of blocking on them.
+// clipboard and the screen, programs started and waited for, and the trace window found by its title.
+// Message boxes stay fake, so that a test sees them instead of blocking on them.
 #include <gtest/gtest.h>
 #include <windows.h>
 
-#include <ctime>
 #include <string>
 #include <vector>
 
@@ -286,22 +284,6 @@ TEST_F(ScriptOnWindows, TheTraceWindowHearsEachScript) {
               reports);
     DestroyWindow(trace);
     UnregisterClassW(kTraceClass, GetModuleHandleW(nullptr));
-}
-
-TEST_F(ScriptOnWindows, DateMacrosAreTheRuntimesLocalTime) {
-    const std::wstring script = AddScript(L"date.txt", {L"include = C:\\?Date?_?Time? ?Week? ?WEEK? ?ShellTime?"});
-    for (int attempt = 0; attempt < 3; ++attempt) {
-        const __time64_t before = _time64(nullptr);
-        Run(script);
-        if (_time64(nullptr) != before) continue;
-        struct tm local = {};
-        ASSERT_EQ(0, _localtime64_s(&local, &before));
-        wchar_t expected[256] = {};
-        wcsftime(expected, 256, L"Cannot read C:\\%Y-%m-%d_%H-%M-%S %a %A %c", &local);
-        EXPECT_EQ(std::vector<std::wstring>{expected}, Messages());
-        return;
-    }
-    FAIL() << "the clock never stood still for a moment";
 }
 
 }  // namespace

@@ -1,6 +1,5 @@
 // The option dialog's placement and coming forward, on plain windows of this process: one of the
-// host's class, one that stands for the dialog, and one that holds the foreground before; and the
-// centre a window is placed around.
+// host's class, one that stands for the dialog, and one that holds the foreground before.
 #include "ui/HostPlacement.h"
 
 #include <gtest/gtest.h>
@@ -8,7 +7,6 @@
 
 #include "platform/win32/Win32HostWindows.h"
 #include "services/HostHandshake.h"
-#include "ui/WindowCentre.h"
 #include "win32/support/RealHostPlatform.h"
 
 namespace {
@@ -150,26 +148,6 @@ TEST_F(HostPlacementTest, HoldingCtrlKeepsTheDialogBackUntilTheKeyIsUp) {
     int timers = bringToFrontTimers;
     PumpMessages(150);
     EXPECT_EQ(timers, bringToFrontTimers) << "the timer stops once it came forward";
-}
-
-TEST(WindowCentre, TheMiddleOfTheClientAreaOnTheScreen) {
-    HWND frame = CreateWindowExW(0, L"STATIC", L"", WS_POPUP | WS_BORDER, 100, 200, 302, 102, nullptr, nullptr,
-                                 GetModuleHandleW(nullptr), nullptr);
-    HWND child = CreateWindowExW(0, L"STATIC", L"", WS_CHILD, 10, 20, 41, 60, frame, nullptr, GetModuleHandleW(nullptr),
-                                 nullptr);
-    const struct {
-        HWND window;
-        POINT centre;
-    } cases[] = {
-        {frame, {101 + 150, 201 + 50}},           // the border is no part of the client area
-        {child, {101 + 10 + 20, 201 + 20 + 30}},  // halves are rounded down
-    };
-    for (const auto& c : cases) {
-        POINT centre = ui::WindowCentre(c.window);
-        EXPECT_EQ(c.centre.x, centre.x);
-        EXPECT_EQ(c.centre.y, centre.y);
-    }
-    DestroyWindow(frame);
 }
 
 }  // namespace
