@@ -97,6 +97,14 @@ void DDX_Text(DataExchange& dx, int id, uint32_t& value) {
     TakeNumber(dx, control, value, fieldtext::ParseUInt, fieldtext::PositiveIntegerExpected());
 }
 
+void DDX_CBIndex(DataExchange& dx, int id, int32_t& index) {
+    HWND control = dx.PrepareControl(id);
+    if (dx.saving())
+        index = static_cast<int32_t>(SendMessageW(control, CB_GETCURSEL, 0, 0));
+    else
+        SendMessageW(control, CB_SETCURSEL, static_cast<WPARAM>(index), 0);
+}
+
 void DDV_MinMaxInt(DataExchange& dx, int32_t value, int32_t min, int32_t max) {
     if (dx.saving() && (value < min || value > max)) dx.Fail(fieldtext::IntegerBetween(min, max));
 }

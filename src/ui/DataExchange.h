@@ -52,6 +52,9 @@ void DDX_Text(DataExchange& dx, int id, std::wstring& value);
 void DDX_Text(DataExchange& dx, int id, int32_t& value);
 void DDX_Text(DataExchange& dx, int id, uint32_t& value);
 
+// The selected index of a combo box, -1 for none.
+void DDX_CBIndex(DataExchange& dx, int id, int32_t& index);
+
 // Range checks of the value the DDX_ before took; they check only while saving.
 void DDV_MinMaxInt(DataExchange& dx, int32_t value, int32_t min, int32_t max);
 void DDV_MinMaxUInt(DataExchange& dx, uint32_t value, uint32_t min, uint32_t max);
