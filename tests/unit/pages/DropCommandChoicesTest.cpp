@@ -22,14 +22,10 @@ TEST(DropCommandChoices, OfferTheNamedCommandsOfTheLastExternalGroup) {
     fake.files().AddFile(L"C:\\User\\ExternalDefCommand.txt", Utf16Bytes(L"43000\t\t-\tlast.exe\tLast\r\n", true));
     CommandCatalog commands;
     commands.LoadCommandLists(L"C:\\User\\");
-    std::vector<std::wstring> names;
-    std::vector<int32_t> ids;
-    for (const DropChoice& choice : DropCommands(commands)) {
-        names.push_back(choice.text);
-        ids.push_back(choice.command);
-    }
-    EXPECT_EQ((std::vector<std::wstring>{L"Pack", L"Mail", L"Last"}), names);
-    EXPECT_EQ((std::vector<int32_t>{42001, 42600, 43000}), ids);
+    std::vector<std::pair<std::wstring, int32_t>> offered;
+    for (const DropChoice& choice : DropCommands(commands)) offered.emplace_back(choice.text, choice.command);
+    EXPECT_EQ((std::vector<std::pair<std::wstring, int32_t>>{{L"Pack", 42001}, {L"Mail", 42600}, {L"Last", 43000}}),
+              offered);
     EXPECT_EQ((std::vector<int32_t>{0, 1, 1}),
               (std::vector<int32_t>{ShellDropCommand(0), ShellDropCommand(1), ShellDropCommand(2)}));
 }
