@@ -20,14 +20,9 @@ const wchar_t* const kLabels[] = {
     L"その他/起動制御/サウンド再生/イベントコマンド/確認メッセージ",
 };
 
-struct Expected {
-    int depth;
-    const wchar_t* label;
-    int id;
-};
-
 // The tree as the user sees it, written out independently of the table in the code.
 // clang-format off
+struct Expected { int depth; const wchar_t* label; int id; };
 const Expected kTree[] = {
     {0, L"全体", 1007}, {1, L"外観", 1000}, {2, L"色、フォント", 26}, {2, L"スキン", 12}, {2, L"その他", 37}, {1, L"動作", 20},
     {1, L"共通操作", 24}, {1, L"ネットワーク", 30}, {1, L"インクリメンタルサーチ", 32}, {1, L"バージョンチェック", 34}, {1, L"スクリーンセーバー", 45},

@@ -33,16 +33,14 @@ TEST(DropCommandChoices, OfferTheNamedCommandsOfTheLastExternalGroup) {
 // The stored command's item; 0 is the first shell item, any value no item has the waiting one.
 TEST(DropCommandChoices, SelectTheItemOfTheStoredValue) {
     const std::vector<int32_t> full = {0, 1, 42001, 42600};
-    struct Case {
-        std::vector<int32_t> items;
-        int32_t stored;
-        int selected;
-    };
+    // clang-format off
+    struct Case { std::vector<int32_t> items; int32_t stored; int selected; };
     const Case cases[] = {
-        {full, 0, 0},  {full, 1, 1},     {full, 42600, 3}, {full, 42999, 1},  // a command that is gone
+        {full, 0, 0}, {full, 1, 1}, {full, 42600, 3}, {full, 42999, 1},  // a command that is gone
         {full, -5, 1}, {{0}, 42999, -1},  // a translation left only one shell item: nothing to fall back on
         {{}, 0, -1},
     };
+    // clang-format on
     for (const Case& c : cases) {
         SCOPED_TRACE(c.stored);
         EXPECT_EQ(c.selected, SelectDropChoice(c.items, c.stored));

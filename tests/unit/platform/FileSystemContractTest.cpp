@@ -286,17 +286,15 @@ TEST_P(FileSystemContract, SharingDecidesWhoElseMayOpenAHeldFile) {
     }
     EXPECT_EQ("old", ReadFile(path)) << "no refused writer touched it";
     uint32_t error = 99;
-    struct Failure {
-        const wchar_t* below;
-        FileAccess access;
-        uint32_t error;
-    };
+    // clang-format off
+    struct Failure { const wchar_t* below; FileAccess access; uint32_t error; };
     ASSERT_EQ(0, files().CreateDirectoryTree(At(L"dir")));
     const Failure failures[] = {
         {L"missing\\x.txt", FileAccess::Write, 3},  // ERROR_PATH_NOT_FOUND
         {L"gone.txt", FileAccess::Read, 2},         // ERROR_FILE_NOT_FOUND
         {L"dir", FileAccess::Append, 5},            // ERROR_ACCESS_DENIED
     };
+    // clang-format on
     for (const Failure& f : failures) {
         error = 99;
         EXPECT_EQ(nullptr, files().OpenDenyAll(At(f.below), f.access, error));

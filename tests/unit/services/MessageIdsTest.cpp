@@ -16,11 +16,6 @@ namespace {
 
 const std::filesystem::path kSourceDir = OPTION_SOURCE_DIR;
 
-std::vector<uint8_t> ReadBytes(const std::filesystem::path& path) {
-    std::ifstream file(path, std::ios::binary);
-    return std::vector<uint8_t>(std::istreambuf_iterator<char>(file), {});
-}
-
 // A whole number of five digits from 62301 to 63999 somewhere in the line.
 bool HasMessageNumber(const std::string& line) {
     for (size_t at = 0; (at = line.find_first_of("0123456789", at)) != std::string::npos;) {
@@ -36,7 +31,8 @@ TEST(MessageIds, EverySampleLanguageHasEveryText) {
     std::vector<uint16_t> ids(std::begin(kAllMessageIds), std::end(kAllMessageIds));
     for (int i = 0; i < 2 * kConfirmationCount; ++i) ids.push_back(static_cast<uint16_t>(kFirstConfirmation + i));
     for (const char* file : {"Msg.ja-JP.txt", "Msg.en-US.txt"}) {
-        std::vector<uint8_t> bytes = ReadBytes(kSourceDir / "sample" / "Lang" / file);
+        std::ifstream stream(kSourceDir / "sample" / "Lang" / file, std::ios::binary);
+        const std::vector<uint8_t> bytes(std::istreambuf_iterator<char>(stream), {});
         ASSERT_FALSE(bytes.empty()) << file;
         platform::fake::FakePlatform fake;
         fake.files().AddFile(L"C:\\Lang\\Msg.txt", bytes);
