@@ -35,13 +35,10 @@ protected:
 };
 
 TEST_F(CommandCatalogTest, ListFileRules) {
-    struct Case {
-        const char* what;
-        std::map<std::wstring, std::wstring> lists;
-        int stored;
-        std::map<uint16_t, std::wstring> names;  // "" : not listed
-    };
+    // A name "" is not listed.
     // clang-format off
+    struct Case { const char* what; std::map<std::wstring, std::wstring> lists; int stored;
+                  std::map<uint16_t, std::wstring> names; };
     const Case cases[] = {
         {"the later list wins", {{L"ExternalDefCommand.txt", L"41001\t\tN--\ta.exe\tFirst\r\n"},
                                  {L"UserMenuCommand.txt", L"41001\t\tN--\tb.exe\tSecond\r\n"}},

@@ -103,14 +103,10 @@ std::wstring Report(const std::vector<int64_t>& times) {
 TEST(SortBenchmark, SearchStopsAfterTenMeasurementsWithoutANewBest) {
     std::vector<uint64_t> falling(1000);
     for (size_t t = 0; t < falling.size(); ++t) falling[t] = 5000 - t;
-    struct Case {
-        const char* name;
-        std::vector<uint64_t> durations;
-        int32_t threshold;
-        size_t lines;
-        std::vector<int64_t> shown;  // empty: the first durations as they are
-    };
+    // shown empty: the first durations as they are
     // clang-format off
+    struct Case { const char* name; std::vector<uint64_t> durations; int32_t threshold; size_t lines;
+                  std::vector<int64_t> shown; };
     const Case cases[] = {
         {"nothing beats T = 0", {500, 500, 600, 700, 500, 800, 900, 510, 520, 530, 501}, 0, 10, {}},
         {"a best at the tenth try still counts",
