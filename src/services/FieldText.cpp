@@ -59,25 +59,12 @@ std::optional<uint32_t> ParseUInt(std::wstring_view text) {
     return static_cast<uint32_t>(parsed->magnitude);
 }
 
-std::optional<double> ParseDouble(std::wstring_view text) {
-    std::wstring number(StripBlanks(text));
-    if (number.empty() || crt::IsSpace(number.front())) return std::nullopt;
-    const wchar_t* end = nullptr;
-    double value = crt::Wcstod(number.c_str(), &end);
-    if (end != number.c_str() + number.size()) return std::nullopt;
-    return value;
-}
-
 std::wstring ShowInt(int32_t value) {
     return crt::Format(L"%d", value);
 }
 
 std::wstring ShowUInt(uint32_t value) {
     return crt::Format(L"%u", value);
-}
-
-std::wstring ShowDouble(double value) {
-    return crt::Format(L"%.*g", 15, value);
 }
 
 std::wstring IntegerExpected() {
@@ -88,20 +75,12 @@ std::wstring PositiveIntegerExpected() {
     return L"Please enter a positive integer.";
 }
 
-std::wstring NumberExpected() {
-    return L"Please enter a number.";
-}
-
 std::wstring IntegerBetween(int32_t min, int32_t max) {
     return crt::Format(L"Please enter an integer between %d and %d.", min, max);
 }
 
 std::wstring UnsignedBetween(uint32_t min, uint32_t max) {
     return crt::Format(L"Please enter an integer between %u and %u.", min, max);
-}
-
-std::wstring NoMoreCharactersThan(int32_t count) {
-    return crt::Format(L"Please enter no more than %d characters.", count);
 }
 
 }  // namespace fieldtext

@@ -14,21 +14,15 @@ namespace fieldtext {
 // else, within the range of the type. An unsigned field refuses any minus sign, "-0" included.
 std::optional<int32_t> ParseInt(std::wstring_view text);
 std::optional<uint32_t> ParseUInt(std::wstring_view text);
-// A number as the C runtime reads one (decimal, exponent, hexadecimal, "inf", "nan"), with blanks
-// around it and nothing else.
-std::optional<double> ParseDouble(std::wstring_view text);
 
-// The text a field shows for a value: "%d", "%u", and "%.15g" for doubles.
+// The text a field shows for a value: "%d" and "%u".
 std::wstring ShowInt(int32_t value);
 std::wstring ShowUInt(uint32_t value);
-std::wstring ShowDouble(double value);
 
 // What the user is told when a field is refused.
 std::wstring IntegerExpected();
 std::wstring PositiveIntegerExpected();
-std::wstring NumberExpected();
 std::wstring IntegerBetween(int32_t min, int32_t max);
 std::wstring UnsignedBetween(uint32_t min, uint32_t max);
-std::wstring NoMoreCharactersThan(int32_t count);
 
 }  // namespace fieldtext

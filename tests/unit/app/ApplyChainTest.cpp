@@ -33,17 +33,10 @@ public:
 // recorded, 49099) and "Start" keeps the page shown. A refusal stops the chain: nothing is sent, "Start"
 // stays, and the next Apply sends everything still pending.
 TEST(ApplyChain, OpenedPagesApplyInIdOrderAndEveryHostHearsTheSeries) {
-    struct Case {
-        const char* label;
-        std::map<int, std::vector<uint16_t>> opened;
-        std::set<int> refusing;  // the first Apply only
-        int hosts;
-        int shown;
-        std::vector<int> applied;
-        std::vector<uint16_t> series;  // empty: the first Apply fails
-        std::vector<uint16_t> again;   // the next Apply
-    };
+    // refusing: on the first Apply only; series: what it sends, empty when it fails; again: what the next one sends.
     // clang-format off
+    struct Case { const char* label; std::map<int, std::vector<uint16_t>> opened; std::set<int> refusing; int hosts;
+                  int shown; std::vector<int> applied; std::vector<uint16_t> series, again; };
     const Case cases[] = {
         {"codes in order, each once", {{36, {49033}}, {3, {49000}}, {13, {49000}}, {37, {}}, {20, {49017}}}, {}, 2, 36,
          {3, 13, 20, 36, 37}, {48999, 49000, 49017, 49033, 49099}, {48999, 49000, 49017, 49033, 49099}},

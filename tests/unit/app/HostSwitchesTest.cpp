@@ -7,24 +7,16 @@
 namespace {
 
 TEST(HostSwitches, OnlyExactlyTenFieldsCount) {
-    struct Case {
-        const wchar_t* text;
-        bool valid;
-        int32_t mode;
-        int32_t reactivate;
-        bool share;
-    };
+    // clang-format off
+    struct Case { const wchar_t* text; bool valid; int32_t mode; int32_t reactivate; bool share; };
     const Case cases[] = {
-        {L"", false, 0, 0, false},
-        {L"3:1:100:200:4096:0:0:0:Share:x", true, 3, 1, true},
-        {L"3:1:100:200:4096:0:0:0:share:x", true, 3, 1, false},
-        {L"3:1:100:200:4096:0:0:0:Share", false, 0, 0, false},
-        {L"3:1:100:200:4096:0:0:0:Share:x:y", false, 0, 0, false},
-        {L"2:0:::::::Share:", true, 2, 0, true},
-        {L" 4 :x1:::::::: ", true, 4, 0, false},
-        {L"99999999999:-7:::::::Share :", true, 2147483647, -7, false},
+        {L"", false, 0, 0, false}, {L"3:1:100:200:4096:0:0:0:Share:x", true, 3, 1, true},
+        {L"3:1:100:200:4096:0:0:0:share:x", true, 3, 1, false}, {L"3:1:100:200:4096:0:0:0:Share", false, 0, 0, false},
+        {L"3:1:100:200:4096:0:0:0:Share:x:y", false, 0, 0, false}, {L"2:0:::::::Share:", true, 2, 0, true},
+        {L" 4 :x1:::::::: ", true, 4, 0, false}, {L"99999999999:-7:::::::Share :", true, 2147483647, -7, false},
         {L":::::::::", true, 0, 0, false},
     };
+    // clang-format on
     for (const auto& c : cases) {
         HostSwitches s = ParseHostSwitches(c.text);
         EXPECT_EQ(std::tuple(c.valid, c.mode, c.reactivate, c.share),

@@ -20,14 +20,9 @@ const wchar_t* const kLabels[] = {
     L"その他/起動制御/サウンド再生/イベントコマンド/確認メッセージ",
 };
 
-struct Expected {
-    int depth;
-    const wchar_t* label;
-    int id;
-};
-
 // The tree as the user sees it, written out independently of the table in the code.
 // clang-format off
+struct Expected { int depth; const wchar_t* label; int id; };
 const Expected kTree[] = {
     {0, L"全体", 1007}, {1, L"外観", 1000}, {2, L"色、フォント", 26}, {2, L"スキン", 12}, {2, L"その他", 37}, {1, L"動作", 20},
     {1, L"共通操作", 24}, {1, L"ネットワーク", 30}, {1, L"インクリメンタルサーチ", 32}, {1, L"バージョンチェック", 34}, {1, L"スクリーンセーバー", 45},
@@ -62,27 +57,17 @@ TEST(OptionPageTable, TheTreeFromTheLabelLists) {
 
 TEST(OptionPageTable, AWrongCountAddsNothing) {
     std::vector<OptionTreeItem> items;
-    std::vector<std::wstring> labels(10, L"x");
-    EXPECT_FALSE(AddTreeItems(1401, labels, items));
-    labels.resize(12, L"x");
-    EXPECT_FALSE(AddTreeItems(1401, labels, items));
+    for (size_t count : {10u, 12u}) EXPECT_FALSE(AddTreeItems(1401, std::vector<std::wstring>(count, L"x"), items));
     EXPECT_TRUE(items.empty());
-    EXPECT_EQ(11, RequiredLabelCount(1401));
-    EXPECT_EQ(5, RequiredLabelCount(1405));
+    EXPECT_EQ(std::pair(11, 5), std::pair(RequiredLabelCount(1401), RequiredLabelCount(1405)));
 }
 
 TEST(OptionPageTable, PagesHelpAndGroupTexts) {
-    std::set<int> ids;
-    std::set<int> templates;
-    for (const OptionPageInfo& page : OptionPages()) {
-        ids.insert(page.id);
-        templates.insert(page.templateId);
-    }
-    std::set<int> twoTo45;
+    std::set<int> ids, templates, twoTo45;
+    for (const OptionPageInfo& page : OptionPages()) ids.insert(page.id), templates.insert(page.templateId);
     for (int id = 2; id <= 45; ++id) twoTo45.insert(id);
     EXPECT_EQ(twoTo45, ids);
-    for (int id : {1, 46, 1000, 1010}) EXPECT_FALSE(IsPageId(id)) << id;
-    EXPECT_TRUE(IsPageId(45));
+    for (int id : {1, 2, 45, 46, 1000, 1010}) EXPECT_EQ(id >= 2 && id <= 45, IsPageId(id)) << id;
     EXPECT_EQ(44u, templates.size()) << "each page its own template";
 
     struct HelpCase {

@@ -15,8 +15,6 @@ using platform::fake::FakePlatform;
 using platform::fake::ShownMessage;
 
 constexpr const wchar_t* kProgram = L"C:\\Qor\\command\\Option\\Option.exe";
-constexpr const wchar_t* kLibrary = L"C:\\Qor\\Lang\\Qor.ja-JP.dll";
-constexpr const wchar_t* kMessages = L"C:\\Qor\\Lang\\Msg.ja-JP.txt";
 constexpr const wchar_t* kUserDir = L"C:\\Users\\tester\\AppData\\Local\\Qor\\";
 
 // Records which target start-up handed over to, and looks at the process while the option dialog is open.
@@ -41,11 +39,10 @@ protected:
         fake.environment().SetModuleFileName(kProgram);
         fake.files().AddDirectory(L"C:\\Qor\\command\\Option");
         fake.files().AddDirectory(L"C:\\Qor\\Lang");
-        fake.files().AddFile(kMessages, Utf16Bytes(L"62538\tno language library\r\n", true));
-        fake.system().AddLibrary(kLibrary);
-        for (const wchar_t* name : kCommandListFiles) {
+        fake.files().AddFile(L"C:\\Qor\\Lang\\Msg.ja-JP.txt", Utf16Bytes(L"62538\tno language library\r\n", true));
+        fake.system().AddLibrary(L"C:\\Qor\\Lang\\Qor.ja-JP.dll");
+        for (const wchar_t* name : kCommandListFiles)
             fake.files().AddFile(std::wstring(kUserDir) + name, Utf16Bytes(L"", true));
-        }
     }
 
     std::vector<std::wstring> Run(const std::vector<std::wstring>& arguments) {
@@ -62,11 +59,8 @@ protected:
 // not exactly a known letter, opens the option dialog.
 TEST_F(StartupTest, DispatchesOnTheEffectiveSwitch) {
     fake.files().AddFile(L"C:\\f.txt", Utf16Bytes(L"x"));
-    struct Case {
-        std::vector<std::wstring> arguments;
-        std::vector<std::wstring> calls;
-    };
     // clang-format off
+    struct Case { std::vector<std::wstring> arguments; std::vector<std::wstring> calls; };
     const Case cases[] = {
         {{}, {L"option dialog"}},                  {{L"/T", L"C:\\f.txt"}, {}},
         {{L"/T"}, {L"option dialog"}},             {{L"/E"}, {L"option dialog"}},
@@ -107,8 +101,7 @@ TEST_F(StartupTest, AutomaticSwitchFollowsTheFileKind) {
 TEST_F(StartupTest, UnreadableAutomaticFileIsToldThenOpenedAsAScript) {
     EXPECT_EQ((std::vector<std::wstring>{L"script C:\\none.txt"}), Run({L"/A", L"C:\\none.txt"}));
     EXPECT_EQ((std::vector<ShownMessage>{{L"Cannot open C:\\none.txt", 0}}), fake.prompts().shown());
-    // The script runs without the language library.
-    EXPECT_TRUE(fake.system().loadAttempts().empty());
+    EXPECT_TRUE(fake.system().loadAttempts().empty()) << "the script runs without the language library";
 }
 
 TEST_F(StartupTest, MissingLanguageLibraryIsToldAndTheProgramGoesOn) {

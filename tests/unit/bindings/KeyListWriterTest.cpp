@@ -45,15 +45,12 @@ protected:
     // The lines of a written list, byte order mark and line ends included.
     std::vector<std::wstring> Lines(const std::wstring& path) {
         const std::string bytes = fake.files().FileText(path);
-        std::wstring text;
-        for (size_t i = 0; i + 1 < bytes.size(); i += 2)
-            text.push_back(static_cast<wchar_t>(uint8_t(bytes[i]) | uint8_t(bytes[i + 1]) << 8));
-        std::vector<std::wstring> lines;
-        for (size_t start = 0, end; start < text.size(); start = end) {
-            end = text.find(L"\r\n", start);
-            end = end == std::wstring::npos ? text.size() : end + 2;
-            lines.push_back(text.substr(start, end - start));
+        std::vector<std::wstring> lines(1);
+        for (size_t i = 0; i + 1 < bytes.size(); i += 2) {
+            lines.back().push_back(static_cast<wchar_t>(uint8_t(bytes[i]) | uint8_t(bytes[i + 1]) << 8));
+            if (lines.back().ends_with(L"\r\n")) lines.emplace_back();
         }
+        if (lines.back().empty()) lines.pop_back();
         return lines;
     }
 

@@ -7,6 +7,7 @@
 #include "bindings/DefaultKeyTables.h"
 #include "bindings/KeyTableFiles.h"
 #include "platform/fake/FakePlatform.h"
+#include "unit/Utf16.h"
 
 namespace {
 
@@ -42,12 +43,7 @@ protected:
     KeyTableFilesTest() { fake.files().AddDirectory(kUserDir); }
 
     static std::vector<uint8_t> WordsAsBytes(const std::vector<uint16_t>& words) {
-        std::vector<uint8_t> bytes;
-        for (uint16_t word : words) {
-            bytes.push_back(static_cast<uint8_t>(word & 0xFF));
-            bytes.push_back(static_cast<uint8_t>(word >> 8));
-        }
-        return bytes;
+        return Utf16Bytes(std::wstring(words.begin(), words.end()));
     }
 
     FakePlatform fake;
@@ -99,13 +95,11 @@ TEST_F(KeyTableFilesTest, SavedTablesReadBackAsTheyWere) {
     EXPECT_EQ((std::set<std::wstring>{L"CommandMode.key", L"SerchMode.key", L"Mode3.key", L"Mode4.key", L"Mode5.key",
                                       L"Mode6.key", L"Mode7.key", L"Mode8.key", L"Mode9.key"}),
               names);
-    std::vector<uint8_t> bytes, serch;
-    ASSERT_TRUE(fake.files().ReadFile(dir + L"CommandMode.key", bytes));
-    ASSERT_TRUE(fake.files().ReadFile(dir + L"SerchMode.key", serch));
-    EXPECT_EQ((std::vector<size_t>{608, 608}), (std::vector<size_t>{bytes.size(), serch.size()}));
+    const std::string bytes = fake.files().FileText(dir + L"CommandMode.key");
+    EXPECT_EQ((std::vector<size_t>{608, 608}),
+              (std::vector<size_t>{bytes.size(), fake.files().FileText(dir + L"SerchMode.key").size()}));
     const size_t enter = 2 * (3 * 76 + 75);  // the file's word order: (modifier + 4 * mode) * 76 + key
-    EXPECT_EQ((std::vector<uint8_t>{0x01, 0x80}),
-              std::vector<uint8_t>(bytes.begin() + enter, bytes.begin() + enter + 2));
+    EXPECT_EQ("\x01\x80", bytes.substr(enter, 2));
 
     KeyTableSet loaded;
     LoadKeyTables(dir, loaded);

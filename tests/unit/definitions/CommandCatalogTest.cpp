@@ -1,11 +1,7 @@
 #include <gtest/gtest.h>
 
-#include <filesystem>
-#include <fstream>
-#include <iterator>
 #include <map>
 
-#include "bindings/DefaultKeyTables.h"
 #include "definitions/CommandCatalog.h"
 #include "definitions/CommandDump.h"
 #include "definitions/CommandListFile.h"
@@ -39,13 +35,10 @@ protected:
 };
 
 TEST_F(CommandCatalogTest, ListFileRules) {
-    struct Case {
-        const char* what;
-        std::map<std::wstring, std::wstring> lists;
-        int stored;
-        std::map<uint16_t, std::wstring> names;  // "" : not listed
-    };
+    // A name "" is not listed.
     // clang-format off
+    struct Case { const char* what; std::map<std::wstring, std::wstring> lists; int stored;
+                  std::map<uint16_t, std::wstring> names; };
     const Case cases[] = {
         {"the later list wins", {{L"ExternalDefCommand.txt", L"41001\t\tN--\ta.exe\tFirst\r\n"},
                                  {L"UserMenuCommand.txt", L"41001\t\tN--\tb.exe\tSecond\r\n"}},
@@ -132,28 +125,6 @@ TEST_F(CommandCatalogTest, CommandStrings) {
     for (const Case& c : cases) {
         EXPECT_EQ(c.text, catalog.GetCommandString(c.id, c.withLibrary ? library.get() : nullptr))
             << c.id << (c.withLibrary ? " with" : " without") << " library";
-    }
-}
-
-// The sample installation's user directory names every external command that a default key of the
-// two listed modes starts, so that a key list written from it shows names and not numbers.
-TEST_F(CommandCatalogTest, TheSampleListsNameTheExternalCommandsOfTheDefaultKeys) {
-    const std::filesystem::path sample = std::filesystem::path(OPTION_SOURCE_DIR) / "sample" / "User";
-    for (const wchar_t* name : kCommandListFiles) {
-        std::ifstream file(sample / std::filesystem::path(name), std::ios::binary);
-        std::string bytes((std::istreambuf_iterator<char>(file)), {});
-        ASSERT_FALSE(bytes.empty()) << testing::PrintToString(std::wstring(name));
-        fake.files().AddFile(std::wstring(kUserDir) + name, bytes);
-    }
-    EXPECT_LT(30, catalog.LoadCommandLists(kUserDir));
-    EXPECT_TRUE(fake.prompts().shown().empty());
-    const KeyTableSet& defaults = DefaultKeyTables();
-    for (int mode = 0; mode < 2; ++mode) {
-        for (uint16_t id : defaults.modes[mode]) {
-            if (id >= kFirstExternalCommand && id <= kLastExternalCommand) {
-                EXPECT_NE(L"", catalog.LookupListedCommand(id)) << id;
-            }
-        }
     }
 }
 

@@ -18,17 +18,13 @@ TEST(ConfirmationChecks, RowsFollowTheLowFifteenBits) {
 }
 
 TEST(ConfirmationChecks, SavingKeepsTheHigherBits) {
-    struct Case {
-        int32_t stored;
-        ConfirmationChecks checks;
-        int32_t saved;
-    };
+    // clang-format off
+    struct Case { int32_t stored; ConfirmationChecks checks; int32_t saved; };
     const Case cases[] = {
-        {-1, Rows({}), static_cast<int32_t>(0xFFFF8000)},
-        {0, Rows({0, 14}), 0x4001},
-        {0x12340000, Rows({1}), 0x12340002},
-        {0x7FFF, Rows({2, 8, 9, 10, 14}), 0x4704},
+        {-1, Rows({}), static_cast<int32_t>(0xFFFF8000)}, {0, Rows({0, 14}), 0x4001},
+        {0x12340000, Rows({1}), 0x12340002}, {0x7FFF, Rows({2, 8, 9, 10, 14}), 0x4704},
     };
+    // clang-format on
     for (const auto& c : cases) EXPECT_EQ(c.saved, MessageWithChecks(c.stored, c.checks)) << c.stored;
 }
 

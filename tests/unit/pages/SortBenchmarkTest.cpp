@@ -17,15 +17,12 @@ namespace {
 using sortbench::MergeSort;
 using sortbench::ThresholdSearch;
 
-// A key and the position it started at; only the key is compared.
+// A key and the position it started at; the sort compares the key only.
 struct Keyed {
-    int64_t key;
-    int64_t order;
+    int64_t key, order;
     bool operator==(const Keyed&) const = default;
 };
-struct KeyLess {
-    bool operator()(const Keyed& x, const Keyed& y) const { return x.key < y.key; }
-};
+const auto KeyLess = [](const Keyed& x, const Keyed& y) { return x.key < y.key; };
 
 // Few distinct keys, so that runs of equal keys cross every split and merge.
 std::vector<Keyed> Shuffled(size_t n, int64_t keys, uint32_t seed) {
@@ -48,9 +45,9 @@ TEST(SortBenchmark, SortsLikeStableSortInBothDirections) {
                     std::vector<Keyed> sorted = Shuffled(n, 1 + static_cast<int64_t>(n) / 4, static_cast<uint32_t>(n));
                     std::vector<Keyed> expected = sorted;
                     std::stable_sort(expected.begin(), expected.end(), [descending](const Keyed& x, const Keyed& y) {
-                        return descending ? y.key < x.key : x.key < y.key;
+                        return descending ? KeyLess(y, x) : KeyLess(x, y);
                     });
-                    MergeSort(std::span<Keyed>(sorted), scratch, threshold, depth, descending, KeyLess());
+                    MergeSort(std::span<Keyed>(sorted), scratch, threshold, depth, descending, KeyLess);
                     ASSERT_EQ(expected, sorted) << "n " << n << " threshold " << threshold << " depth " << depth
                                                 << " descending " << descending;
                 }
@@ -106,14 +103,10 @@ std::wstring Report(const std::vector<int64_t>& times) {
 TEST(SortBenchmark, SearchStopsAfterTenMeasurementsWithoutANewBest) {
     std::vector<uint64_t> falling(1000);
     for (size_t t = 0; t < falling.size(); ++t) falling[t] = 5000 - t;
-    struct Case {
-        const char* name;
-        std::vector<uint64_t> durations;
-        int32_t threshold;
-        size_t lines;
-        std::vector<int64_t> shown;  // empty: the first durations as they are
-    };
+    // shown empty: the first durations as they are
     // clang-format off
+    struct Case { const char* name; std::vector<uint64_t> durations; int32_t threshold; size_t lines;
+                  std::vector<int64_t> shown; };
     const Case cases[] = {
         {"nothing beats T = 0", {500, 500, 600, 700, 500, 800, 900, 510, 520, 530, 501}, 0, 10, {}},
         {"a best at the tenth try still counts",

@@ -128,12 +128,8 @@ protected:
 
 // String types count a terminator that follows the data; any other unit behind it is no terminator.
 TEST_P(RegistryContract, StringTypesCountATerminatorThatFollowsTheData) {
-    struct Case {
-        const char16_t* text;
-        uint32_t type;
-        uint32_t size;
-        uint32_t stored;
-    };
+    // clang-format off
+    struct Case { const char16_t* text; uint32_t type; uint32_t size; uint32_t stored; };
     const Case cases[] = {
         {u"abc", platform::kRegSz, 6, 8},        // "abc" counted, its terminator behind it
         {u"abc", platform::kRegExpandSz, 6, 8},  //
@@ -142,6 +138,7 @@ TEST_P(RegistryContract, StringTypesCountATerminatorThatFollowsTheData) {
         {u"abc", platform::kRegSz, 5, 5},        // odd count: the last counted unit is no whole character
         {u"abc", platform::kRegBinary, 6, 6},    // other types are stored as counted
     };
+    // clang-format on
     auto key = Create(L"k");
     for (const Case& c : cases) {
         ASSERT_EQ(0, key->SetValue(L"v", c.type, c.text, c.size));
@@ -165,17 +162,14 @@ TEST_P(RegistryContract, ReadsFollowTheSizeRules) {
     ASSERT_EQ(0, key->SetValue(L"short", platform::kRegSz, u"abcdef", 12));
     ASSERT_EQ(0, key->SetValue(L"dword", platform::kRegDword, &dword, 4));
 
-    struct Case {
-        const wchar_t* name;
-        uint32_t buffer;
-        long result;
-        uint32_t size;
-    };
+    // clang-format off
+    struct Case { const wchar_t* name; uint32_t buffer; long result; uint32_t size; };
     const Case cases[] = {
         {L"exact", 32768, 0, 32768},  {L"over", 32768, 234, 32770}, {L"terminated", 32768, 234, 32770},
         {L"short", 4, 234, 14},       {L"dword", 4, 0, 4},          {L"dword", 2, 234, 4},
         {L"absent", 32768, 2, 32768},
     };
+    // clang-format on
     std::vector<uint8_t> buffer(32768);
     for (const Case& c : cases) {
         uint32_t size = c.buffer;
@@ -183,15 +177,14 @@ TEST_P(RegistryContract, ReadsFollowTheSizeRules) {
         EXPECT_EQ(c.size, size) << testing::PrintToString(c.name) << " into " << c.buffer;
     }
     uint32_t size = 0;
-    EXPECT_EQ(0, key->QueryValue(L"over", nullptr, nullptr, &size));
-    EXPECT_EQ(32770u, size);
+    const long over = key->QueryValue(L"over", nullptr, nullptr, &size);  // the size alone
+    EXPECT_EQ(std::pair(0L, 32770u), std::pair(over, size));
     EXPECT_EQ(87, key->QueryValue(L"dword", nullptr, buffer.data(), nullptr));
 }
 
 TEST_P(RegistryContract, NamesIgnoreLetterCase) {
     auto key = Create(L"Mixed\\Case\\Ärger");
-    uint32_t one = 1;
-    uint32_t two = 2;
+    uint32_t one = 1, two = 2;
     ASSERT_EQ(0, key->SetValue(L"Alpha", platform::kRegDword, &one, 4));
     ASSERT_EQ(0, key->SetValue(L"\u03A9mega", platform::kRegDword, &one, 4));  // Greek capital omega
     ASSERT_EQ(0, key->SetValue(L"ALPHA", platform::kRegDword, &two, 4));       // the same value
@@ -222,41 +215,35 @@ TEST_P(RegistryContract, ValuesEnumerateOnceEachTheDefaultOneToo) {
     }
     // The default value is the one with the empty name.
     ASSERT_EQ(0, key->SetValue(L"", platform::kRegSz, u"d", 4));
-    uint32_t type = 0;
+    uint32_t type = 0, size = 0;
     EXPECT_EQ(Bytes(u"d", 4), Read(*key, L"", &type));
-    EXPECT_EQ(platform::kRegSz, type);
     EXPECT_EQ(0, key->DeleteValue(L""));
-    uint32_t size = 0;
-    EXPECT_EQ(2, key->QueryValue(L"", nullptr, nullptr, &size));
+    EXPECT_EQ(std::pair(uint32_t{platform::kRegSz}, 2L),
+              std::pair(type, key->QueryValue(L"", nullptr, nullptr, &size)));
 }
 
+// The name comes whenever it fits with its terminator, even when the data does not.
 TEST_P(RegistryContract, EnumeratingValuesRespectsTheCallersBuffers) {
     auto key = Create(L"k");
     std::vector<uint8_t> big(2000, 'q');
     ASSERT_EQ(0, key->SetValue(L"LongValueName", platform::kRegBinary, big.data(), 2000));  // 13 characters
-
-    std::wstring name = L"poison";
-    EXPECT_EQ(234, key->EnumValue(0, 13, name, nullptr, nullptr, nullptr)) << "no room for the terminator";
-    EXPECT_EQ(L"poison", name);
-    EXPECT_EQ(0, key->EnumValue(0, 14, name, nullptr, nullptr, nullptr));
-    EXPECT_EQ(L"LongValueName", name);
-
     std::vector<uint8_t> data(1024);
-    uint32_t type = 0;
-    uint32_t size = 1024;
-    name = L"poison";
-    EXPECT_EQ(234, key->EnumValue(0, 520, name, &type, data.data(), &size));
-    EXPECT_EQ(L"LongValueName", name) << "the name comes even when the data does not fit";
-    EXPECT_EQ(2000u, size);
-    EXPECT_EQ(platform::kRegBinary, type);
+    uint32_t type = 0, size = 1024;
+    std::wstring tooShort = L"poison", fits, withData;
+    EXPECT_EQ((std::vector<long>{234, 0, 234}),
+              (std::vector<long>{key->EnumValue(0, 13, tooShort, nullptr, nullptr, nullptr),
+                                 key->EnumValue(0, 14, fits, nullptr, nullptr, nullptr),
+                                 key->EnumValue(0, 520, withData, &type, data.data(), &size)}));
+    EXPECT_EQ((std::vector<std::wstring>{L"poison", L"LongValueName", L"LongValueName"}),
+              (std::vector<std::wstring>{tooShort, fits, withData}));
+    EXPECT_EQ((std::pair<uint32_t, uint32_t>(2000, platform::kRegBinary)), std::pair(size, type));
 
-    uint32_t dword = 49033;
+    uint32_t dword = 49033, read = 0;
     ASSERT_EQ(0, key->SetValue(L"LongValueName", platform::kRegDword, &dword, 4));
-    uint32_t read = 0;
     size = 4;
-    EXPECT_EQ(0, key->EnumValue(0, 520, name, &type, &read, &size));
+    EXPECT_EQ(0, key->EnumValue(0, 520, fits, &type, &read, &size));
     EXPECT_EQ(49033u, read);
-    EXPECT_EQ(259, key->EnumValue(1, 520, name, &type, &read, &size));
+    EXPECT_EQ(259, key->EnumValue(1, 520, fits, &type, &read, &size));
 }
 
 TEST_P(RegistryContract, SubkeysEnumerateInAlphabeticalOrder) {

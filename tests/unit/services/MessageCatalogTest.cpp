@@ -47,14 +47,13 @@ TEST(MessageCatalog, AMissingFileIsToldAtEveryLookup) {
     FakePlatform fake;
     MessageCatalog messages;
     messages.SetPath(kPath);
-    EXPECT_EQ(MessageCatalog::kMissingText, messages.Get(62538));
-    EXPECT_EQ(MessageCatalog::kMissingText, messages.Get(62538));
+    std::vector<std::wstring> texts = {messages.Get(62538), messages.Get(62538)};
+    fake.files().AddFile(kPath, Utf16Bytes(L"62538\tno library"));  // once there, the next lookup loads it
+    texts.push_back(messages.Get(62538));
+    EXPECT_EQ((std::vector<std::wstring>{MessageCatalog::kMissingText, MessageCatalog::kMissingText, L"no library"}),
+              texts);
     const ShownMessage told = {std::wstring(L"Cannot open message file.\n") + kPath, 0};
     EXPECT_EQ((std::vector<ShownMessage>{told, told}), fake.prompts().shown());
-    // Once the file is there the next lookup loads it.
-    fake.files().AddFile(kPath, Utf16Bytes(L"62538\tno library"));
-    EXPECT_EQ(L"no library", messages.Get(62538));
-    EXPECT_EQ(2u, fake.prompts().shown().size());
 }
 
 TEST(MessageCatalog, ConfirmationsFollowTheirBit) {
@@ -85,8 +84,9 @@ TEST(MessageCatalog, ConfirmationsFollowTheirBit) {
 TEST(MessageCatalog, PathIsGluedFromTheTagAsItStands) {
     FakePlatform fake;
     fake.files().AddDirectory(L"C:\\Qor\\command\\Option");
-    EXPECT_EQ(L"C:\\Qor\\Lang\\Msg.en-US.txt", MessageFilePath(L"C:\\Qor\\command\\Option\\", L".en-US"));
-    EXPECT_EQ(L"C:\\Qor\\Lang\\MsgXX.txt", MessageFilePath(L"C:\\Qor\\command\\Option\\", L"XX"));
+    for (const wchar_t* tag : {L".en-US", L"XX"})
+        EXPECT_EQ(L"C:\\Qor\\Lang\\Msg" + std::wstring(tag) + L".txt",
+                  MessageFilePath(L"C:\\Qor\\command\\Option\\", tag));
 }
 
 }  // namespace

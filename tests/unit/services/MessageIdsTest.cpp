@@ -2,6 +2,7 @@
 // messages only through the one list, so that a missing text is found here and not by a user.
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
@@ -15,24 +16,12 @@ namespace {
 
 const std::filesystem::path kSourceDir = OPTION_SOURCE_DIR;
 
-std::vector<uint8_t> ReadBytes(const std::filesystem::path& path) {
-    std::ifstream file(path, std::ios::binary);
-    return std::vector<uint8_t>(std::istreambuf_iterator<char>(file), {});
-}
-
 // A whole number of five digits from 62301 to 63999 somewhere in the line.
 bool HasMessageNumber(const std::string& line) {
-    for (size_t at = 0; at < line.size();) {
-        size_t end = at;
-        while (end < line.size() && line[end] >= '0' && line[end] <= '9') ++end;
-        if (end == at) {
-            ++at;
-            continue;
-        }
-        if (end - at == 5) {
-            int value = std::stoi(line.substr(at, 5));
-            if (value >= 62301 && value <= 63999) return true;
-        }
+    for (size_t at = 0; (at = line.find_first_of("0123456789", at)) != std::string::npos;) {
+        const size_t end = std::min(line.find_first_not_of("0123456789", at), line.size());
+        const int value = end - at == 5 ? std::stoi(line.substr(at, 5)) : 0;
+        if (value >= 62301 && value <= 63999) return true;
         at = end;
     }
     return false;
@@ -42,7 +31,8 @@ TEST(MessageIds, EverySampleLanguageHasEveryText) {
     std::vector<uint16_t> ids(std::begin(kAllMessageIds), std::end(kAllMessageIds));
     for (int i = 0; i < 2 * kConfirmationCount; ++i) ids.push_back(static_cast<uint16_t>(kFirstConfirmation + i));
     for (const char* file : {"Msg.ja-JP.txt", "Msg.en-US.txt"}) {
-        std::vector<uint8_t> bytes = ReadBytes(kSourceDir / "sample" / "Lang" / file);
+        std::ifstream stream(kSourceDir / "sample" / "Lang" / file, std::ios::binary);
+        const std::vector<uint8_t> bytes(std::istreambuf_iterator<char>(stream), {});
         ASSERT_FALSE(bytes.empty()) << file;
         platform::fake::FakePlatform fake;
         fake.files().AddFile(L"C:\\Lang\\Msg.txt", bytes);

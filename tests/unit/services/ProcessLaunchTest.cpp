@@ -22,17 +22,10 @@ using Strings = std::vector<std::wstring>;
 // A drop waits for the program to be idle, polls every 50 ms for ten seconds for its first window, brings that
 // window forward and posts the files on it; each failure is told in the texts of the message file and ends the drop.
 TEST(ProcessLaunch, DropLaunchDropsTheFilesOnTheProgramsFirstWindowOnceItShows) {
-    struct Case {
-        const char* what;
-        FakeProgram program;
-        Strings files;
-        std::vector<ShownMessage> shown;
-        Strings events;
-        bool dropped;
-        uint64_t ticks;
-    };
-    const Strings idle{L"idle 10000", L"close"};
     // clang-format off
+    struct Case { const char* what; FakeProgram program; Strings files; std::vector<ShownMessage> shown; Strings events;
+                  bool dropped; uint64_t ticks; };
+    const Strings idle{L"idle 10000", L"close"};
     const Case cases[] = {
         {"dropped once the window shows", {.walksBeforeWindow = 3}, {L"C:\\a.txt", L"D:\\b c"}, {}, idle, true, 150},
         {"an empty list starts the program and drops nothing", {}, {}, {}, idle, false, 0},

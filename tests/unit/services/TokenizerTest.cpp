@@ -8,15 +8,9 @@ using Fields = std::vector<std::wstring>;
 
 // Fields are added behind what the target holds; the count is of all it holds, or 0 for an empty text.
 TEST(Tokenize, SplitsAsTheFileFormatsNeed) {
-    struct Case {
-        std::wstring text;
-        wchar_t separator;
-        bool trim, keep;
-        Fields expected;
-        Fields before = {};
-        int count = -1;  // -1: the number of fields expected
-    };
+    // count -1: the number of fields expected
     // clang-format off
+    struct Case { std::wstring text; wchar_t separator; bool trim, keep; Fields expected; Fields before = {}; int count = -1; };
     const Case cases[] = {
         {L"abc", L':', false, false, {L"abc"}}, {L"a:b", L':', false, false, {L"a", L"b"}},
         {L"::", L':', false, true, {L"", L"", L""}}, {L":", L':', false, true, {L"", L""}},
