@@ -150,7 +150,8 @@ KeyPageTimes TimeKeyPage(const Shown& shown) {
     PostMessageW(list, WM_KEYDOWN, VK_HOME, 0);
     e2e::WaitUntilDialogIdle(shown.dialog, shown.process.Handle());
     const double start = Now();
-    PostMessageW(page, WM_COMMAND, MAKEWPARAM(kKeyEdit, BN_CLICKED), reinterpret_cast<LPARAM>(GetDlgItem(page, kKeyEdit)));
+    PostMessageW(page, WM_COMMAND, MAKEWPARAM(kKeyEdit, BN_CLICKED),
+                 reinterpret_cast<LPARAM>(GetDlgItem(page, kKeyEdit)));
     HWND picker = e2e::FindVisibleWindow(shown.process.Id(), L"機能一覧", kTimeoutMs, 1);
     if (!picker) return times;
     WaitForInputIdle(shown.process.Handle(), kTimeoutMs);

@@ -37,7 +37,8 @@ void COptionKeySetDlg::LoadGroups() {
     ui::SplitControlText(Item(IDC_KEYSET_HEADERS), headers);
     ui::SplitControlText(Item(IDC_KEYSET_SET_NAMES), sets);
     ui::SplitControlText(Item(IDC_KEYSET_SWITCH_NAMES), targets);
-    if (!CheckLabelCount(2, headers, IDC_KEYSET_HEADERS) || !CheckLabelCount(kKeyModeCount, sets, IDC_KEYSET_SET_NAMES) ||
+    if (!CheckLabelCount(2, headers, IDC_KEYSET_HEADERS) ||
+        !CheckLabelCount(kKeyModeCount, sets, IDC_KEYSET_SET_NAMES) ||
         !CheckLabelCount(kKeyModeCount + 1, targets, IDC_KEYSET_SWITCH_NAMES))
         return;
     list_ = ui::ListView(Item(IDC_KEYSET_LIST));
@@ -120,8 +121,8 @@ void COptionKeySetDlg::EditRow() {
 void COptionKeySetDlg::ClearRow() {
     const int row = SelectedRowOrTell();
     if (row < 0 || list_.GetItemData(row) == 0) return;
-    const std::wstring question =
-        app().messages.Get(kMsgDeleteRowQuestion) + L"\n" + list_.GetItemText(row, 0) + L":" + list_.GetItemText(row, 1);
+    const std::wstring question = app().messages.Get(kMsgDeleteRowQuestion) + L"\n" + list_.GetItemText(row, 0) + L":" +
+                                  list_.GetItemText(row, 1);
     if (Prompts().ShowMessage(question, platform::kStyleYesNo) == platform::kAnswerYes) ShowRow(row, kNoCommand);
 }
 

@@ -70,15 +70,13 @@ void COptionKeySetting::FillTree() {
     CommandTreeDump dump{[&os] { return os.windows.IsKeyDown(kVirtualKeyAlt); },
                          [&os](const std::wstring& message) { os.prompts.ShowMessage(message, platform::kStyleOk); }};
 
-    if (!app_.resourceModule)
-        os.prompts.ShowMessage(app_.messages.Get(kMsgLanguageLibraryMissing), platform::kStyleOk);
-    CommandTreeSources sources{app_.commands,
-                               app_.resourceModule.get(),
-                               {ui::ControlText(Item(IDC_KEY_SETTING_MAIN_MENU)),
-                                ui::ControlText(Item(IDC_KEY_SETTING_USER_BARS)),
-                                ui::ControlText(Item(IDC_KEY_SETTING_EXTERNAL)),
-                                ui::ControlText(Item(IDC_KEY_SETTING_BAR_MENUS))},
-                               barCommandsWanted ? programDirectory + kBarMenuFolder : L""};
+    if (!app_.resourceModule) os.prompts.ShowMessage(app_.messages.Get(kMsgLanguageLibraryMissing), platform::kStyleOk);
+    CommandTreeSources sources{
+        app_.commands,
+        app_.resourceModule.get(),
+        {ui::ControlText(Item(IDC_KEY_SETTING_MAIN_MENU)), ui::ControlText(Item(IDC_KEY_SETTING_USER_BARS)),
+         ui::ControlText(Item(IDC_KEY_SETTING_EXTERNAL)), ui::ControlText(Item(IDC_KEY_SETTING_BAR_MENUS))},
+        barCommandsWanted ? programDirectory + kBarMenuFolder : L""};
     items_.clear();
     tree_.DeleteAllItems();
     InsertNodes(BuildCommandTree(sources, dumpForm ? &dump : nullptr), TVI_ROOT);
@@ -137,9 +135,9 @@ std::optional<LRESULT> COptionKeySetting::OnNotify(const NMHDR& header) {
     if (header.code == TVN_ITEMEXPANDEDW) {
         const auto& change = reinterpret_cast<const NMTREEVIEWW&>(header);
         if (change.itemNew.lParam == 0)
-            tree_.SetItemImage(change.itemNew.hItem, static_cast<int>(change.action == TVE_EXPAND
-                                                                           ? CommandImage::OpenGroup
-                                                                           : CommandImage::ClosedGroup));
+            tree_.SetItemImage(
+                change.itemNew.hItem,
+                static_cast<int>(change.action == TVE_EXPAND ? CommandImage::OpenGroup : CommandImage::ClosedGroup));
         return 0;
     }
     if (header.code == NM_DBLCLK) {

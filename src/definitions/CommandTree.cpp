@@ -47,7 +47,8 @@ private:
 
     // Adds the menu's items to nodes; returns the path (indexes from nodes down) of the item inserted
     // last, empty when none was.
-    std::vector<size_t> WalkMenu(const platform::Menu& menu, std::vector<CommandNode>& nodes, std::vector<size_t> path) {
+    std::vector<size_t> WalkMenu(const platform::Menu& menu, std::vector<CommandNode>& nodes,
+                                 std::vector<size_t> path) {
         std::vector<size_t> last;
         for (const platform::MenuItem& item : menu) {
             std::wstring text = item.text.substr(0, kMenuTextLimit);

@@ -39,8 +39,10 @@ const SettingRow kCommonOperationRows[] = {
 };
 
 const SettingRow kIncrementalSearchRows[] = {
-    IntRow(L"IncliMentTime", &S::IncliMentTime, 1000).Range(100, 10000), IntRow(L"UseMigemo", &S::UseMigemo, 0),
-    TextRow(L"MigemoDll", &S::MigemoDll, L""),         TextRow(L"MigemoDic", &S::MigemoDic, L""),
+    IntRow(L"IncliMentTime", &S::IncliMentTime, 1000).Range(100, 10000),
+    IntRow(L"UseMigemo", &S::UseMigemo, 0),
+    TextRow(L"MigemoDll", &S::MigemoDll, L""),
+    TextRow(L"MigemoDic", &S::MigemoDic, L""),
     IntRow(L"MigemoMax", &S::MigemoMax, 2000).Range(0, 10000),
 };
 

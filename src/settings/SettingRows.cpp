@@ -42,7 +42,8 @@ void LoadList(SettingsStore& store, const SettingRow& row) {
 
 // The entries up to the write limit, then one empty entry as the end mark.
 void SaveList(SettingsStore& store, const SettingRow& row) {
-    const size_t count = std::min<size_t>(row.writeLimit, row.list ? (store.*row.list).size() : (store.*row.pairs).size());
+    const size_t count =
+        std::min<size_t>(row.writeLimit, row.list ? (store.*row.list).size() : (store.*row.pairs).size());
     for (size_t n = 0; n <= count; ++n) {
         if (row.list) {
             store.WriteString(EntryName(row.name, n), n < count ? (store.*row.list)[n] : L"");

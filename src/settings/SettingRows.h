@@ -21,8 +21,8 @@ struct SettingRow {
     // and touches no registry value.
     int32_t SettingsStore::*integer = nullptr;
     std::wstring SettingsStore::*text = nullptr;
-    LogFont SettingsStore::*font = nullptr;     // the twelve font values of the section
-    TextList SettingsStore::*list = nullptr;    // "0", "1", ... up to the first absent or empty value
+    LogFont SettingsStore::*font = nullptr;         // the twelve font values of the section
+    TextList SettingsStore::*list = nullptr;        // "0", "1", ... up to the first absent or empty value
     PathStateList SettingsStore::*pairs = nullptr;  // as list, with a state value beside each path
     int32_t integerDefault = 0;
     // For a list, the one entry it holds when the registry gives none (null: it stays empty).
@@ -45,8 +45,12 @@ struct SettingRow {
     uint32_t readLimit = UINT32_MAX;
     uint32_t writeLimit = UINT32_MAX;
 
-    constexpr SettingRow Range(int32_t from, int32_t to) const { return With(&SettingRow::low, from).With(&SettingRow::high, to); }
-    constexpr SettingRow DefaultFrom(int32_t SettingsStore::*member) const { return With(&SettingRow::defaultFrom, member); }
+    constexpr SettingRow Range(int32_t from, int32_t to) const {
+        return With(&SettingRow::low, from).With(&SettingRow::high, to);
+    }
+    constexpr SettingRow DefaultFrom(int32_t SettingsStore::*member) const {
+        return With(&SettingRow::defaultFrom, member);
+    }
     constexpr SettingRow SystemColour(int32_t index) const { return With(&SettingRow::systemColour, index); }
     // Only these bits are used, on read and on write.
     constexpr SettingRow Keep(uint32_t bits) const { return With(&SettingRow::readKeep, bits).Writes(bits); }
@@ -89,7 +93,8 @@ constexpr SettingRow FontRow(LogFont SettingsStore::*member, Saved saved) {
 
 // Save writes every entry (up to the write limit) and then one empty value as the end mark, so that
 // a shorter list hides the older tail without deleting it.
-constexpr SettingRow ListRow(const wchar_t* format, TextList SettingsStore::*member, const wchar_t* whenEmpty = nullptr) {
+constexpr SettingRow ListRow(const wchar_t* format, TextList SettingsStore::*member,
+                             const wchar_t* whenEmpty = nullptr) {
     return {.name = format, .list = member, .textDefault = whenEmpty};
 }
 

@@ -27,34 +27,34 @@ enum class SettingsGroup {
     Event,        // command lines run on events
     Sound,        // sound files played on events
     // The file list and its look.
-    ListInitial,   // "ListInit" initial state, with the inside tree of "TreeInfo"
-    ListWidths,    // "ListInit" column and tile widths
-    ListStyle,     // "ListDraw" base group
-    ListIcon,      // "ListDraw" icon retrieval
-    ListDrawing,   // "ListDraw" drawing of the list
-    ListStatus,    // "ListDraw" status area
-    AddressBar,    // "ListDraw" address bar
-    CustomSort,    // "ListDraw" custom sort bits
-    ListAction,    // "ListAction" behaviour
-    AutoUpdate,    // "ListAction" automatic update, and the list of "ListNoUpdate"
-    FilterBar,     // "ListAction" filter and search bar
-    SplitView,     // "ListAction" two lists side by side
-    ListClicks,    // "ListMouse" click actions; also reads the wheel values, which it does not write
-    BlankArea,     // "ListMouse" scripts of the blank area
-    Colors,        // "Color"
-    ViewFont,      // "ViewFont", and the two fonts built from it
-    Thumb,         // "Thumb"
+    ListInitial,  // "ListInit" initial state, with the inside tree of "TreeInfo"
+    ListWidths,   // "ListInit" column and tile widths
+    ListStyle,    // "ListDraw" base group
+    ListIcon,     // "ListDraw" icon retrieval
+    ListDrawing,  // "ListDraw" drawing of the list
+    ListStatus,   // "ListDraw" status area
+    AddressBar,   // "ListDraw" address bar
+    CustomSort,   // "ListDraw" custom sort bits
+    ListAction,   // "ListAction" behaviour
+    AutoUpdate,   // "ListAction" automatic update, and the list of "ListNoUpdate"
+    FilterBar,    // "ListAction" filter and search bar
+    SplitView,    // "ListAction" two lists side by side
+    ListClicks,   // "ListMouse" click actions; also reads the wheel values, which it does not write
+    BlankArea,    // "ListMouse" scripts of the blank area
+    Colors,       // "Color"
+    ViewFont,     // "ViewFont", and the two fonts built from it
+    Thumb,        // "Thumb"
     // The bars around the list.
-    Tree,         // "TreeInfo" and its roots
-    TabBar,       // "TabStyle" tab bar
-    TabCommon,    // "TabStyle" common values and click commands
-    UserBar,      // "UBar" and the nine bars of "Bar"
-    PreView,      // "PreView"
-    Recent,       // "Recent"
-    FolderInfo,   // "FolderInfo": one value per folder; Save deletes the key and writes it anew
-    FolderInfoEx, // "FolderInfoEx": wild-card and regular expression lists
-    Skin,         // skin and background image in "Settings"
-    StatusAnime,  // status animation in "Settings"
+    Tree,          // "TreeInfo" and its roots
+    TabBar,        // "TabStyle" tab bar
+    TabCommon,     // "TabStyle" common values and click commands
+    UserBar,       // "UBar" and the nine bars of "Bar"
+    PreView,       // "PreView"
+    Recent,        // "Recent"
+    FolderInfo,    // "FolderInfo": one value per folder; Save deletes the key and writes it anew
+    FolderInfoEx,  // "FolderInfoEx": wild-card and regular expression lists
+    Skin,          // skin and background image in "Settings"
+    StatusAnime,   // status animation in "Settings"
 };
 
 // Every group, in the order above.

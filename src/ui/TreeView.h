@@ -20,9 +20,13 @@ public:
                          HTREEITEM after = TVI_LAST) const;
     // The same as the last child of parent, with a picture of the image list, shown selected or not.
     HTREEITEM InsertItem(const std::wstring& text, LPARAM data, int image, HTREEITEM parent) const;
-    void SetImageList(HIMAGELIST images) const { Send(TVM_SETIMAGELIST, TVSIL_NORMAL, reinterpret_cast<LPARAM>(images)); }
+    void SetImageList(HIMAGELIST images) const {
+        Send(TVM_SETIMAGELIST, TVSIL_NORMAL, reinterpret_cast<LPARAM>(images));
+    }
     void SetItemImage(HTREEITEM item, int image) const;
-    bool EnsureVisible(HTREEITEM item) const { return Send(TVM_ENSUREVISIBLE, 0, reinterpret_cast<LPARAM>(item)) != FALSE; }
+    bool EnsureVisible(HTREEITEM item) const {
+        return Send(TVM_ENSUREVISIBLE, 0, reinterpret_cast<LPARAM>(item)) != FALSE;
+    }
     bool DeleteItem(HTREEITEM item) const { return Send(TVM_DELETEITEM, 0, reinterpret_cast<LPARAM>(item)) != FALSE; }
     void DeleteAllItems() const { Send(TVM_DELETEITEM, 0, reinterpret_cast<LPARAM>(TVI_ROOT)); }
     int GetCount() const { return static_cast<int>(Send(TVM_GETCOUNT)); }

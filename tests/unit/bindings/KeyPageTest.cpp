@@ -27,7 +27,8 @@ TEST(KeyPage, EachResetReachesItsOwnKeys) {
     std::vector<int> block;
     for (int key = 0; key < kKeyCount; ++key) block.push_back((kModifierShift + 4 * 1) * kKeyCount + key);
     const Case cases[] = {
-        {"one key of the block shown", [&](KeyTableSet& set) { set.ResetKey(defaults, 1, kModifierShift, 5); },
+        {"one key of the block shown",
+         [&](KeyTableSet& set) { set.ResetKey(defaults, 1, kModifierShift, 5); },
          {(kModifierShift + 4 * 1) * kKeyCount + 5}},
         {"the block shown", [&](KeyTableSet& set) { set.ResetBlock(defaults, 1, kModifierShift); }, block},
         {"all keys: the first three modes only", [&](KeyTableSet& set) { set.ResetAllKeys(defaults); }, wordsOf(0, 3)},
@@ -47,9 +48,10 @@ TEST(KeyPage, EachResetReachesItsOwnKeys) {
 }
 
 TEST(KeyPage, SavedListsAreNamedByModeAndModifier) {
-    EXPECT_EQ((std::vector<std::wstring>{L"Command.csv", L"Search Shift.csv", L"mode3 Ctrl.csv", L"mode9 Ctrl+Shift.csv"}),
-              (std::vector<std::wstring>{PageKeyListName(0, kModifierNone), PageKeyListName(1, kModifierShift),
-                                         PageKeyListName(2, kModifierCtrl), PageKeyListName(8, kModifierCtrlShift)}));
+    EXPECT_EQ(
+        (std::vector<std::wstring>{L"Command.csv", L"Search Shift.csv", L"mode3 Ctrl.csv", L"mode9 Ctrl+Shift.csv"}),
+        (std::vector<std::wstring>{PageKeyListName(0, kModifierNone), PageKeyListName(1, kModifierShift),
+                                   PageKeyListName(2, kModifierCtrl), PageKeyListName(8, kModifierCtrlShift)}));
 }
 
 }  // namespace

@@ -44,26 +44,33 @@ protected:
     CommandTreeTest() {
         LibraryContent content;
         content.menus[130] = {
-            Popup(L"ファイル(&F)", {Item(32800, L"開く(&O)..."), Item(0, L""), Item(32801, L"閉じる(&C)"),
-                                    Item(32772, L"最近使ったファイル"), Popup(L"送る", {Item(32802, L"デスクトップ")}, 32775)}),
+            Popup(L"ファイル(&F)",
+                  {Item(32800, L"開く(&O)..."), Item(0, L""), Item(32801, L"閉じる(&C)"),
+                   Item(32772, L"最近使ったファイル"), Popup(L"送る", {Item(32802, L"デスクトップ")}, 32775)}),
             Item(59392, L"ツールバー"),
         };
         content.menus[501] = {Popup(L"コマンド", {Item(32810, L"更新"), Popup(L"表示", {Item(32811, L"&詳細")})})};
-        content.strings = {{32800, L"ファイルを開く\nTip"}, {32801, L"閉じる"}, {32810, L"更新する"},
-                           {32811, L"詳細表示"}, {50551, L"外部コマンド%d"}, {50560, L"バー1 - 操作%d"}};
+        content.strings = {
+            {32800, L"ファイルを開く\nTip"}, {32801, L"閉じる"},        {32810, L"更新する"}, {32811, L"詳細表示"},
+            {50551, L"外部コマンド%d"},      {50560, L"バー1 - 操作%d"}};
         fake.system().AddLibrary(kLibrary, content);
         library = fake.system().LoadDataLibrary(kLibrary);
         fake.files().AddDirectory(kBarMenus);
         fake.files().AddFile(std::wstring(kBarMenus) + L"_Bar.txt",
                              Utf16Bytes(L"MENUITEM\tタブを複製\t47001\r\n \t\r\nMENUITEM\t範囲外\t46999\r\n"
-                                        L"MENUITEM\t多すぎ\t47002\tx\r\n\xFEFFMENUITEM\t名前を変更\t47999 \r\n", true));
-        fake.files().AddFile(std::wstring(kBarMenus) + L"_Filter.txt", Utf16Bytes(L"MENUITEM\tフィルタ\t47003\r\n", true));
+                                        L"MENUITEM\t多すぎ\t47002\tx\r\n\xFEFFMENUITEM\t名前を変更\t47999 \r\n",
+                                        true));
+        fake.files().AddFile(std::wstring(kBarMenus) + L"_Filter.txt",
+                             Utf16Bytes(L"MENUITEM\tフィルタ\t47003\r\n", true));
         fake.files().AddFile(std::wstring(kBarMenus) + L"Plain.txt", Utf16Bytes(L"MENUITEM\t普通\t47004\r\n", true));
         fake.files().AddFile(std::wstring(kBarMenus) + L"_None.txt", Utf16Bytes(L"POPUP\t何もない\r\n", true));
     }
 
     CommandTreeSources Sources(bool barCommands) const {
-        return {catalog, library.get(), {L"メインメニューのコマンド", L"ユーザー定義バーの操作", L"全ての外部コマンド", L"各種バー専用のメニューコマンド"},
+        return {catalog,
+                library.get(),
+                {L"メインメニューのコマンド", L"ユーザー定義バーの操作", L"全ての外部コマンド",
+                 L"各種バー専用のメニューコマンド"},
                 barCommands ? kBarMenus : L""};
     }
 
@@ -77,6 +84,7 @@ protected:
 TEST_F(CommandTreeTest, TheTreeInThePickersOrder) {
     std::wstring outline;
     Outline(BuildCommandTree(Sources(true), nullptr), 0, outline);
+    // clang-format off
     EXPECT_EQ(L"メインメニューのコマンド [0]\n"
               L"  ファイル(F) [0]\n"
               L"    開く(O) #32800 [5]\n"
@@ -124,6 +132,7 @@ TEST_F(CommandTreeTest, TheTreeInThePickersOrder) {
               L"    タブを複製 #47001 [2]\n"
               L"    名前を変更 #47999 [2]\n",
               outline);
+    // clang-format on
 
     // Without the language library and without bar commands only the numbered branches are left.
     CommandTreeSources bare = Sources(false);
@@ -138,9 +147,11 @@ TEST_F(CommandTreeTest, TheTreeInThePickersOrder) {
 TEST_F(CommandTreeTest, TheDumpTakesTheFormOfEachRowAsAltStandsThen) {
     int rows = 0;
     std::vector<std::wstring> told;
-    CommandTreeDump dump{[&] { return rows++ % 2 == 1; }, [&](const std::wstring& message) { told.push_back(message); }};
+    CommandTreeDump dump{[&] { return rows++ % 2 == 1; },
+                         [&](const std::wstring& message) { told.push_back(message); }};
     BuildCommandTree(Sources(true), &dump);
     EXPECT_EQ(2 + 2 + 9 * 9 + 6 * 500, rows);
+    // clang-format off
     EXPECT_EQ(L"\xFEFF"
               L"32800\t開く(O)\tファイルを開く\r\n"
               L"<tr><td>32801</td><td>閉じる(C)</td><td>閉じる</td></tr>\r\n"
@@ -148,6 +159,7 @@ TEST_F(CommandTreeTest, TheDumpTakesTheFormOfEachRowAsAltStandsThen) {
               L"<tr><td>32811</td><td>詳細</td><td>詳細表示</td></tr>\r\n"
               L"33000\tバー1 - 操作1\tバー1 - 操作1\r\n",
               dump.text.substr(0, dump.text.find(L"<tr><td>33001")));
+    // clang-format on
     EXPECT_EQ(std::wstring::npos, dump.text.find(L"47001"));
     EXPECT_TRUE(told.empty()) << "the numbered commands have their generic text";
 
@@ -156,7 +168,8 @@ TEST_F(CommandTreeTest, TheDumpTakesTheFormOfEachRowAsAltStandsThen) {
     CommandTreeDump html{[] { return true; }, [&](const std::wstring& message) { told.push_back(message); }};
     BuildCommandTree(Sources(false), &html);
     EXPECT_EQ(std::vector<std::wstring>{L"Cannot get command string.(名無し:32900)"}, told);
-    EXPECT_NE(std::wstring::npos, html.text.find(L"<tr><td>32900</td><td>名無し</td><td>Cannot get command string.</td></tr>"));
+    EXPECT_NE(std::wstring::npos,
+              html.text.find(L"<tr><td>32900</td><td>名無し</td><td>Cannot get command string.</td></tr>"));
 }
 
 }  // namespace

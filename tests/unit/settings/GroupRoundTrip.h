@@ -18,9 +18,10 @@
 inline std::map<std::wstring, NamedValues> AllSections() {
     std::map<std::wstring, NamedValues> all;
     for (const wchar_t* section :
-         {L"AppInfo", L"Settings", L"Mouse", L"Event", L"Sound", L"ListInit", L"ListDraw", L"ListAction",
-          L"ListNoUpdate", L"ListMouse", L"Color", L"ViewFont", L"Thumb", L"Detail", L"TreeInfo", L"TabStyle",
-          L"UBar", L"Bar", L"PreView", L"Recent", L"FolderInfo", L"FolderInfoEx", L"Elsewhere"})
+         {L"AppInfo",  L"Settings",   L"Mouse",        L"Event",        L"Sound",    L"ListInit",
+          L"ListDraw", L"ListAction", L"ListNoUpdate", L"ListMouse",    L"Color",    L"ViewFont",
+          L"Thumb",    L"Detail",     L"TreeInfo",     L"TabStyle",     L"UBar",     L"Bar",
+          L"PreView",  L"Recent",     L"FolderInfo",   L"FolderInfoEx", L"Elsewhere"})
         all[section] = ValuesOf(section);
     return all;
 }

@@ -106,11 +106,13 @@ TEST(SettingsGroups, ApplyWritesWhatTheHostReads) {
     };
     auto roots = [](int count) {
         NamedValues values;
-        for (int n = 0; n < count; ++n) values.emplace_back(L"TopNode" + std::to_wstring(n), L"root " + std::to_wstring(n));
+        for (int n = 0; n < count; ++n)
+            values.emplace_back(L"TopNode" + std::to_wstring(n), L"root " + std::to_wstring(n));
         return values;
     };
     auto nothing = [](SettingsStore&) {};
     using G = SettingsGroup;
+    // clang-format off
     const Case cases[] = {
         {"thumbnail bits: the default becomes 6", G::Thumb, L"Thumb", {}, nothing,
          {{L"Thumb", 6}, {L"ImgSizeBase", 128}}},
@@ -150,6 +152,7 @@ TEST(SettingsGroups, ApplyWritesWhatTheHostReads) {
          [](S& s) { s.WildPaths.pop_back(); },
          {{L"wp000", L"*a"}, {L"wp001", L""}, {L"ws001", L""}, {L"rs000", L""}, {L"rp001", L""}}},
     };
+    // clang-format on
     for (const Case& c : cases) {
         SCOPED_TRACE(c.label);
         FakePlatform fake;
@@ -181,10 +184,12 @@ TEST(SettingsGroups, LoadGivesThePagesWhatTheHostStored) {
     EXPECT_EQ(10u, store.RegexPaths.size());
     EXPECT_EQ((PathState{L"re9", L""}), store.RegexPaths.back());
     EXPECT_EQ((std::vector<int32_t>{-18, -10, 700}),
-              (std::vector<int32_t>{store.ViewFontScaled.lfHeight, store.ViewFontBold.lfHeight, store.ViewFontBold.lfWeight}));
+              (std::vector<int32_t>{store.ViewFontScaled.lfHeight, store.ViewFontBold.lfHeight,
+                                    store.ViewFontBold.lfWeight}));
     EXPECT_EQ(TextList{L"only"}, store.TopNode);
-    EXPECT_EQ((std::vector<int32_t>{1, 0, 1, 1}), (std::vector<int32_t>{store.TreeInfoValues::Caption, store.TabStyleValues::Caption,
-                                                                       store.PreViewValues::Caption, store.RecentValues::Caption}));
+    EXPECT_EQ((std::vector<int32_t>{1, 0, 1, 1}),
+              (std::vector<int32_t>{store.TreeInfoValues::Caption, store.TabStyleValues::Caption,
+                                    store.PreViewValues::Caption, store.RecentValues::Caption}));
 
     // The details view: one entry per column the desktop offers, nothing written.
     StoreValue(L"Detail", L"Col04", 1);

@@ -29,7 +29,8 @@ protected:
         content.strings = {{32800, L"ファイルを開く\nTip"}, {32811, L"詳細表示"}};
         fake_.system().AddLibrary(kLibrary, content);
         app_.resourceModule = fake_.system().LoadDataLibrary(kLibrary);
-        fake_.files().AddFile(L"C:\\Qor\\Lang\\Msg.ja-JP.txt", Utf16Bytes(L"62301\t項目が選択されていません\r\n", true));
+        fake_.files().AddFile(L"C:\\Qor\\Lang\\Msg.ja-JP.txt",
+                              Utf16Bytes(L"62301\t項目が選択されていません\r\n", true));
         app_.messages.SetPath(L"C:\\Qor\\Lang\\Msg.ja-JP.txt");
     }
 
@@ -49,18 +50,19 @@ TEST_F(CommandPickerTest, OkNeedsACommandAndSearchFindsOneByNumber) {
     EXPECT_EQ(&picker, &COptionKeySetting::Shared(app_)) << "one picker for the process";
     picker.currentId = 0;
     std::vector<std::wstring> seen;
-    INT_PTR result = RunModal(picker, {
-        [&](HWND dialog) {
-            seen.push_back(Selected(dialog));
-            Click(dialog, IDOK);
-        },
-        [&](HWND dialog) {
-            SetDlgItemTextW(dialog, IDC_KEY_SETTING_ID, L"32811");
-            Click(dialog, IDC_KEY_SETTING_SEARCH);
-            seen.push_back(Selected(dialog) + L" / " + Text(dialog, IDC_KEY_SETTING_TEXT));
-            Click(dialog, IDOK);
-        },
-    });
+    INT_PTR result =
+        RunModal(picker, {
+                             [&](HWND dialog) {
+                                 seen.push_back(Selected(dialog));
+                                 Click(dialog, IDOK);
+                             },
+                             [&](HWND dialog) {
+                                 SetDlgItemTextW(dialog, IDC_KEY_SETTING_ID, L"32811");
+                                 Click(dialog, IDC_KEY_SETTING_SEARCH);
+                                 seen.push_back(Selected(dialog) + L" / " + Text(dialog, IDC_KEY_SETTING_TEXT));
+                                 Click(dialog, IDOK);
+                             },
+                         });
     EXPECT_EQ(IDOK, result);
     EXPECT_EQ((std::vector<std::wstring>{L"<none>", L"詳細 / 詳細表示"}), seen);
     EXPECT_EQ((std::vector<ShownMessage>{{L"項目が選択されていません", 0}}), fake_.prompts().shown());
@@ -70,9 +72,9 @@ TEST_F(CommandPickerTest, OkNeedsACommandAndSearchFindsOneByNumber) {
     // Opened again on that command, it is selected at once; with Ctrl held the tree is dumped as text.
     fake_.windows().SetKeyDown(VK_CONTROL, true);
     RunModal(picker, {[&](HWND dialog) {
-        seen.push_back(Selected(dialog));
-        Click(dialog, IDCANCEL);
-    }});
+                 seen.push_back(Selected(dialog));
+                 Click(dialog, IDCANCEL);
+             }});
     EXPECT_EQ(L"詳細", seen.back());
     std::vector<uint8_t> dump;
     ASSERT_TRUE(fake_.files().ReadFile(L"C:\\Qor\\AllCommand.txt", dump));
@@ -105,7 +107,8 @@ TEST_F(CommandPickerTest, TheKeyPageBindsARowThroughThePicker) {
         inPicker();
     });
     Click(page, IDC_KEYSET_EDIT);
-    EXPECT_EQ((std::pair<std::wstring, LPARAM>{L"詳細表示", 32811}), (std::pair{list.GetItemText(1, 1), list.GetItemData(1)}));
+    EXPECT_EQ((std::pair<std::wstring, LPARAM>{L"詳細表示", 32811}),
+              (std::pair{list.GetItemText(1, 1), list.GetItemData(1)}));
 
     SendMessageW(dialog.hwnd(), WM_COMMAND, MAKEWPARAM(1301, BN_CLICKED), 0);
     KeyTableSet saved;

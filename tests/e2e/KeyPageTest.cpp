@@ -1,0 +1,146 @@
+// The key page in the running program: a key bound through the command picker reaches the key files
+// and every host hears of it; Cancel leaves the files as they were; Ctrl held while the picker opens
+// lists every command in AllCommand.txt.
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <windows.h>
+
+#include <filesystem>
+#include <string>
+
+#include "support/FakeHostProcess.h"
+#include "support/Files.h"
+#include "support/OptionTree.h"
+#include "support/OptionWindow.h"
+#include "support/Process.h"
+#include "support/Registry.h"
+
+namespace {
+
+namespace fs = std::filesystem;
+namespace reg = e2e::registry;
+
+constexpr wchar_t kOptionPage[] = L"Software\\Tarnwick\\QOR\\Command\\Option\\OptionPage";
+constexpr wchar_t kSettings[] = L"Software\\Tarnwick\\Qor\\Main001\\Settings";
+constexpr int kApply = 1301;
+constexpr int kKeyList = 1601;
+constexpr int kEdit = 1301;
+constexpr int kClear = 1302;
+constexpr int kPickerId = 1001;
+constexpr int kPickerSearch = 1301;
+constexpr unsigned kRefresh = 33301;  // a command of the sample main menu
+const wchar_t* const kKeyFiles[] = {L"CommandMode.key", L"SerchMode.key", L"Mode3.key", L"Mode4.key", L"Mode5.key",
+                                    L"Mode6.key",       L"Mode7.key",     L"Mode8.key", L"Mode9.key"};
+
+void Click(HWND window, int id) {
+    SendMessageW(window, WM_COMMAND, MAKEWPARAM(id, BN_CLICKED), 0);
+}
+
+// Closes the picker with the button and waits until its modal loop has handed back to the page.
+void ClosePicker(HWND picker, int button, HWND dialog, HANDLE process) {
+    PostMessageW(picker, WM_COMMAND, MAKEWPARAM(button, BN_CLICKED), 0);
+    for (int wait = 0; wait < 500 && IsWindow(picker); ++wait) Sleep(10);
+    e2e::WaitUntilDialogIdle(dialog, process);
+}
+
+class KeyPageTest : public testing::Test {
+protected:
+    void SetUp() override {
+        user = fs::temp_directory_path() / ("KeyPageTest" + std::to_string(GetCurrentProcessId()));
+        fs::remove_all(user);
+        fs::create_directories(user);
+        fs::copy(fs::path(e2e::StageRoot()) / L"User", user, fs::copy_options::recursive);
+        reg::WriteDword(kSettings, L"UserDirMode", 2);
+        reg::WriteString(kSettings, L"UserDir", user.wstring() + L"\\");
+        reg::WriteDword(kOptionPage, L"Start", 2);
+    }
+    void TearDown() override { fs::remove_all(user); }
+
+    // The option dialog open on the key page, its first key selected as the keyboard would.
+    HWND OpenKeyPage() {
+        option = e2e::StartOption();
+        if (!option) return nullptr;
+        dialog = e2e::FindVisibleWindow(option.Id(), L"オプション");
+        HWND page = dialog ? e2e::PageWith(dialog, kKeyList) : nullptr;
+        if (!page) return nullptr;
+        PostMessageW(GetDlgItem(page, kKeyList), WM_KEYDOWN, VK_HOME, 0);
+        e2e::WaitUntilDialogIdle(dialog, option.Handle());
+        return page;
+    }
+    // The picker opened by the page's Edit.
+    HWND OpenPicker(HWND page) {
+        PostMessageW(page, WM_COMMAND, MAKEWPARAM(kEdit, BN_CLICKED), 0);
+        return e2e::FindVisibleWindow(option.Id(), L"機能一覧");
+    }
+    std::string KeyFiles() const {
+        std::string all;
+        for (const wchar_t* name : kKeyFiles) all += e2e::ReadFileBytes((user / name).wstring()) + "|";
+        return all;
+    }
+
+    reg::ScopedKey page_{kOptionPage};
+    reg::ScopedKey settings_{kSettings};
+    fs::path user;
+    e2e::Process option;
+    HWND dialog = nullptr;
+};
+
+TEST_F(KeyPageTest, ABindingFromThePickerReachesTheKeyFilesAndCancelKeepsThem) {
+    e2e::FakeHost host;
+    ASSERT_TRUE(host.Window());
+    HWND page = OpenKeyPage();
+    ASSERT_NE(nullptr, page);
+    HWND picker = OpenPicker(page);
+    ASSERT_NE(nullptr, picker);
+    SendMessageW(GetDlgItem(picker, kPickerId), WM_SETTEXT, 0, reinterpret_cast<LPARAM>(L"33301"));
+    Click(picker, kPickerSearch);
+    ClosePicker(picker, IDOK, dialog, option.Handle());
+    Click(dialog, kApply);
+    EXPECT_THAT(host.Commands(), testing::ElementsAre(48999u, 49009u, 49099u));
+    const std::string saved = KeyFiles();
+    for (const wchar_t* name : kKeyFiles) EXPECT_EQ(608u, fs::file_size(user / name)) << fs::path(name).string();
+    const std::string mode0 = e2e::ReadFileBytes((user / L"CommandMode.key").wstring());
+    EXPECT_EQ(kRefresh, static_cast<unsigned char>(mode0[0]) | static_cast<unsigned char>(mode0[1]) << 8)
+        << "key A of the command mode";
+    PostMessageW(dialog, WM_COMMAND, MAKEWPARAM(IDCANCEL, BN_CLICKED), 0);
+    option.WaitOrKill();
+
+    // Clearing a key and cancelling changes no file.
+    page = OpenKeyPage();
+    ASSERT_NE(nullptr, page);
+    PostMessageW(page, WM_COMMAND, MAKEWPARAM(kClear, BN_CLICKED), 0);
+    HWND question = e2e::FindMessageBox(option.Id());
+    ASSERT_NE(nullptr, question);
+    e2e::Answer(question, IDYES);
+    e2e::WaitUntilDialogIdle(dialog, option.Handle());
+    PostMessageW(dialog, WM_COMMAND, MAKEWPARAM(IDCANCEL, BN_CLICKED), 0);
+    option.WaitOrKill();
+    EXPECT_EQ(saved, KeyFiles());
+}
+
+TEST_F(KeyPageTest, CtrlHeldWhileThePickerOpensListsEveryCommand) {
+    const e2e::ScopedFile dump(e2e::StageRoot() + L"\\AllCommand.txt");
+    HWND page = OpenKeyPage();
+    ASSERT_NE(nullptr, page);
+    INPUT ctrl{};
+    ctrl.type = INPUT_KEYBOARD;
+    ctrl.ki.wVk = VK_CONTROL;
+    SendInput(1, &ctrl, sizeof ctrl);
+    // The key reaches the dialog's thread as input, after what was sent and posted to it.
+    e2e::WaitUntilDialogIdle(dialog, option.Handle());
+    Sleep(100);
+    e2e::WaitUntilDialogIdle(dialog, option.Handle());
+    HWND picker = OpenPicker(page);
+    ctrl.ki.dwFlags = KEYEVENTF_KEYUP;
+    SendInput(1, &ctrl, sizeof ctrl);
+    ASSERT_NE(nullptr, picker);
+    ClosePicker(picker, IDCANCEL, dialog, option.Handle());
+    PostMessageW(dialog, WM_COMMAND, MAKEWPARAM(IDCANCEL, BN_CLICKED), 0);
+    option.WaitOrKill();
+    const std::wstring text = e2e::ReadUtf16File(dump.Path());
+    EXPECT_TRUE(text.starts_with(L"\uFEFF")) << "no AllCommand.txt";
+    EXPECT_NE(std::wstring::npos, text.find(L"33301\t"));
+}
+
+}  // namespace
