@@ -51,3 +51,11 @@ void OptionPage::ExchangeSetting(ui::DataExchange& exchange, int id, int32_t Set
     DDX_Text(exchange, id, value);
     DDV_MinMaxInt(exchange, value, range.low, range.high);
 }
+
+void OptionPage::ExchangeUnsignedSetting(ui::DataExchange& exchange, int id, int32_t SettingsStore::*member) const {
+    auto value = static_cast<uint32_t>(app().store.*member);
+    const SettingRange range = RangeOf(member);
+    DDX_Text(exchange, id, value);
+    DDV_MinMaxUInt(exchange, value, static_cast<uint32_t>(range.low), static_cast<uint32_t>(range.high));
+    app().store.*member = static_cast<int32_t>(value);
+}

@@ -45,6 +45,8 @@ protected:
     AppServices& app() const { return app_; }
     // The control's number into the setting, refused outside the range its group gives it.
     void ExchangeSetting(ui::DataExchange& exchange, int id, int32_t SettingsStore::*member) const;
+    // The same for a field the framework reads as unsigned, with its own refusal wording.
+    void ExchangeUnsignedSetting(ui::DataExchange& exchange, int id, int32_t SettingsStore::*member) const;
 
 private:
     AppServices& app_;

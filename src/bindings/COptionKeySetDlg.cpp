@@ -58,11 +58,7 @@ void COptionKeySetDlg::DoDataExchange(ui::DataExchange& exchange) {
     DDX_CBIndex(exchange, IDC_KEYSET_SET, set_);
     DDX_Radio(exchange, IDC_KEYSET_MODIFIER_FIRST, modifier_);
     DDX_CBIndex(exchange, IDC_KEYSET_SWITCH_TARGET, store.AutoSwitchAllocKey);
-    auto time = static_cast<uint32_t>(store.AutoSwitchAllocKeyTime);
-    DDX_Text(exchange, IDC_KEYSET_SWITCH_TIME, time);
-    const SettingRange range = RangeOf(&SettingsStore::AutoSwitchAllocKeyTime);
-    DDV_MinMaxUInt(exchange, time, static_cast<uint32_t>(range.low), static_cast<uint32_t>(range.high));
-    store.AutoSwitchAllocKeyTime = static_cast<int32_t>(time);
+    ExchangeUnsignedSetting(exchange, IDC_KEYSET_SWITCH_TIME, &SettingsStore::AutoSwitchAllocKeyTime);
     if (!exchange.saving()) EnableSwitchTime();
 }
 

@@ -25,11 +25,7 @@ void COptionAppInfoDlg::DoDataExchange(ui::DataExchange& exchange) {
     DDX_Check(exchange, IDC_APPINFO_CACHE_COMMANDS, store.CasheExCmd);
     DDX_Check(exchange, IDC_APPINFO_IME_OFF, store.IME);
     DDX_Check(exchange, IDC_APPINFO_DRAG_HELPER, store.DragHelper);
-    uint32_t threshold = static_cast<uint32_t>(store.ChgSortAlg);
-    DDX_Text(exchange, IDC_APPINFO_SORT_THRESHOLD, threshold);
-    const SettingRange range = RangeOf(&SettingsStore::ChgSortAlg);
-    DDV_MinMaxUInt(exchange, threshold, static_cast<uint32_t>(range.low), static_cast<uint32_t>(range.high));
-    store.ChgSortAlg = static_cast<int32_t>(threshold);
+    ExchangeUnsignedSetting(exchange, IDC_APPINFO_SORT_THRESHOLD, &SettingsStore::ChgSortAlg);
 }
 
 // The benchmark blocks the dialog for as long as it runs; the template warns of that. Its result
