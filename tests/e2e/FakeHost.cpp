@@ -1,23 +1,12 @@
-// A window that logs what it is sent, for the tests. Built twice: as FakeHost.exe, the test's stand-in
-// for the file manager's main window, and as DropTarget.exe, a program that files are dropped on.
-//
+// A window that logs what it is sent: FakeHost.exe stands in for the host's main window (of the
+// host's class), DropTarget.exe (class "OptionTests.DropTarget") is a program files are dropped on.
 //   FakeHost.exe --log <file> [--title <text>] [--hidden]
 //   DropTarget.exe [--log <file>] [anything]     the log defaults to the variable DROPTARGET_LOG
-//
-// FakeHost.exe's window is of the host's class, DropTarget.exe's of "OptionTests.DropTarget". Either
-// appends one UTF-8 line to the log per event, written through at once so that a test reads it as
-// soon as the sender's SendMessageW has returned:
-//   cwd <directory>            its current directory at start
-//   args <text>                its command line behind the program name
-//   ready                      the window exists (and is shown unless hidden)
-//   command <wParam> [<lParam>]   WM_COMMAND; lParam only when it is not 0
-//   copydata <dwData> <text>   WM_COPYDATA, text up to its terminating zero (the sender's size may be
-//                              longer than the text)
-//   message <msg> <wParam> <lParam>   a private message (WM_APP and above)
-//   dropfiles <path>|<path>    WM_DROPFILES, the paths DragQueryFileW gives
-//   activate                   the window became active
-// It ends on WM_CLOSE with exit code 0, or by itself after two minutes so that a failed test leaves
-// nothing behind.
+// One UTF-8 line per event, written through at once so that a test reads it as soon as its
+// SendMessageW has returned: "cwd <directory>", "args <command line tail>", "ready",
+// "command <wParam> [<lParam> unless 0]", "copydata <dwData> <text up to its zero>",
+// "message <msg> <wParam> <lParam>" (WM_APP and above), "dropfiles <path>|<path>", "activate".
+// It ends on WM_CLOSE with exit code 0, or by itself after two minutes.
 #include <windows.h>
 // after windows.h, which it needs
 #include <shellapi.h>

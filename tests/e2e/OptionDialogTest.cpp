@@ -62,10 +62,6 @@ std::wstring TakeMessageBox(const e2e::Process& option) {
     return text;
 }
 
-bool Checked(HWND list, int row) {
-    return (SendMessageW(list, LVM_GETITEMSTATE, row, LVIS_STATEIMAGEMASK) >> 12) == 2;
-}
-
 // Opened by a host in window mode 3, the dialog is owned by the host's window, serves the folder
 // request at once and answers the host's probe; Cancel stores nothing and sends the host nothing.
 // With LangOut on it writes its text file for translators, and a translated file is what the next
@@ -190,7 +186,10 @@ TEST(OptionDialog, ApplyStoresEveryPageAndEveryHostHearsWhatToReread) {
     ASSERT_NE(nullptr, confirmations);
     HWND list = GetDlgItem(confirmations, 1601);
     ASSERT_EQ(15, SendMessageW(list, LVM_GETITEMCOUNT, 0, 0));
-    for (int row = 0; row < 15; ++row) EXPECT_EQ(row == 0 || row == 2, Checked(list, row)) << row;
+    for (int row = 0; row < 15; ++row) {
+        const bool checked = (SendMessageW(list, LVM_GETITEMSTATE, row, LVIS_STATEIMAGEMASK) >> 12) == 2;
+        EXPECT_EQ(row == 0 || row == 2, checked) << row;
+    }
     Click(confirmations, 1303);
     Click(dialog, kApply);
     EXPECT_EQ(0x12344704u, reg::ReadDword(kAppInfo, L"Message").value_or(0));

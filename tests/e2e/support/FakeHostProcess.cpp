@@ -22,13 +22,6 @@ std::wstring NewLogPath() {
            std::to_wstring(++counter) + L".log";
 }
 
-// The lines after the first "ready"; all of them when there is none.
-std::vector<std::string> AfterReady(std::vector<std::string> lines) {
-    auto ready = std::find(lines.begin(), lines.end(), kReady);
-    if (ready != lines.end()) lines.erase(lines.begin(), ready + 1);
-    return lines;
-}
-
 }  // namespace
 
 std::vector<std::string> ReadLogLines(const std::wstring& path) {
@@ -74,7 +67,10 @@ FakeHost::~FakeHost() {
 }
 
 std::vector<std::string> FakeHost::Lines() const {
-    return AfterReady(ReadLogLines(logPath_));
+    std::vector<std::string> lines = ReadLogLines(logPath_);
+    auto ready = std::find(lines.begin(), lines.end(), kReady);
+    if (ready != lines.end()) lines.erase(lines.begin(), ready + 1);
+    return lines;
 }
 
 std::vector<std::string> FakeHost::TakeLines() {

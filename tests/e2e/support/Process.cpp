@@ -31,21 +31,6 @@ std::wstring QuoteArgument(const std::wstring& argument) {
     return L"\"" + argument + L"\"";
 }
 
-// Sets variables the test process itself does not have for as long as it lives, so that a child
-// started meanwhile inherits them.
-class ScopedEnvironment {
-public:
-    explicit ScopedEnvironment(const EnvChanges& changes) : changes_(changes) {
-        for (const EnvVar& change : changes_) SetEnvironmentVariableW(change.name.c_str(), change.value.c_str());
-    }
-    ~ScopedEnvironment() {
-        for (const EnvVar& change : changes_) SetEnvironmentVariableW(change.name.c_str(), nullptr);
-    }
-
-private:
-    const EnvChanges& changes_;
-};
-
 }  // namespace
 
 std::wstring TestDirectory() {
@@ -78,14 +63,17 @@ Process Process::Start(const std::wstring& program, const std::vector<std::wstri
                        std::source_location where) {
     std::wstring commandLine = QuoteArgument(program);
     for (const std::wstring& arg : args) commandLine += L" " + QuoteArgument(arg);
-    ScopedEnvironment environment(env);
+    // The variables are the test process's own only while the child starts, which inherits them.
+    for (const EnvVar& change : env) SetEnvironmentVariableW(change.name.c_str(), change.value.c_str());
     STARTUPINFOW startup{};
     startup.cb = sizeof(startup);
     PROCESS_INFORMATION info{};
     Process process;
-    if (!CreateProcessW(program.c_str(), commandLine.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &startup,
-                        &info)) {
-        DWORD error = GetLastError();
+    const BOOL started = CreateProcessW(program.c_str(), commandLine.data(), nullptr, nullptr, FALSE, 0, nullptr,
+                                        nullptr, &startup, &info);
+    const DWORD error = GetLastError();
+    for (const EnvVar& change : env) SetEnvironmentVariableW(change.name.c_str(), nullptr);
+    if (!started) {
         ADD_FAILURE_AT(where.file_name(), where.line())
             << "cannot start " << Utf8(commandLine) << " (error " << error << ")";
         return process;

@@ -112,20 +112,15 @@ TEST_F(ScriptHostWordsTest, WhatTheHostHears) {
         {"a pane out of range is reported and the run goes on",
          {L"folderjump = 4, C:\\Data", L"filejump = -1, C:\\Data", L"select = after"}, {L"copy 800 after"},
          {SyntaxError(L"folderjump = 4, C:\\Data"), SyntaxError(L"filejump = -1, C:\\Data")}},
-        {"a jump without a path ends the run", {L"folderjump = 1,", L"select = after"}, {},
-         {SyntaxError(L"folderjump = 1,")}},
-        {"favoritejump above 9 ends the run", {L"favoritejump = 10, C:\\Data", L"select = after"}, {},
-         {SyntaxError(L"favoritejump = 10, C:\\Data")}},
-        {"a favorite without a path too", {L"favoritejump = 2,", L"select = after"}, {},
-         {SyntaxError(L"favoritejump = 2,")}},
-        {"a file jump without a comma too", {L"filejump = 1", L"select = after"}, {}, {SyntaxError(L"filejump = 1")}},
-        {"ubjump below 1 too", {L"ubjump = 0, x", L"select = after"}, {}, {SyntaxError(L"ubjump = 0, x")}},
-        {"ubjump above 10 too", {L"ubjump = 11, x", L"select = after"}, {}, {SyntaxError(L"ubjump = 11, x")}},
         {"a command wins over a variable of its name", {L"var select", L"select = 5"}, {L"copy 800 5"}, {}},
     };
     // clang-format on
     for (const HostCase& c : cases) Check(c);
     EXPECT_EQ(L"", Value(L"select")) << "the assignment is lost";
+    // A jump of the wrong form ends the run.
+    for (const wchar_t* jump : {L"folderjump = 1,", L"favoritejump = 10, C:\\Data", L"favoritejump = 2,",
+                                L"filejump = 1", L"ubjump = 0, x", L"ubjump = 11, x"})
+        Check({"a jump of the wrong form", {jump, L"select = after"}, {}, {SyntaxError(jump)}});
 }
 
 TEST_F(ScriptHostWordsTest, WithoutAHostNothingIsSentAndOnlyBadValuesAreReported) {
@@ -141,6 +136,9 @@ TEST_F(ScriptHostWordsTest, WithoutAHostNothingIsSentAndOnlyBadValuesAreReported
     };
     // clang-format on
     for (const HostCase& c : cases) Check(c);
+    RunLines({L"messageboxok = alone"});
+    EXPECT_EQ((std::vector<ShownMessage>{{L"alone", 48, L"Qor", 0}}), fake.prompts().shown())
+        << "a box without an owner";
 }
 
 TEST_F(ScriptHostWordsTest, MessageBoxes) {
@@ -179,11 +177,6 @@ TEST_F(ScriptHostWordsTest, MessageBoxes) {
         for (const auto& [name, value] : c.values) EXPECT_EQ(value, Value(name)) << c.label << ": " << name;
     }
     EXPECT_EQ((std::vector<std::wstring>{L"copy 800 messageboxok, hi"}), Heard());
-}
-
-TEST_F(ScriptHostWordsTest, ABoxWithoutAHostHasNoOwner) {
-    RunLines({L"messageboxok = alone"});
-    EXPECT_EQ((std::vector<ShownMessage>{{L"alone", 48, L"Qor", 0}}), fake.prompts().shown());
 }
 
 }  // namespace

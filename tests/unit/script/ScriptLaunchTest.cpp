@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <string>
+#include <tuple>
 #include <vector>
 
 #include "unit/script/ScriptFixture.h"
@@ -155,41 +156,28 @@ TEST_F(ScriptLaunchTest, AlternativesAreOfferedPerItem) {
 // An unknown line answered No ends the run; a checkgrammar option other than "1" is the user's
 // editor, started at that line with handles inherited, or the reason it could not start.
 TEST_F(ScriptLaunchTest, UnknownLineAnsweredNoOpensTheEditorAtIt) {
-    struct Case {
-        const char* what;
-        std::wstring grammar;
-        bool starts;
-        std::vector<std::wstring> started;
-    };
-    const Case cases[] = {
-        {"only asked", L"1", true, {}},
-        {"the editor at the line", L"edit.exe /l:?ErrorLine?", true, {L"edit.exe /l:3"}},
-        {"an editor that cannot start", L"edit.exe /l:?ErrorLine?", false, {L"edit.exe /l:3"}},
-    };
-    for (const Case& c : cases) {
-        SCOPED_TRACE(c.what);
+    const std::wstring editor = L"edit.exe /l:?ErrorLine?";
+    // what, the option, whether the editor starts, what started
+    using Case = std::tuple<const char*, std::wstring, bool, std::vector<std::wstring>>;
+    for (const auto& [what, grammar, starts, started] :
+         {Case{"only asked", L"1", true, {}}, Case{"the editor at the line", editor, true, {L"edit.exe /l:3"}},
+          Case{"an editor that cannot start", editor, false, {L"edit.exe /l:3"}}}) {
         const size_t before = fake.processes().starts().size();
-        platform::fake::FakeProgram program;
-        program.starts = c.starts;
-        fake.processes().SetProgram(program);
-        answers = {7};
-        RunLines({L"checkgrammar = " + c.grammar, L"var x = a", L"frobnicate", L"x = &b"});
-        EXPECT_EQ(L"a", Value(L"x")) << "the run ended at the line";
-        std::vector<std::wstring> started;
+        fake.processes().SetProgram({.starts = starts});
+        answers = {platform::kAnswerNo};
+        RunLines({L"checkgrammar = " + grammar, L"var x = a", L"frobnicate", L"x = &b"});
+        EXPECT_EQ(L"a", Value(L"x")) << what << ": the run ended at the line";
+        std::vector<std::wstring> editors;
         for (size_t i = before; i < fake.processes().starts().size(); ++i) {
-            const platform::ProcessStart& start = fake.processes().starts()[i];
-            EXPECT_TRUE(start.inheritHandles);
-            started.push_back(start.commandLine);
+            EXPECT_TRUE(fake.processes().starts()[i].inheritHandles) << what;
+            editors.push_back(fake.processes().starts()[i].commandLine);
         }
-        EXPECT_EQ(c.started, started);
-        // The question, and when the editor cannot start the catalogue's reason behind the option.
+        EXPECT_EQ(started, editors) << what;
+        // The question, and when the editor cannot start the reason behind the option.
         ASSERT_FALSE(Messages().empty());
-        EXPECT_EQ(0u, Messages()[0].rfind(L"This is the line that I do not understand.", 0));
-        if (c.starts) {
-            EXPECT_EQ(1u, Messages().size());
-        } else {
-            EXPECT_TRUE(Messages().back().ends_with(L"\n" + c.grammar));
-        }
+        EXPECT_EQ(NotUnderstood(L"3:frobnicate"), Messages().front()) << what;
+        EXPECT_EQ(starts, Messages().size() == 1) << what;
+        EXPECT_TRUE(starts || Messages().back().ends_with(L"\n" + grammar)) << what;
     }
 }
 
