@@ -49,8 +49,17 @@ protected:
 
     std::wstring Field(HWND page, int id) const { return TextOf(GetDlgItem(page, id)); }
     void Type(HWND page, int id, const wchar_t* text) const { SetWindowTextW(GetDlgItem(page, id), text); }
-    bool Checked(HWND page, int id) const { return IsDlgButtonChecked(page, id) == BST_CHECKED; }
-    bool Enabled(HWND page, int id) const { return IsWindowEnabled(GetDlgItem(page, id)) != FALSE; }
+    std::vector<bool> Enabled(HWND page, std::initializer_list<int> ids) const {
+        std::vector<bool> enabled;
+        for (int id : ids) enabled.push_back(IsWindowEnabled(GetDlgItem(page, id)) != FALSE);
+        return enabled;
+    }
+    // The stored numbers, -1 for one that is missing.
+    std::vector<int> Stored(const wchar_t* section, std::initializer_list<const wchar_t*> names) const {
+        std::vector<int> values;
+        for (const wchar_t* name : names) values.push_back(DirectReadInt(section, name, -1));
+        return values;
+    }
     // As the user's click arrives: the check changes, then the page hears of it.
     void Click(HWND page, int id) const { SendMessageW(GetDlgItem(page, id), BM_CLICK, 0, 0); }
     void Apply(COptionDlg& dialog) const { SendMessageW(dialog.hwnd(), WM_COMMAND, MAKEWPARAM(kApply, BN_CLICKED), 0); }
@@ -114,10 +123,9 @@ TEST_F(OptionPagesTest, OutOfRangeFieldsRefuseApply) {
     for (const Case& c : cases) {
         SCOPED_TRACE(c.what);
         // Every other field valid, and the network fields enabled: a refused field takes the focus.
-        DirectWriteInt(kAppInfo, L"ChgSortAlg", 10);
-        DirectWriteInt(kAppInfo, L"UsePing", 1);
-        DirectWriteInt(kAppInfo, L"NetworkTimeout", 500);
-        DirectWriteInt(kAppInfo, L"NetworkRetry", 3);
+        for (auto [name, value] : std::initializer_list<std::pair<const wchar_t*, int>>{
+                 {L"ChgSortAlg", 10}, {L"UsePing", 1}, {L"NetworkTimeout", 500}, {L"NetworkRetry", 3}})
+            DirectWriteInt(kAppInfo, name, value);
         DirectWriteInt(c.section, c.name, c.stored);
         COptionDlg dialog(app_);
         HWND page = Open(dialog, c.page);
@@ -154,40 +162,28 @@ TEST_F(OptionPagesTest, NetworkFieldsFollowThePingCheck) {
     COptionDlg dialog(app_);
     HWND page = Open(dialog, 30);
     ASSERT_NE(nullptr, page);
-    EXPECT_TRUE(Enabled(page, 1001));
-    EXPECT_TRUE(Enabled(page, 1002));
+    EXPECT_EQ((std::vector<bool>{true, true}), Enabled(page, {1001, 1002}));
     Click(page, 1251);
-    EXPECT_FALSE(Enabled(page, 1001));
-    EXPECT_FALSE(Enabled(page, 1002));
+    EXPECT_EQ((std::vector<bool>{false, false}), Enabled(page, {1001, 1002}));
 
     Type(page, 1002, L"100");
     Apply(dialog);
-    EXPECT_EQ(0, DirectReadInt(kAppInfo, L"UsePing", -1));
-    EXPECT_EQ(500, DirectReadInt(kAppInfo, L"NetworkTimeout", -1));
-    EXPECT_EQ(100, DirectReadInt(kAppInfo, L"NetworkRetry", -1));
-    EXPECT_EQ(1, DirectReadInt(kAppInfo, L"NoNetwork", -1)) << "the host's own, left alone";
+    EXPECT_EQ((std::vector<int>{0, 500, 100, 1}),
+              Stored(kAppInfo, {L"UsePing", L"NetworkTimeout", L"NetworkRetry", L"NoNetwork"}))
+        << "the host's NoNetwork left alone";
     EXPECT_EQ(std::vector<uint16_t>{49021}, Codes());
 }
 
 // The last check shows as a date of the user's locale; the reset stores its date at once, and Apply
 // stores the interval and the beta flag only.
 TEST_F(OptionPagesTest, VersionCheckShowsResetsAndStoresTheInterval) {
-    struct Shown {
-        const wchar_t* stored;
-        bool valid;
-    };
-    for (const Shown& c : {Shown{L"45000.5", true}, Shown{L"1e300", false}}) {
-        SCOPED_TRACE(testing::Message() << std::string(c.stored, c.stored + wcslen(c.stored)));
-        DirectWriteString(kAppInfo, L"VersionCheckTime", c.stored);
+    for (auto [stored, shown] : {std::pair{L"45000.5", L"2023"}, std::pair{L"1e300", L"Invalid DateTime"}}) {
+        DirectWriteString(kAppInfo, L"VersionCheckTime", stored);
         COptionDlg dialog(app_);
         HWND page = Open(dialog, 34);
         ASSERT_NE(nullptr, page);
         const std::wstring text = Field(page, 1401);
-        if (c.valid) {
-            EXPECT_NE(std::wstring::npos, text.find(L"2023")) << std::string(text.begin(), text.end());
-        } else {
-            EXPECT_EQ(L"Invalid DateTime", text);
-        }
+        EXPECT_NE(std::wstring::npos, text.find(shown)) << std::string(text.begin(), text.end());
     }
 
     COptionDlg dialog(app_);
@@ -202,8 +198,7 @@ TEST_F(OptionPagesTest, VersionCheckShowsResetsAndStoresTheInterval) {
     Type(page, 1004, L"0");
     Click(page, 1253);
     Apply(dialog);
-    EXPECT_EQ(0, DirectReadInt(kAppInfo, L"VersionCheckDay", -1));
-    EXPECT_EQ(1, DirectReadInt(kAppInfo, L"VersionCheckBeta", -1));
+    EXPECT_EQ((std::vector<int>{0, 1}), Stored(kAppInfo, {L"VersionCheckDay", L"VersionCheckBeta"}));
     EXPECT_EQ(L"stamped by the host", DirectReadString(kAppInfo, L"VersionCheckTime", L""));
     EXPECT_EQ(std::vector<uint16_t>{49017}, Codes());
 }
@@ -255,16 +250,13 @@ TEST_F(OptionPagesTest, CommonOperationOffersTheUsersCommandsForDrops) {
         EXPECT_TRUE(dialog.Page(24)->UpdateData(true));
         EXPECT_TRUE(dialog.Page(24)->UpdateData(false));
     }
-    EXPECT_TRUE(Enabled(page, 1151));
+    EXPECT_EQ((std::vector<bool>{true, true}), Enabled(page, {1151, 1152}));
 
     Click(page, 1251);
-    EXPECT_FALSE(Enabled(page, 1151));
-    EXPECT_FALSE(Enabled(page, 1152));
+    EXPECT_EQ((std::vector<bool>{false, false}), Enabled(page, {1151, 1152}));
     SendMessageW(GetDlgItem(page, 1151), CB_SETCURSEL, 2, 0);
     Apply(dialog);
-    EXPECT_EQ(0, DirectReadInt(kAppInfo, L"DropFolder", -1));
-    EXPECT_EQ(42001, DirectReadInt(kAppInfo, L"DropExCommand0", -1));
-    EXPECT_EQ(1, DirectReadInt(kAppInfo, L"DropExCommand1", -1));
+    EXPECT_EQ((std::vector<int>{0, 42001, 1}), Stored(kAppInfo, {L"DropFolder", L"DropExCommand0", L"DropExCommand1"}));
     EXPECT_EQ(std::vector<uint16_t>{49020}, Codes());
 }
 
@@ -300,17 +292,15 @@ TEST_F(OptionPagesTest, CommonOperationTranslatesOnlyTheShellOperations) {
         EXPECT_EQ(0, DirectReadInt(kAppInfo, L"DropExCommand0", -1));
         if (c.file) continue;
         const std::string text = fake_.files().FileText(kCommonOperationText);
-        for (const std::wstring& combo : {std::wstring(L"1151\tComboBoxStart\r\n1151\tComboBox\t") + kCopyInBackground +
-                                              L"\r\n1151\tComboBox\t" + kCopyWaiting + L"\r\n",
-                                          std::wstring(L"1152\tComboBoxStart\r\n1152\tComboBox\t") + kMoveInBackground +
-                                              L"\r\n1152\tComboBox\t" + kMoveWaiting + L"\r\n"}) {
-            const std::vector<uint8_t> written = Utf16Bytes(combo);
-            EXPECT_NE(std::string::npos, text.find(std::string(written.begin(), written.end())));
-        }
-        for (const wchar_t* name : {L"Pack", L"Mail"}) {
-            const std::vector<uint8_t> bytes = Utf16Bytes(name);
-            EXPECT_EQ(std::string::npos, text.find(std::string(bytes.begin(), bytes.end()))) << "a user's command";
-        }
+        auto written = [&](const std::wstring& part) {
+            const std::vector<uint8_t> bytes = Utf16Bytes(part);
+            return text.find(std::string(bytes.begin(), bytes.end())) != std::string::npos;
+        };
+        EXPECT_TRUE(written(std::wstring(L"1151\tComboBoxStart\r\n1151\tComboBox\t") + kCopyInBackground +
+                            L"\r\n1151\tComboBox\t" + kCopyWaiting + L"\r\n"));
+        EXPECT_TRUE(written(std::wstring(L"1152\tComboBoxStart\r\n1152\tComboBox\t") + kMoveInBackground +
+                            L"\r\n1152\tComboBox\t" + kMoveWaiting + L"\r\n"));
+        EXPECT_FALSE(written(L"Pack") || written(L"Mail")) << "a user's commands stay out";
     }
 }
 
@@ -323,8 +313,8 @@ TEST_F(OptionPagesTest, OtherPageChoosesTheUserDirectoryAndLimitsScripts) {
     COptionDlg dialog(app_);
     HWND page = Open(dialog, 5);
     ASSERT_NE(nullptr, page);
-    EXPECT_TRUE(Checked(page, 1201));
-    EXPECT_FALSE(Enabled(page, 1051));
+    EXPECT_EQ(BST_CHECKED, IsDlgButtonChecked(page, 1201));
+    EXPECT_EQ(std::vector<bool>{false}, Enabled(page, {1051}));
     EXPECT_EQ(L"99", Field(page, 1001));
     int lower = 0, upper = 0;
     SendMessageW(GetDlgItem(page, 1351), UDM_GETRANGE32, reinterpret_cast<WPARAM>(&lower),
@@ -332,16 +322,16 @@ TEST_F(OptionPagesTest, OtherPageChoosesTheUserDirectoryAndLimitsScripts) {
     EXPECT_EQ(std::make_pair(1, 50), std::make_pair(lower, upper));
 
     Click(page, 1203);
-    EXPECT_TRUE(Enabled(page, 1051));
+    EXPECT_EQ(std::vector<bool>{true}, Enabled(page, {1051}));
     fake_.prompts().ChooseFolder({true, L"E:\\Chosen"});
     fake_.prompts().ChooseFolder({true, L""});  // a virtual folder: nothing to put in the field
     Click(page, 1052);
     EXPECT_EQ(L"E:\\Chosen", Field(page, 1051));
     Click(page, 1052);
     EXPECT_EQ(L"E:\\Chosen", Field(page, 1051));
-    ASSERT_EQ(2u, fake_.prompts().browsed().size());
-    EXPECT_EQ(L"D:\\Mine", fake_.prompts().browsed()[0].start);
-    EXPECT_EQ(L"E:\\Chosen", fake_.prompts().browsed()[1].start);
+    std::vector<std::wstring> starts;
+    for (const auto& browsed : fake_.prompts().browsed()) starts.push_back(browsed.start);
+    EXPECT_EQ((std::vector<std::wstring>{L"D:\\Mine", L"E:\\Chosen"}), starts);
 
     Click(page, 1301);
     ASSERT_EQ(1u, fake_.processes().shellRequests().size());
@@ -352,10 +342,9 @@ TEST_F(OptionPagesTest, OtherPageChoosesTheUserDirectoryAndLimitsScripts) {
     EXPECT_EQ(0, DirectReadInt(kSettings, L"UserDirMode", 0)) << "nothing stored";
     Type(page, 1001, L"50");
     Apply(dialog);
-    EXPECT_EQ(2, DirectReadInt(kSettings, L"UserDirMode", -1));
+    EXPECT_EQ((std::vector<int>{2, 50, 3}), Stored(kSettings, {L"UserDirMode", L"MaxScript", L"EveryFront"}))
+        << "EveryFront written back as it was";
     EXPECT_EQ(L"E:\\Chosen", DirectReadString(kSettings, L"UserDir", L""));
-    EXPECT_EQ(50, DirectReadInt(kSettings, L"MaxScript", -1));
-    EXPECT_EQ(3, DirectReadInt(kSettings, L"EveryFront", -1)) << "written back as it was";
     EXPECT_EQ(L"<absent>", DirectReadString(kSettings, L"NLS", L"<absent>"));
     EXPECT_EQ(std::vector<uint16_t>{49011}, Codes());
 }

@@ -194,11 +194,10 @@ TEST_F(ScriptOnWindows, RegistryWords) {
     RunLines({std::wstring(L"writeregnum = ") + kTestKey, std::wstring(L"writeregnum = ") + kTestKey + L",hex,0x10",
               std::wstring(L"writeregstring = ") + kTestKey + L"\\inner,text,a,b",
               std::wstring(L"writeregstring = ") + kTestKey + L",none,"});
-    EXPECT_EQ(L"value:0", RegValue(L"", kTestKey)) << "the one field is key, name and number";
-    EXPECT_EQ(L"value:16", RegValue(L"", L"hex"));
-    EXPECT_EQ(L"text:a,b/8", RegValue(L"\\inner", L"text"))
-        << "the system keeps the terminator that stands behind the counted bytes";
-    EXPECT_EQ(L"error 2", RegValue(L"", L"none"));
+    // The one field is key, name and number; the system keeps the terminator behind the counted bytes.
+    EXPECT_EQ((std::vector<std::wstring>{L"value:0", L"value:16", L"text:a,b/8", L"error 2"}),
+              (std::vector<std::wstring>{RegValue(L"", kTestKey), RegValue(L"", L"hex"), RegValue(L"\\inner", L"text"),
+                                         RegValue(L"", L"none")}));
     EXPECT_TRUE(Messages().empty());
 }
 
@@ -252,9 +251,8 @@ TEST_F(ScriptOnWindows, CallStoresTheExitCode) {
     fake_.prompts().Answer(platform::kAnswerNo);
     const DWORD start = GetTickCount();
     runner_.Run(script, L"", L"", selection_, static_cast<uint32_t>(-1), 1, 0, 0, 1, &variables_, nullptr);
-    EXPECT_EQ(L"3", Value(L"code"));
-    EXPECT_EQ(L"259", Value(L"ended"));
-    EXPECT_EQ(L"259", Value(L"left"));
+    EXPECT_EQ((std::vector<std::wstring>{L"3", L"259", L"259"}),
+              (std::vector<std::wstring>{Value(L"code"), Value(L"ended"), Value(L"left")}));
     EXPECT_LT(GetTickCount() - start, 10000u) << "neither program was waited for to its end";
     EXPECT_EQ(2u, fake_.prompts().shown().size()) << "the time-out question, twice";
 }

@@ -22,16 +22,13 @@
 #include "resources/pages/PageIds.h"
 #include "settings/SettingsStore.h"
 #include "ui/TreeView.h"
+#include "win32/ui/ScriptedDialog.h"
 
 namespace optiontest {
 
 inline constexpr const wchar_t* kProgram = L"C:\\Qor\\command\\Option\\Option.exe";
 
-inline std::wstring TextOf(HWND window) {
-    wchar_t buffer[1024] = {};
-    GetWindowTextW(window, buffer, 1024);
-    return buffer;
-}
+using testing_support::TextOf;
 
 inline HWND Tree(const COptionDlg& dialog) {
     return dialog.Item(IDC_OPTION_TREE);

@@ -5,6 +5,8 @@
 #include <gtest/gtest.h>
 #include <windows.h>
 
+#include <vector>
+
 #include "platform/win32/Win32HostWindows.h"
 #include "services/HostHandshake.h"
 #include "win32/support/RealHostPlatform.h"
@@ -75,12 +77,12 @@ protected:
         host_ = CreateWindowExW(0, platform::win32::kHostClassName, L"host", WS_POPUP | WS_CAPTION, 100, 100, 640, 480,
                                 nullptr, nullptr, GetModuleHandleW(nullptr), nullptr);
     }
-    static RECT Rect(HWND window) {
+    // Left, top, width and height.
+    static std::vector<LONG> Place(HWND window) {
         RECT rect{};
         GetWindowRect(window, &rect);
-        return rect;
+        return {rect.left, rect.top, rect.right - rect.left, rect.bottom - rect.top};
     }
-    LONG_PTR ExStyle() const { return GetWindowLongPtrW(dialog_, GWL_EXSTYLE); }
 
     static constexpr RECT kDialogPlace{5, 7, 305, 207};
     static inline HWND other_ = nullptr;
@@ -97,20 +99,17 @@ TEST_F(HostPlacementTest, EachModePlacesTheDialogAndBringsItForward) {
     };
     const Case cases[] = {{0, false, false}, {1, true, false}, {2, true, true}, {4, false, true}, {7, false, false}};
     ui::PrepareOptionDialog(dialog_, 0);
-    EXPECT_EQ(5, Rect(dialog_).left) << "no host: no centring";
-    EXPECT_EQ(7, Rect(dialog_).top);
+    EXPECT_EQ((std::vector<LONG>{5, 7, 300, 200}), Place(dialog_)) << "no host: no centring";
     StartHost();
     for (const Case& c : cases) {
         SCOPED_TRACE(testing::Message() << "mode " << c.mode);
         Reset();
         ui::PrepareOptionDialog(dialog_, c.mode);
         PumpMessages(50);
-        RECT rect = Rect(dialog_);
-        EXPECT_EQ(270, rect.left) << "centred on the host";
-        EXPECT_EQ(240, rect.top);
-        EXPECT_EQ(300, rect.right - rect.left) << "size kept";
-        EXPECT_EQ(c.topmost, (ExStyle() & WS_EX_TOPMOST) != 0);
-        EXPECT_EQ(c.toolWindow, (ExStyle() & WS_EX_TOOLWINDOW) != 0);
+        EXPECT_EQ((std::vector<LONG>{270, 240, 300, 200}), Place(dialog_)) << "centred on the host, size kept";
+        const LONG_PTR style = GetWindowLongPtrW(dialog_, GWL_EXSTYLE);
+        EXPECT_EQ(std::make_pair(c.topmost, c.toolWindow),
+                  std::make_pair((style & WS_EX_TOPMOST) != 0, (style & WS_EX_TOOLWINDOW) != 0));
         EXPECT_EQ(dialog_, GetForegroundWindow());
     }
 }
@@ -128,7 +127,7 @@ TEST_F(HostPlacementTest, ModeThreeMakesTheHostTheParentAndLeavesTheDialogAlone)
     ui::PrepareOptionDialog(owned, 3);
     PumpMessages(50);
     EXPECT_EQ(host_, GetWindow(owned, GW_OWNER));
-    EXPECT_EQ(5, Rect(owned).left) << "where the system put it";
+    EXPECT_EQ(5, Place(owned)[0]) << "where the system put it";
     EXPECT_EQ(before, GetWindowLongPtrW(owned, GWL_EXSTYLE));
     EXPECT_EQ(other_, GetForegroundWindow()) << "it does not come forward";
     DestroyWindow(owned);
