@@ -26,7 +26,10 @@ void OptionPage::ShowPage(ui::Dialog& owner) {
     ScreenToClient(owner.hwnd(), &corners[0]);
     ScreenToClient(owner.hwnd(), &corners[1]);
     MoveWindow(hwnd(), corners[0].x, corners[0].y, corners[1].x - corners[0].x, corners[1].y - corners[0].y, TRUE);
-    LoadGroups();
+    if (!LoadGroups()) {
+        DestroyWindow();
+        return;
+    }
     UpdateData(false);
     opened = 1;
 }

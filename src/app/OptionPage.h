@@ -35,8 +35,9 @@ public:
 
 protected:
     // Reads the page's settings groups (or its own values) into their members before the controls
-    // are filled. A page without settings of its own has nothing to read.
-    virtual void LoadGroups() {}
+    // are filled. A page without settings of its own has nothing to read. False gives up: the page's
+    // window goes again, the page takes no part in Apply, and the next showing tries anew.
+    virtual bool LoadGroups() { return true; }
 
     bool OnInitDialog() override;
     void OnOK() override;

@@ -31,7 +31,7 @@ platform::Prompts& Prompts() {
 
 COptionKeySetDlg::COptionKeySetDlg(AppServices& app) : OptionPage(IDD_OPTION_KEYSET, app) {}
 
-void COptionKeySetDlg::LoadGroups() {
+bool COptionKeySetDlg::LoadGroups() {
     LoadKeyTables(app().directories.UserDirectory(), app().keys);
     std::vector<std::wstring> headers, sets, targets;
     ui::SplitControlText(Item(IDC_KEYSET_HEADERS), headers);
@@ -40,7 +40,7 @@ void COptionKeySetDlg::LoadGroups() {
     if (!CheckLabelCount(2, headers, IDC_KEYSET_HEADERS) ||
         !CheckLabelCount(kKeyModeCount, sets, IDC_KEYSET_SET_NAMES) ||
         !CheckLabelCount(kKeyModeCount + 1, targets, IDC_KEYSET_SWITCH_NAMES))
-        return;
+        return false;
     list_ = ui::ListView(Item(IDC_KEYSET_LIST));
     list_.SetExtendedStyle(LVS_EX_FULLROWSELECT, LVS_EX_FULLROWSELECT);
     list_.InsertColumn(0, headers[0], kKeyColumnWidth);
@@ -51,6 +51,7 @@ void COptionKeySetDlg::LoadGroups() {
     set_ = app().store.KeyLayout == 1 ? 1 : 0;
     modifier_ = kModifierNone;
     ShowBlock();
+    return true;
 }
 
 void COptionKeySetDlg::DoDataExchange(ui::DataExchange& exchange) {

@@ -15,7 +15,7 @@ public:
     bool Apply(PendingChanges& changes) override;
 
 protected:
-    void LoadGroups() override;
+    bool LoadGroups() override;
     void DoDataExchange(ui::DataExchange& exchange) override;
     bool OnCommand(int id, int code) override;
     std::optional<LRESULT> OnNotify(const NMHDR& header) override;

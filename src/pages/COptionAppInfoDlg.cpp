@@ -14,8 +14,9 @@ constexpr uint16_t kAppInfoChanged = 49017;
 
 COptionAppInfoDlg::COptionAppInfoDlg(AppServices& app) : OptionPage(IDD_OPTION_APPINFO, app) {}
 
-void COptionAppInfoDlg::LoadGroups() {
+bool COptionAppInfoDlg::LoadGroups() {
     LoadGroup(app().store, SettingsGroup::General);
+    return true;
 }
 
 void COptionAppInfoDlg::DoDataExchange(ui::DataExchange& exchange) {

@@ -43,12 +43,13 @@ void TakeChoice(const ui::ComboBox& combo, int32_t& stored) {
 
 COptionCommonUIDlg::COptionCommonUIDlg(AppServices& app) : OptionPage(IDD_OPTION_COMMON_UI, app) {}
 
-void COptionCommonUIDlg::LoadGroups() {
+bool COptionCommonUIDlg::LoadGroups() {
     LoadGroup(app().store, SettingsGroup::CommonOperation);
     // Once, after the translation of the template's items: the data exchange only selects.
     const std::vector<DropChoice> commands = DropCommands(app().commands);
     AddCommands(ui::ComboBox(Item(IDC_COMMON_UI_DROP_COPY)), commands);
     AddCommands(ui::ComboBox(Item(IDC_COMMON_UI_DROP_MOVE)), commands);
+    return true;
 }
 
 void COptionCommonUIDlg::DoDataExchange(ui::DataExchange& exchange) {

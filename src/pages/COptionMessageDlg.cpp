@@ -18,13 +18,13 @@ constexpr int kMessageColumnWidth = 800;
 
 COptionMessageDlg::COptionMessageDlg(AppServices& app) : OptionPage(IDD_OPTION_MESSAGE, app) {}
 
-void COptionMessageDlg::LoadGroups() {
+bool COptionMessageDlg::LoadGroups() {
     LoadGroup(app().store, SettingsGroup::Message);
     list_ = ui::ListView(Item(IDC_MESSAGE_LIST));
     list_.SetExtendedStyle(LVS_EX_CHECKBOXES | LVS_EX_FULLROWSELECT, LVS_EX_CHECKBOXES | LVS_EX_FULLROWSELECT);
     std::vector<std::wstring> headers;
     ui::SplitControlText(Item(IDC_MESSAGE_HEADERS), headers);
-    if (!CheckLabelCount(2, headers, IDC_MESSAGE_HEADERS)) return;
+    if (!CheckLabelCount(2, headers, IDC_MESSAGE_HEADERS)) return false;
     list_.InsertColumn(0, headers[0], kEventColumnWidth);
     list_.InsertColumn(1, headers[1], kMessageColumnWidth);
     for (int row = 0; row < kConfirmationCount; ++row) {
@@ -32,6 +32,7 @@ void COptionMessageDlg::LoadGroups() {
         list_.InsertItem(row, app().messages.Get(caption));
         list_.SetItemText(row, 1, app().messages.Get(static_cast<uint16_t>(caption + 1)));
     }
+    return true;
 }
 
 void COptionMessageDlg::ShowChecks(const ConfirmationChecks& checks) const {

@@ -14,8 +14,9 @@ constexpr uint16_t kNetworkChanged = 49021;
 
 COptionNetworkDlg::COptionNetworkDlg(AppServices& app) : OptionPage(IDD_OPTION_NETWORK, app) {}
 
-void COptionNetworkDlg::LoadGroups() {
+bool COptionNetworkDlg::LoadGroups() {
     LoadGroup(app().store, SettingsGroup::Network);
+    return true;
 }
 
 void COptionNetworkDlg::DoDataExchange(ui::DataExchange& exchange) {

@@ -27,8 +27,9 @@ bool COptionOtherDlg::OnInitDialog() {
     return focusFirst;
 }
 
-void COptionOtherDlg::LoadGroups() {
+bool COptionOtherDlg::LoadGroups() {
     LoadGroup(app().store, SettingsGroup::Other);
+    return true;
 }
 
 void COptionOtherDlg::DoDataExchange(ui::DataExchange& exchange) {

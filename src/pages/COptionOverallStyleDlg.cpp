@@ -7,8 +7,9 @@
 
 COptionOverallStyleDlg::COptionOverallStyleDlg(AppServices& app) : OptionPage(IDD_OPTION_OVERALL_STYLE, app) {}
 
-void COptionOverallStyleDlg::LoadGroups() {
+bool COptionOverallStyleDlg::LoadGroups() {
     LoadGroup(app().store, SettingsGroup::TitleBar);
+    return true;
 }
 
 void COptionOverallStyleDlg::DoDataExchange(ui::DataExchange& exchange) {

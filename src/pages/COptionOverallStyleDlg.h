@@ -10,7 +10,7 @@ public:
     bool Apply(PendingChanges& changes) override;
 
 protected:
-    void LoadGroups() override;
+    bool LoadGroups() override;
     void DoDataExchange(ui::DataExchange& exchange) override;
     void OnCancel() override;
 };

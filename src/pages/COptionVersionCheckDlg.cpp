@@ -46,8 +46,9 @@ std::optional<DATE> ResetDate() {
 
 COptionVersionCheckDlg::COptionVersionCheckDlg(AppServices& app) : OptionPage(IDD_OPTION_VERSION_CHECK, app) {}
 
-void COptionVersionCheckDlg::LoadGroups() {
+bool COptionVersionCheckDlg::LoadGroups() {
     LoadGroup(app().store, SettingsGroup::VersionCheck);
+    return true;
 }
 
 void COptionVersionCheckDlg::DoDataExchange(ui::DataExchange& exchange) {

@@ -10,7 +10,7 @@ public:
     bool Apply(PendingChanges& changes) override;
 
 protected:
-    void LoadGroups() override;
+    bool LoadGroups() override;
     bool OnCommand(int id, int code) override;
     void DoDataExchange(ui::DataExchange& exchange) override;
 
