@@ -1,0 +1,45 @@
+// Resource identifiers of the definition files: the menu page, the menu editor and its line dialog,
+// and the macro helper.
+#pragma once
+
+// The menu page: the files of the user's menu folder.
+#define IDD_OPTION_MENU 163
+#define IDC_MENU_PAGE_MODE 1151
+#define IDC_MENU_PAGE_EDIT 1301
+#define IDC_MENU_PAGE_OPEN_FOLDER 1302
+#define IDC_MENU_PAGE_COMMAND_LIST 1303
+#define IDC_MENU_PAGE_LIST 1601
+
+// The menu editor: one file, line by line.
+#define IDD_MENU_EDIT 180
+#define IDC_MENU_EDIT_ADD 1301
+#define IDC_MENU_EDIT_EDIT 1302
+#define IDC_MENU_EDIT_DELETE 1303
+#define IDC_MENU_EDIT_SAVE 1304
+#define IDC_MENU_EDIT_SAVE_AS 1305
+#define IDC_MENU_EDIT_UP 1306
+#define IDC_MENU_EDIT_DOWN 1307
+#define IDC_MENU_EDIT_BY_EDITOR 1308
+#define IDC_MENU_EDIT_RELOAD 1309
+#define IDC_MENU_EDIT_CHECK 1310
+#define IDC_MENU_EDIT_TEST 1311
+#define IDC_MENU_EDIT_COPY 1313
+#define IDC_MENU_EDIT_PASTE 1314
+#define IDC_MENU_EDIT_LIST 1601
+
+// One line of a menu file.
+#define IDD_MENU_COMMAND 181
+#define IDC_MENU_COMMAND_TEXT 1001
+#define IDC_MENU_COMMAND_TARGET 1002
+#define IDC_MENU_COMMAND_KEYWORD 1151
+#define IDC_MENU_COMMAND_MACRO_FLAG 1251
+#define IDC_MENU_COMMAND_PICK_TEXT 1301
+#define IDC_MENU_COMMAND_PICK_TARGET 1302
+#define IDC_MENU_COMMAND_MACRO_TEXT 1303
+#define IDC_MENU_COMMAND_MACRO_TARGET 1304
+#define IDC_MENU_COMMAND_FIRST_LABEL 1401
+#define IDC_MENU_COMMAND_SECOND_LABEL 1402
+#define IDC_MENU_COMMAND_EXPLANATION 1403
+
+// The macro helper.
+#define IDD_MACRO_HELPER 212
