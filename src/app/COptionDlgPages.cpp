@@ -5,6 +5,7 @@
 
 #include "app/COptionDlg.h"
 #include "bindings/COptionKeySetDlg.h"
+#include "definitions/COptionMenuDlg.h"
 #include "pages/COptionAppInfoDlg.h"
 #include "pages/COptionCommonUIDlg.h"
 #include "pages/COptionMessageDlg.h"
@@ -36,6 +37,7 @@ const std::vector<PageClass>& PageClasses() {
         {2, &Make<COptionKeySetDlg>},
         {5, &Make<COptionOtherDlg>},
         {20, &Make<COptionAppInfoDlg>},
+        {22, &Make<COptionMenuDlg>},
         {24, &Make<COptionCommonUIDlg>},
         {30, &Make<COptionNetworkDlg>},
         {34, &Make<COptionVersionCheckDlg>},

@@ -1,0 +1,57 @@
+// The line editor of one menu file. Its list is the whole document: each row one line of the file,
+// nesting shown only in the saved file. It has no OK or Cancel: closing drops what was not saved.
+#pragma once
+
+#include <string>
+
+#include "definitions/MenuDefinition.h"
+#include "ui/Dialog.h"
+#include "ui/ListView.h"
+
+struct AppServices;
+
+class CDlgMenuEdit : public ui::Dialog {
+public:
+    explicit CDlgMenuEdit(AppServices& app);
+    ~CDlgMenuEdit() override;
+
+    // The file edited; set before DoModal.
+    std::wstring filePath;
+
+protected:
+    std::optional<LRESULT> OnMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
+    bool OnInitDialog() override;
+    bool OnCommand(int id, int code) override;
+    std::optional<LRESULT> OnNotify(const NMHDR& header) override;
+
+private:
+    // The list control seen as the editor's rows.
+    class ListRows : public MenuRows {
+    public:
+        explicit ListRows(const ui::ListView& list) : list_(list) {}
+        int Count() const override;
+        MenuLine Line(int row) const override;
+        void SetLine(int row, const MenuLine& line) override;
+        void Insert(int row, const MenuLine& line) override;
+        void Delete(int row) override;
+        void DeleteAll() override;
+        int Selected() const override;
+        void Select(int row) override;
+
+    private:
+        const ui::ListView& list_;
+    };
+
+    void Load();
+    void AddLine();
+    void EditLine();
+    void Save();
+    void CheckRows();
+    void LoadTest();
+
+    AppServices& app_;
+    ui::ListView list_;
+    ListRows rows_{list_};
+    MenuLine clipboard_;
+    bool mainWindow_ = false;
+};
