@@ -76,12 +76,12 @@ bool ParseMenuFile(const std::wstring& path, MenuBuilder& builder, MenuBuilder::
                    bool hasParent, UserDirectories& directories, std::vector<std::wstring>& menuCommands);
 
 // One line of the editor: command, menu text, target (with any further fields), and the result of
-// the last check, which is never saved.
+// the last check, which is never saved. Texts left out of a brace list are empty.
 struct MenuLine {
-    std::wstring command;
-    std::wstring text;
-    std::wstring target;
-    std::wstring check;
+    std::wstring command{};
+    std::wstring text{};
+    std::wstring target{};
+    std::wstring check{};
     bool operator==(const MenuLine&) const = default;
 };
 
