@@ -51,7 +51,6 @@ TEST(MacroHelperDataTest, FileToRows) {
     }
     EXPECT_EQ(L"C:\\Qor\\command\\Option\\.ja-JP\\Option\\MacroHelper\\status_area.txt",
               MacroHelperFilePath(kProgramDirectory, L".ja-JP", kMacroHelperStatusArea));
-    EXPECT_EQ(L"", MacroHelperFilePath(kProgramDirectory, L".ja-JP", kMacroHelperModeCount));
 }
 
 }  // namespace
