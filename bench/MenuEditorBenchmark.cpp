@@ -34,7 +34,7 @@ double Now() {
 
 // Popups of fifty lines each: items, separators, scripts with paths, comments and empty lines.
 std::wstring MenuText() {
-    std::wstring text = L"\xFEFFBenchmark menu\r\n";
+    std::wstring text = L"\xFEFF" L"Benchmark menu\r\n";
     for (int line = 1; line < kLines; ++line) {
         switch (line % 50) {
             case 1:

@@ -132,6 +132,8 @@ TEST_F(MenuEditorTest, TheLoadTestShowsThePopupWhereTheFileAsksOrRefusesAWildcar
     EXPECT_EQ(desktop.bottom / 2, shown.top);
     const fs::path pictures = fs::path(e2e::StageRoot()).parent_path() / L"screenshots";
     fs::create_directories(pictures);
+    // The menu draws itself in its own loop; the screen is read once it has.
+    Sleep(300);
     RECT around = {shown.left - 40, shown.top - 20, shown.right + 40, shown.bottom + 20};
     EXPECT_TRUE(e2e::CaptureRect(around, (pictures / L"menu-load-test.bmp").wstring()));
     PostMessageW(popup, WM_KEYDOWN, VK_ESCAPE, 0);

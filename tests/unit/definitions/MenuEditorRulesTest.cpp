@@ -5,7 +5,7 @@
 #include <string>
 #include <tuple>
 
-#include "Utf16.h"
+#include "unit/Utf16.h"
 #include "definitions/MenuCommandFields.h"
 #include "definitions/MenuFolder.h"
 #include "platform/fake/FakePlatform.h"
