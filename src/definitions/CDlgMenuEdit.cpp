@@ -49,48 +49,56 @@ POINT ClientCentre(HWND window) {
 
 }  // namespace
 
-int CDlgMenuEdit::ListRows::Count() const {
-    return list_.GetItemCount();
-}
-
-MenuLine CDlgMenuEdit::ListRows::Line(int row) const {
-    return {list_.GetItemText(row, 0), list_.GetItemText(row, 1), list_.GetItemText(row, 2), list_.GetItemText(row, 3)};
+// The list learns the new count; the rows it shows are drawn again from the texts.
+void CDlgMenuEdit::ListRows::Shown() const {
+    list_.Send(LVM_SETITEMCOUNT, lines_.size(), LVSICF_NOSCROLL);
+    InvalidateRect(list_.hwnd(), nullptr, FALSE);
 }
 
 void CDlgMenuEdit::ListRows::SetLine(int row, const MenuLine& line) {
-    list_.SetItemText(row, 0, line.command);
-    list_.SetItemText(row, 1, line.text);
-    list_.SetItemText(row, 2, line.target);
-    list_.SetItemText(row, 3, line.check);
+    lines_[static_cast<size_t>(row)] = line;
+    list_.Send(LVM_REDRAWITEMS, static_cast<WPARAM>(row), row);
 }
 
 void CDlgMenuEdit::ListRows::Insert(int row, const MenuLine& line) {
-    const int made = list_.InsertItem(row, line.command);
-    if (made < 0) return;
-    list_.SetItemText(made, 1, line.text);
-    list_.SetItemText(made, 2, line.target);
-    list_.SetItemText(made, 3, line.check);
+    lines_.insert(lines_.begin() + row, line);
+    Shown();
 }
 
 void CDlgMenuEdit::ListRows::Delete(int row) {
-    list_.DeleteItem(row);
+    lines_.erase(lines_.begin() + row);
+    Shown();
 }
 
 void CDlgMenuEdit::ListRows::DeleteAll() {
-    list_.DeleteAllItems();
+    lines_.clear();
+    Shown();
 }
 
-int CDlgMenuEdit::ListRows::Selected() const {
-    return list_.GetSelectedRow();
+void CDlgMenuEdit::ListRows::Assign(std::vector<MenuLine> lines) {
+    lines_ = std::move(lines);
+    Shown();
 }
 
 void CDlgMenuEdit::ListRows::Select(int row) {
-    if (row < 0) {
-        list_.SetItemState(-1, 0, LVIS_SELECTED | LVIS_FOCUSED);
-        return;
-    }
+    list_.SetItemState(-1, 0, LVIS_SELECTED | LVIS_FOCUSED);
+    if (row < 0) return;
     list_.SelectRow(row);
     list_.EnsureVisible(row);
+}
+
+const std::wstring& CDlgMenuEdit::ListRows::Text(int row, int column) const {
+    const MenuLine& line = lines_[static_cast<size_t>(row)];
+    switch (column) {
+        case 0:
+            return line.command;
+        case 1:
+            return line.text;
+        case 2:
+            return line.target;
+        default:
+            return line.check;
+    }
 }
 
 CDlgMenuEdit::CDlgMenuEdit(AppServices& app) : ui::Dialog(IDD_MENU_EDIT), app_(app) {}
@@ -129,13 +137,8 @@ bool CDlgMenuEdit::OnInitDialog() {
     return focusFirst;
 }
 
-// The list is drawn once, when every row is in.
 void CDlgMenuEdit::Load() {
-    SendMessageW(list_.hwnd(), WM_SETREDRAW, FALSE, 0);
-    rows_.DeleteAll();
-    LoadMenuRows(rows_, filePath);
-    SendMessageW(list_.hwnd(), WM_SETREDRAW, TRUE, 0);
-    InvalidateRect(list_.hwnd(), nullptr, TRUE);
+    rows_.Assign(ReadMenuLines(filePath));
 }
 
 void CDlgMenuEdit::AddLine() {
@@ -172,7 +175,7 @@ void CDlgMenuEdit::CheckRows() {
         app_.commands.LoadCommandLists(app_.directories.UserDirectory());
         MenuLine line = rows_.Line(row);
         line.check = CheckMenuLine(line, app_.commands, app_.resourceModule.get(), app_.directories);
-        list_.SetItemText(row, 3, line.check);
+        rows_.SetLine(row, line);
     }
 }
 
@@ -256,7 +259,14 @@ bool CDlgMenuEdit::OnCommand(int id, int code) {
 }
 
 std::optional<LRESULT> CDlgMenuEdit::OnNotify(const NMHDR& header) {
-    if (header.idFrom != IDC_MENU_EDIT_LIST || header.code != NM_DBLCLK) return std::nullopt;
+    if (header.idFrom != IDC_MENU_EDIT_LIST) return std::nullopt;
+    if (header.code == LVN_GETDISPINFOW) {
+        LVITEMW& item = reinterpret_cast<NMLVDISPINFOW&>(const_cast<NMHDR&>(header)).item;
+        if ((item.mask & LVIF_TEXT) && item.cchTextMax > 0 && item.iItem >= 0 && item.iItem < rows_.Count())
+            lstrcpynW(item.pszText, rows_.Text(item.iItem, item.iSubItem).c_str(), item.cchTextMax);
+        return 0;
+    }
+    if (header.code != NM_DBLCLK) return std::nullopt;
     EditLine();
     return 0;
 }

@@ -39,6 +39,13 @@ std::string Units(const std::string& text) {
     return bytes;
 }
 
+// Where the tests leave pictures of what they showed: build/screenshots beside the stage.
+std::wstring PicturePath(const wchar_t* name) {
+    const fs::path pictures = fs::path(e2e::StageRoot()).parent_path() / L"screenshots";
+    fs::create_directories(pictures);
+    return (pictures / name).wstring();
+}
+
 int Rows(HWND editor) {
     return static_cast<int>(SendMessageW(GetDlgItem(editor, kList), LVM_GETITEMCOUNT, 0, 0));
 }
@@ -89,12 +96,18 @@ TEST_F(MenuEditorTest, ALineAddedThroughTheLineDialogIsSavedAsTheHostReadsIt) {
     HWND line = e2e::FindVisibleWindow(option.Id(), L"Menu command");
     ASSERT_NE(nullptr, line);
     SetText(line, kKeyword, L"menuitem");
+    // As when typed: the dialog hears that the box's text changed.
+    PostMessageW(line, WM_COMMAND, MAKEWPARAM(kKeyword, CBN_EDITCHANGE), 0);
     SetText(line, kText, L" Refresh\t");
     SetText(line, kTarget, L"33301");
+    e2e::WaitUntilDialogIdle(line, option.Handle());
+    Sleep(100);
+    e2e::CaptureWindow(line, PicturePath(L"menu-command.bmp"));
     PostMessageW(line, WM_COMMAND, MAKEWPARAM(IDOK, BN_CLICKED), 0);
     for (int wait = 0; wait < 500 && IsWindow(line); ++wait) Sleep(10);
     e2e::WaitUntilDialogIdle(editor, option.Handle());
     EXPECT_EQ(lines + 1, Rows(editor));
+    e2e::CaptureWindow(editor, PicturePath(L"menu-editor.bmp"));
 
     EXPECT_EQ(L"I have saved the file.\n" + file.wstring(), ClickForMessage(kSave));
     Close();
@@ -130,12 +143,10 @@ TEST_F(MenuEditorTest, TheLoadTestShowsThePopupWhereTheFileAsksOrRefusesAWildcar
     GetClientRect(GetDesktopWindow(), &desktop);
     EXPECT_EQ(desktop.right / 2, shown.left);
     EXPECT_EQ(desktop.bottom / 2, shown.top);
-    const fs::path pictures = fs::path(e2e::StageRoot()).parent_path() / L"screenshots";
-    fs::create_directories(pictures);
     // The menu draws itself in its own loop; the screen is read once it has.
     Sleep(300);
     RECT around = {shown.left - 40, shown.top - 20, shown.right + 40, shown.bottom + 20};
-    EXPECT_TRUE(e2e::CaptureRect(around, (pictures / L"menu-load-test.bmp").wstring()));
+    EXPECT_TRUE(e2e::CaptureRect(around, PicturePath(L"menu-load-test.bmp")));
     PostMessageW(popup, WM_KEYDOWN, VK_ESCAPE, 0);
     e2e::WaitUntilDialogIdle(editor, option.Handle());
 
