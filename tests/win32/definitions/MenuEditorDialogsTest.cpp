@@ -1,6 +1,7 @@
-// The menu editor and its line dialog with their real templates over fake files and prompts: the
-// line dialog follows the keyword chosen and fills a file as a macro path; the editor checks its
-// rows, copies and pastes one, and saves the list with the indentation the host reads.
+// The menu page, the menu editor and its line dialog with their real templates over fake files and
+// prompts: the page lists the menu folder and stores its edit mode; the line dialog follows the
+// keyword chosen and fills a file as a macro path; the editor checks its rows, copies and pastes
+// one, and saves the list with the indentation the host reads.
 #include <gtest/gtest.h>
 #include <windows.h>
 
@@ -10,6 +11,7 @@
 
 #include "definitions/CDlgMenuCommand.h"
 #include "definitions/CDlgMenuEdit.h"
+#include "ui/ListView.h"
 #include "unit/Utf16.h"
 #include "win32/support/OptionDialogFixture.h"
 
@@ -35,6 +37,35 @@ std::vector<bool> Enabled(HWND dialog, std::initializer_list<int> ids) {
 }
 
 using MenuEditorDialogsTest = OptionDialogFixture;
+
+TEST_F(MenuEditorDialogsTest, ThePageListsTheMenuFolderOpensAFileAndStoresItsMode) {
+    constexpr platform::WindowRef kHost = 0x1234;
+    fake_.windows().AddHostWindow(kHost);
+    const std::wstring folder = app_.directories.UserDirectory() + L"Menu\\";
+    fake_.files().AddFile(folder + L"Main.txt", Utf16Bytes(L"Main\tmenu\r\nPOPUP\tA\r\n", true));
+    SetStart(22);
+    DirectWriteInt(PageKey(), L"MenuDefMode", 1);
+    COptionDlg dialog(app_);
+    ASSERT_TRUE(dialog.Create(nullptr));
+    HWND page = dialog.Page(22)->hwnd();
+    ui::ListView list(GetDlgItem(page, 1601));
+    ASSERT_EQ(1, list.GetItemCount());
+    EXPECT_EQ(L"Main menu", list.GetItemText(0, 1));
+    EXPECT_EQ(1, SendDlgItemMessageW(page, 1151, CB_GETCURSEL, 0, 0));
+
+    SendDlgItemMessageW(page, 1151, CB_SETCURSEL, 0, 0);
+    list.SelectRow(0);
+    Click(page, 1301);
+    ASSERT_EQ(1u, fake_.processes().shellRequests().size());
+    EXPECT_EQ(folder + L"Main.txt", fake_.processes().shellRequests()[0].file);
+
+    SendDlgItemMessageW(page, 1151, CB_SETCURSEL, 2, 0);
+    Click(dialog.hwnd(), 1301);
+    EXPECT_EQ(2, DirectReadInt(PageKey(), L"MenuDefMode", -1));
+    std::vector<uint16_t> codes;
+    for (const platform::fake::SentCommand& sent : fake_.windows().commands()) codes.push_back(sent.id);
+    EXPECT_EQ((std::vector<uint16_t>{48999, 49018, 49099}), codes);
+}
 
 TEST_F(MenuEditorDialogsTest, TheLineDialogFollowsTheKeywordAndFillsAFileAsAMacroPath) {
     const std::wstring user = app_.directories.UserDirectory();
