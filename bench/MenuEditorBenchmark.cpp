@@ -12,6 +12,7 @@
 #include <string>
 #include <vector>
 
+#include "Clock.h"
 #include "support/Files.h"
 #include "support/OptionTree.h"
 #include "support/OptionWindow.h"
@@ -24,13 +25,6 @@ constexpr int kLines = 20000;
 constexpr int kList = 1601;
 constexpr int kSave = 1304;
 constexpr int kReload = 1309;
-
-double Now() {
-    LARGE_INTEGER frequency, counter;
-    QueryPerformanceFrequency(&frequency);
-    QueryPerformanceCounter(&counter);
-    return 1000.0 * static_cast<double>(counter.QuadPart) / static_cast<double>(frequency.QuadPart);
-}
 
 // Popups of fifty lines each: items, separators, scripts with paths, comments and empty lines.
 std::wstring MenuText() {

@@ -39,6 +39,19 @@ int CALLBACK SelectStart(HWND window, UINT message, LPARAM, LPARAM start) {
     return 0;
 }
 
+// The shell's folder browser owned by the active window, or the desktop; null when cancelled.
+PIDLIST_ABSOLUTE Browse(const std::wstring& title, const std::wstring& start) {
+    HWND owner = GetActiveWindow();
+    wchar_t displayName[MAX_PATH] = {};
+    BROWSEINFOW info = {};
+    info.hwndOwner = owner ? owner : GetDesktopWindow();
+    info.pszDisplayName = displayName;
+    info.lpszTitle = title.c_str();
+    info.lpfn = SelectStart;
+    info.lParam = start.empty() ? 0 : reinterpret_cast<LPARAM>(start.c_str());
+    return SHBrowseForFolderW(&info);
+}
+
 }  // namespace
 
 int Win32Prompts::ShowMessage(const std::wstring& text, unsigned style) {
@@ -56,15 +69,7 @@ int Win32Prompts::ShowOwnedMessage(uintptr_t owner, const std::wstring& text, co
 }
 
 FolderChoice Win32Prompts::BrowseForFolder(const std::wstring& title, const std::wstring& start) {
-    HWND owner = GetActiveWindow();
-    wchar_t displayName[MAX_PATH] = {};
-    BROWSEINFOW info = {};
-    info.hwndOwner = owner ? owner : GetDesktopWindow();
-    info.pszDisplayName = displayName;
-    info.lpszTitle = title.c_str();
-    info.lpfn = SelectStart;
-    info.lParam = start.empty() ? 0 : reinterpret_cast<LPARAM>(start.c_str());
-    PIDLIST_ABSOLUTE chosen = SHBrowseForFolderW(&info);
+    PIDLIST_ABSOLUTE chosen = Browse(title, start);
     if (!chosen) return {};
     FolderChoice choice{true, L""};
     wchar_t path[kBrowsePathChars] = {};
@@ -74,15 +79,7 @@ FolderChoice Win32Prompts::BrowseForFolder(const std::wstring& title, const std:
 }
 
 FolderChoice Win32Prompts::BrowseForFolderName(const std::wstring& title, const std::wstring& start) {
-    HWND owner = GetActiveWindow();
-    wchar_t displayName[MAX_PATH] = {};
-    BROWSEINFOW info = {};
-    info.hwndOwner = owner ? owner : GetDesktopWindow();
-    info.pszDisplayName = displayName;
-    info.lpszTitle = title.c_str();
-    info.lpfn = SelectStart;
-    info.lParam = start.empty() ? 0 : reinterpret_cast<LPARAM>(start.c_str());
-    PIDLIST_ABSOLUTE chosen = SHBrowseForFolderW(&info);
+    PIDLIST_ABSOLUTE chosen = Browse(title, start);
     if (!chosen) return {};
     FolderChoice choice{true, L""};
     IShellFolder* desktop = nullptr;
