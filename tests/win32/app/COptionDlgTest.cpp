@@ -172,12 +172,10 @@ TEST_F(COptionDlgTest, EnterAndEscapeAnywhereCloseTheWholeDialog) {
 }
 
 TEST_F(COptionDlgTest, HelpOpensTheManualPageOfTheSelection) {
-    struct Case {
-        const char* what;
-        int select;
-        bool f1;  // WM_HELP as F1 raises it; else the help command
-        const wchar_t* file;
-    };
+    // f1: WM_HELP as F1 raises it; else the help command.
+    // clang-format off
+    struct Case { const char* what; int select; bool f1; const wchar_t* file; };
+    // clang-format on
     const Case cases[] = {
         {"a page, by F1", 36, true, L"C:\\Qor\\Manual\\7.Option\\2.List\\10.html"},
         {"a page, by the command", 23, false, L"C:\\Qor\\Manual\\7.Option\\4.Interface\\03_2.html"},

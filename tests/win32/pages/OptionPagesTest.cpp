@@ -4,6 +4,7 @@
 #include <windows.h>
 
 #include <string>
+#include <tuple>
 #include <vector>
 
 #include "unit/Utf16.h"
@@ -218,79 +219,56 @@ constexpr const wchar_t* kMoveInBackground = L"内部コマンド:シェルの�
 constexpr const wchar_t* kMoveWaiting = L"内部コマンド:シェルのファイル移動(同期モード)";
 constexpr const wchar_t* kCommonOperationText = L"C:\\Qor\\command\\Option\\.en-US\\Option\\196.txt";
 
-void LoadDropCommands(platform::fake::FakePlatform& fake, AppServices& app) {
-    fake.files().AddFile(L"C:\\User\\ExternalUserCommand.txt",
-                         Utf16Bytes(L"42001\t\t-\tzip.exe\tPack\r\n42600\t\t-\tmail.exe\tMail\r\n", true));
-    app.commands.LoadCommandLists(L"C:\\User\\");
-}
-
-// The drop combos offer the shell's operations of the template, then the user's external commands;
-// taking and showing the values again changes neither list. A stored command that is gone shows, and
-// is stored, as the waiting shell operation.
-TEST_F(OptionPagesTest, CommonOperationOffersTheUsersCommandsForDrops) {
-    LoadDropCommands(fake_, app_);
-    DirectWriteInt(kAppInfo, L"DropExCommand0", 42600);
-    DirectWriteInt(kAppInfo, L"DropExCommand1", 42999);
-    COptionDlg dialog(app_);
-    HWND page = Open(dialog, 24);
-    ASSERT_NE(nullptr, page);
-    const std::vector<std::wstring> copy = {kCopyInBackground, kCopyWaiting, L"Pack", L"Mail"};
-    const std::vector<std::wstring> move = {kMoveInBackground, kMoveWaiting, L"Pack", L"Mail"};
-    for (int exchange = 0; exchange < 3; ++exchange) {
-        SCOPED_TRACE(exchange);
-        EXPECT_EQ(copy, ComboItems(page, 1151));
-        EXPECT_EQ(move, ComboItems(page, 1152));
-        EXPECT_EQ(3, ComboSelection(page, 1151));
-        EXPECT_EQ(1, ComboSelection(page, 1152));
-        EXPECT_TRUE(dialog.Page(24)->UpdateData(true));
-        EXPECT_TRUE(dialog.Page(24)->UpdateData(false));
-    }
-    SendMessageW(GetDlgItem(page, 1151), CB_SETCURSEL, 2, 0);
-    Apply(dialog);
-    EXPECT_EQ(std::pair(42001, 1), std::pair(DirectReadInt(kAppInfo, L"DropExCommand0", -1),
-                                             DirectReadInt(kAppInfo, L"DropExCommand1", -1)));
-}
-
-// In another language the shell's operations are the dialog text file's, and still stand for the
-// shell; the user's commands come behind them and never go into the file written for translators.
-TEST_F(OptionPagesTest, CommonOperationTranslatesOnlyTheShellOperations) {
-    struct Case {
-        const char* what;
-        const wchar_t* file;  // null: none yet, so one is written
-        std::vector<std::wstring> copy;
-    };
+// The drop combos offer the shell's operations, then the user's external commands; taking and showing
+// the values again changes neither list, and a stored command that is gone shows, and is stored, as the
+// waiting shell operation. In another language the shell's operations are the dialog text file's and
+// still stand for the shell; the user's commands never go into the file written for translators.
+TEST_F(OptionPagesTest, CommonOperationOffersTheShellOperationsAndTheUsersCommandsForDrops) {
+    // clang-format off
+    struct Case { const char* what; const wchar_t* nls; const wchar_t* file; std::vector<std::wstring> copy; };
     const Case cases[] = {
-        {"no file yet", nullptr, {kCopyInBackground, kCopyWaiting, L"Pack", L"Mail"}},
-        {"a file replaces the copy items",
+        {"the template's words", L".ja-JP", nullptr, {kCopyInBackground, kCopyWaiting, L"Pack", L"Mail"}},
+        {"another language, no file yet: one is written", L".en-US", nullptr,
+         {kCopyInBackground, kCopyWaiting, L"Pack", L"Mail"}},
+        {"a file replaces the copy items", L".en-US",
          L"Common\r\n1151\tComboBoxStart\r\n1151\tComboBox\tShell copy\r\n1151\tComboBox\tShell copy, waiting\r\n",
          {L"Shell copy", L"Shell copy, waiting", L"Pack", L"Mail"}},
     };
-    DirectWriteString(kSettings, L"NLS", L".en-US");
-    LoadDropCommands(fake_, app_);
+    // clang-format on
+    fake_.files().AddFile(L"C:\\User\\ExternalUserCommand.txt",
+                          Utf16Bytes(L"42001\t\t-\tzip.exe\tPack\r\n42600\t\t-\tmail.exe\tMail\r\n", true));
+    const std::vector<std::wstring> move = {kMoveInBackground, kMoveWaiting, L"Pack", L"Mail"};
     for (const Case& c : cases) {
         SCOPED_TRACE(c.what);
+        DirectWriteString(kSettings, L"NLS", c.nls);
         if (c.file) fake_.files().AddFile(kCommonOperationText, Utf16Bytes(c.file, true));
-        DirectWriteInt(kAppInfo, L"DropExCommand0", 1);
-        COptionDlg dialog(app_);
+        DirectWriteInt(kAppInfo, L"DropExCommand0", 42600);
+        DirectWriteInt(kAppInfo, L"DropExCommand1", 42999);
+        AppServices app{96};  // a process of its own, which reads its language once
+        app.commandOptionRoot = app_.commandOptionRoot;
+        app.commands.LoadCommandLists(L"C:\\User\\");
+        COptionDlg dialog(app);
         HWND page = Open(dialog, 24);
         ASSERT_NE(nullptr, page);
-        EXPECT_EQ(c.copy, ComboItems(page, 1151));
-        EXPECT_EQ((std::vector<std::wstring>{kMoveInBackground, kMoveWaiting, L"Pack", L"Mail"}),
-                  ComboItems(page, 1152));
-        EXPECT_EQ(1, ComboSelection(page, 1151));
-        SendMessageW(GetDlgItem(page, 1151), CB_SETCURSEL, 0, 0);
+        for (int exchange = 0; exchange < 3; ++exchange) {
+            EXPECT_EQ(std::tuple(c.copy, move, 3, 1),
+                      std::tuple(ComboItems(page, 1151), ComboItems(page, 1152), ComboSelection(page, 1151),
+                                 ComboSelection(page, 1152)));
+            EXPECT_TRUE(dialog.Page(24)->UpdateData(true) && dialog.Page(24)->UpdateData(false));
+        }
+        SendMessageW(GetDlgItem(page, 1151), CB_SETCURSEL, 2, 0);
         Apply(dialog);
-        EXPECT_EQ(0, DirectReadInt(kAppInfo, L"DropExCommand0", -1));
-        if (c.file) continue;
+        EXPECT_EQ(std::pair(42001, 1), std::pair(DirectReadInt(kAppInfo, L"DropExCommand0", -1),
+                                                 DirectReadInt(kAppInfo, L"DropExCommand1", -1)));
+        if (c.file || std::wstring(c.nls) == L".ja-JP") continue;
         const std::string text = fake_.files().FileText(kCommonOperationText);
         auto written = [&](const std::wstring& part) {
             const std::vector<uint8_t> bytes = Utf16Bytes(part);
             return text.find(std::string(bytes.begin(), bytes.end())) != std::string::npos;
         };
-        EXPECT_TRUE(written(std::wstring(L"1151\tComboBoxStart\r\n1151\tComboBox\t") + kCopyInBackground +
-                            L"\r\n1151\tComboBox\t" + kCopyWaiting + L"\r\n"));
-        EXPECT_TRUE(written(std::wstring(L"1152\tComboBoxStart\r\n1152\tComboBox\t") + kMoveInBackground +
-                            L"\r\n1152\tComboBox\t" + kMoveWaiting + L"\r\n"));
+        for (const auto& [id, shell] : {std::pair(L"1151", c.copy), std::pair(L"1152", move)})
+            EXPECT_TRUE(written(id + std::wstring(L"\tComboBoxStart\r\n") + id + L"\tComboBox\t" + shell[0] + L"\r\n" +
+                                id + L"\tComboBox\t" + shell[1] + L"\r\n"));
         EXPECT_FALSE(written(L"Pack") || written(L"Mail")) << "a user's commands stay out";
     }
 }
