@@ -18,6 +18,8 @@ constexpr const wchar_t* kAppInfo = L"Software\\Tarnwick\\QOR\\Main001\\AppInfo"
 constexpr const wchar_t* kSettings = L"Software\\Tarnwick\\QOR\\Main001\\Settings";
 constexpr platform::WindowRef kHost = 0x1234;
 constexpr int kApply = 1301;
+constexpr const wchar_t* kNotInteger = L"Please enter an integer.";
+constexpr const wchar_t* kNotPositive = L"Please enter a positive integer.";
 
 class OptionPagesTest : public OptionDialogFixture {
 protected:
@@ -89,14 +91,15 @@ TEST_F(OptionPagesTest, DialogAndPagesShowTheirOwnWords) {
 // user sets there is what Apply stores, after which the host hears the page's code (none for the title
 // bar, which the host takes at its next start). Fields that mean something only with a switch on follow
 // it. A field out of range, although it showed as stored, refuses Apply with the framework's words and
-// takes the focus: nothing is stored, the host hears nothing. New pages add rows here.
+// takes the focus with its text selected: nothing is stored, the host hears nothing. So does a field
+// typed with what is no number of its kind. New pages add rows here.
 TEST_F(OptionPagesTest, ControlsCarryTheirStoredValuesBothWays) {
     enum Kind { Check, Radio, Edit };
     // A check is clicked, the radio button of the value set is clicked, a field is typed (or left when
     // null). "Off" are the fields enabled as loaded that the setting turns off.
     // clang-format off
     struct Case { int page, control; Kind kind; const wchar_t *section, *name, *stored, *set; uint16_t code;
-                  std::vector<int> off = {}; const wchar_t* range = nullptr; };
+                  std::vector<int> off = {}; const wchar_t* refused = nullptr; };
     const Case cases[] = {
         {37, 1201, Radio, kAppInfo,  L"TitleBarType",     L"0",         L"2",           0},
         {20, 1251, Check, kAppInfo,  L"UseCompFolder",    L"1",         L"0",           49017},
@@ -106,6 +109,7 @@ TEST_F(OptionPagesTest, ControlsCarryTheirStoredValuesBothWays) {
         {20, 1256, Check, kAppInfo,  L"DragHelper",       L"1",         L"0",           49017},
         {20, 1003, Edit,  kAppInfo,  L"ChgSortAlg",       L"10",        L"25",          49017},
         {20, 1003, Edit,  kAppInfo,  L"ChgSortAlg",       L"10001",     nullptr,        0, {}, L"0 and 10000"},
+        {20, 1003, Edit,  kAppInfo,  L"ChgSortAlg",       L"10",        L"-1",          0, {}, kNotPositive},
         {24, 1251, Check, kAppInfo,  L"DropFolder",       L"1",         L"0",           49020, {1151, 1152}},
         {24, 1252, Check, kAppInfo,  L"CanDrag",          L"0",         L"1",           49020},
         {24, 1258, Check, kAppInfo,  L"InplaceRename",    L"1",         L"0",           49020},
@@ -113,8 +117,10 @@ TEST_F(OptionPagesTest, ControlsCarryTheirStoredValuesBothWays) {
         {30, 1251, Check, kAppInfo,  L"UsePing",          L"1",         L"0",           49021, {1001, 1002}},
         {30, 1001, Edit,  kAppInfo,  L"NetworkTimeout",   L"500",       L"5000000",     49021},
         {30, 1001, Edit,  kAppInfo,  L"NetworkTimeout",   L"9",         nullptr,        0, {}, L"10 and 5000000"},
+        {30, 1001, Edit,  kAppInfo,  L"NetworkTimeout",   L"500",       L"12a",         0, {}, kNotInteger},
         {30, 1002, Edit,  kAppInfo,  L"NetworkRetry",     L"3",         L"100",         49021},
         {30, 1002, Edit,  kAppInfo,  L"NetworkRetry",     L"101",       nullptr,        0, {}, L"1 and 100"},
+        {30, 1002, Edit,  kAppInfo,  L"NetworkRetry",     L"3",         L"2147483648",  0, {}, kNotInteger},
         {34, 1004, Edit,  kAppInfo,  L"VersionCheckDay",  L"7",         L"0",           49017},
         {34, 1253, Check, kAppInfo,  L"VersionCheckBeta", L"0",         L"1",           49017},
         {5,  1201, Radio, kSettings, L"UserDirMode",      L"2",         L"1",           49011, {1051, 1052}},
@@ -154,14 +160,22 @@ TEST_F(OptionPagesTest, ControlsCarryTheirStoredValuesBothWays) {
         EXPECT_EQ(std::vector<bool>(c.off.size(), false), enabled());
         const size_t shown = fake_.prompts().shown().size(), heard = fake_.windows().commands().size();
         Apply(dialog);
-        EXPECT_EQ(c.set ? c.set : c.stored, text ? DirectReadString(c.section, c.name, L"")
-                                                 : std::to_wstring(DirectReadInt(c.section, c.name, -1)));
+        EXPECT_EQ(c.set && !c.refused ? c.set : c.stored, text ? DirectReadString(c.section, c.name, L"")
+                                                               : std::to_wstring(DirectReadInt(c.section, c.name, -1)));
         EXPECT_EQ(c.code ? std::vector<uint16_t>{c.code} : std::vector<uint16_t>{}, Codes(heard));
-        const std::wstring refusal = c.range ? L"Please enter an integer between " + std::wstring(c.range) + L"." : L"";
-        EXPECT_EQ(c.range ? std::vector<std::wstring>{refusal} : std::vector<std::wstring>{}, Messages(shown));
-        if (c.range) {
-            EXPECT_EQ(GetDlgItem(page, c.control), GetFocus());
+        if (!c.refused) {
+            EXPECT_EQ(std::vector<std::wstring>{}, Messages(shown));
+            continue;
         }
+        const std::wstring refusal = c.refused;
+        EXPECT_EQ((std::vector{refusal.starts_with(L"Please") ? refusal
+                                                              : L"Please enter an integer between " + refusal + L"."}),
+                  Messages(shown));
+        EXPECT_EQ(GetDlgItem(page, c.control), GetFocus());
+        DWORD start = 1, end = 0;
+        SendDlgItemMessageW(page, c.control, EM_GETSEL, reinterpret_cast<WPARAM>(&start),
+                            reinterpret_cast<LPARAM>(&end));
+        EXPECT_EQ(std::pair(0ul, wcslen(c.set ? c.set : c.stored)), std::pair(start, static_cast<size_t>(end)));
     }
 }
 
