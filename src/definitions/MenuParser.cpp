@@ -1,6 +1,7 @@
 // Reading a menu file into popup menus. The line buffer, the field rules and the limits are those
 // the host's own reader has, so a file behaves the same in the test here as in the host.
 #include <memory>
+#include <utility>
 
 #include "definitions/MenuDefinition.h"
 #include "platform/Platform.h"
@@ -42,16 +43,17 @@ const EncodedKeyword* FindEncoded(const std::wstring& keyword, const auto& table
 class MenuParser {
 public:
     MenuParser(MenuBuilder& builder, MenuBuilder::Menu root, MenuPosition* position, bool hasParent,
-               UserDirectories& directories, std::vector<std::wstring>& commands)
+               UserDirectories& directories, std::vector<std::wstring>& commands, std::wstring selfTarget)
         : builder_(builder),
           position_(position),
           hasParent_(hasParent),
           directories_(directories),
           commands_(commands),
+          selfTarget_(std::move(selfTarget)),
           open_{root} {}
 
     // False when the line ends the file: an END with no popup left to close.
-    bool Line(const std::wstring& line, const std::wstring& selfTarget) {
+    bool Line(const std::wstring& line) {
         if (line == L"SEPARATOR") {
             builder_.AppendSeparator(open_.back());
             return true;
@@ -64,7 +66,7 @@ public:
         std::vector<std::wstring> fields;
         Tokenize(fields, line, L'\t', true, true);
         if (fields.size() == 3) ThreeFields(fields);
-        if (fields.size() == 2) TwoFields(fields, selfTarget);
+        if (fields.size() == 2) TwoFields(fields);
         return true;
     }
 
@@ -78,7 +80,7 @@ private:
         }
     }
 
-    void TwoFields(const std::vector<std::wstring>& fields, const std::wstring& selfTarget) {
+    void TwoFields(const std::vector<std::wstring>& fields) {
         if (crt::EqualNoCase(fields[0], L"POPUP")) {
             MenuBuilder::Menu popup = builder_.CreatePopup();
             builder_.AppendPopup(open_.back(), popup, fields[1]);
@@ -86,7 +88,7 @@ private:
         } else if (crt::EqualNoCase(fields[0], L"POSITION")) {
             if (position_) SetPosition(fields[1]);
         } else if (const EncodedKeyword* row = FindEncoded(fields[0], kSelfKeywords)) {
-            AppendEncoded(fields[1], row->prefix, row->prefix == L'W' ? std::wstring() : selfTarget);
+            AppendEncoded(fields[1], row->prefix, row->prefix == L'W' ? std::wstring() : selfTarget_);
         }
     }
 
@@ -116,6 +118,7 @@ private:
     bool hasParent_;
     UserDirectories& directories_;
     std::vector<std::wstring>& commands_;
+    const std::wstring selfTarget_;  // the expanded path of the file, target of the editing items
     std::vector<MenuBuilder::Menu> open_;
 };
 
@@ -130,13 +133,13 @@ bool ParseMenuFile(const std::wstring& path, MenuBuilder& builder, MenuBuilder::
         platform::Current().prompts.ShowMessage(crt::Format(L"Cannot open %s", path), platform::kStyleOk);
         return false;
     }
-    const std::wstring selfTarget = ExpandDirectoryMacros(path, directories);
-    MenuParser parser(builder, root, position, hasParent, directories, menuCommands);
+    MenuParser parser(builder, root, position, hasParent, directories, menuCommands,
+                      ExpandDirectoryMacros(path, directories));
     auto buffer = std::make_unique<wchar_t[]>(kLineLimit + 2);
     while (reader.ReadLine(buffer.get(), kLineLimit)) {
         const std::wstring line = crt::Trim(buffer.get());
         if (line.empty()) continue;
-        if (!parser.Line(line, selfTarget)) break;
+        if (!parser.Line(line)) break;
     }
     return true;
 }

@@ -8,8 +8,7 @@
 
 class VectorMenuRows : public MenuRows {
 public:
-    VectorMenuRows() = default;
-    explicit VectorMenuRows(std::vector<MenuLine> lines, int selected = -1)
+    explicit VectorMenuRows(std::vector<MenuLine> lines = {}, int selected = -1)
         : lines(std::move(lines)), selected(selected) {}
 
     int Count() const override { return static_cast<int>(lines.size()); }
@@ -21,18 +20,12 @@ public:
     }
     void Delete(int row) override {
         lines.erase(lines.begin() + row);
-        if (selected == row)
-            selected = -1;
-        else if (selected > row)
-            --selected;
+        selected = selected == row ? -1 : selected - (selected > row);
     }
-    void DeleteAll() override {
-        lines.clear();
-        selected = -1;
-    }
+    void DeleteAll() override { lines.clear(), selected = -1; }
     int Selected() const override { return selected; }
     void Select(int row) override { selected = row >= 0 && row < Count() ? row : -1; }
 
     std::vector<MenuLine> lines;
-    int selected = -1;
+    int selected;
 };
