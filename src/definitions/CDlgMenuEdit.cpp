@@ -70,11 +70,6 @@ void CDlgMenuEdit::ListRows::Delete(int row) {
     Shown();
 }
 
-void CDlgMenuEdit::ListRows::DeleteAll() {
-    lines_.clear();
-    Shown();
-}
-
 void CDlgMenuEdit::ListRows::Assign(std::vector<MenuLine> lines) {
     lines_ = std::move(lines);
     Shown();

@@ -36,7 +36,6 @@ private:
         void SetLine(int row, const MenuLine& line) override;
         void Insert(int row, const MenuLine& line) override;
         void Delete(int row) override;
-        void DeleteAll() override;
         int Selected() const override { return list_.GetSelectedRow(); }
         void Select(int row) override;
         // All rows at once, replacing what was there.

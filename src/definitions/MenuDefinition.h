@@ -107,14 +107,12 @@ public:
     virtual void SetLine(int row, const MenuLine& line) = 0;
     virtual void Insert(int row, const MenuLine& line) = 0;
     virtual void Delete(int row) = 0;
-    virtual void DeleteAll() = 0;
     virtual int Selected() const = 0;
     // Selects the row alone and scrolls it into view; -1 selects nothing.
     virtual void Select(int row) = 0;
 };
 
 // The editor's row actions.
-void LoadMenuRows(MenuRows& rows, const std::wstring& path);
 bool SaveMenuRows(const MenuRows& rows, const std::wstring& path);
 // A new row behind the selected one, or at the top without a selection; selected.
 void InsertMenuRow(MenuRows& rows, const MenuLine& line);

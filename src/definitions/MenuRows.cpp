@@ -74,12 +74,6 @@ bool WriteMenuFile(const std::wstring& path, const std::vector<MenuLine>& lines)
     return WriteWholeFile(path, MenuFileBytes(lines));
 }
 
-void LoadMenuRows(MenuRows& rows, const std::wstring& path) {
-    rows.DeleteAll();
-    const std::vector<MenuLine> lines = ReadMenuLines(path);
-    for (size_t i = 0; i < lines.size(); ++i) rows.Insert(static_cast<int>(i), lines[i]);
-}
-
 bool SaveMenuRows(const MenuRows& rows, const std::wstring& path) {
     std::vector<MenuLine> lines;
     for (int row = 0; row < rows.Count(); ++row) {

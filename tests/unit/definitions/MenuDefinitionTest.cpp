@@ -118,8 +118,7 @@ TEST_F(MenuDefinitionTest, EditorLoadsEveryLineAndSavesWithIndentation) {
     for (const Case& c : cases) {
         SCOPED_TRACE(c.what);
         fake.files().AddFile(kMenuFile, Utf16Bytes(c.file));
-        VectorMenuRows rows({{L"stale"}}, 0);
-        LoadMenuRows(rows, kMenuFile);
+        VectorMenuRows rows(ReadMenuLines(kMenuFile));
         EXPECT_EQ(c.rows, rows.lines);
         EXPECT_TRUE(SaveMenuRows(rows, kMenuFile));
         std::vector<uint8_t> written;
@@ -130,9 +129,7 @@ TEST_F(MenuDefinitionTest, EditorLoadsEveryLineAndSavesWithIndentation) {
     EXPECT_EQ(Utf16Bytes(L"POPUP\tp\r\n\r\n\tx\r\n", true),
               MenuFileBytes({{L"PO\tPUP", L"p", L"", L"Exist:"}, {L"\t", L"lost", L"too"}, {L"x"}}));
     // A folder that does not exist: an empty document that cannot be saved, without a word.
-    VectorMenuRows rows({{L"stale"}});
-    LoadMenuRows(rows, L"C:\\nowhere\\Menu.txt");
-    EXPECT_EQ(0, rows.Count());
+    EXPECT_TRUE(ReadMenuLines(L"C:\\nowhere\\Menu.txt").empty());
     EXPECT_FALSE(SaveMenuRows(VectorMenuRows({{L"x"}}), L"C:\\nowhere\\Menu.txt"));
     EXPECT_TRUE(fake.prompts().shown().empty());
 }

@@ -22,7 +22,6 @@ public:
         lines.erase(lines.begin() + row);
         selected = selected == row ? -1 : selected - (selected > row);
     }
-    void DeleteAll() override { lines.clear(), selected = -1; }
     int Selected() const override { return selected; }
     void Select(int row) override { selected = row >= 0 && row < Count() ? row : -1; }
 
