@@ -28,7 +28,9 @@ constexpr int kReload = 1309;
 
 // Popups of fifty lines each: items, separators, scripts with paths, comments and empty lines.
 std::wstring MenuText() {
-    std::wstring text = L"\xFEFF" L"Benchmark menu\r\n";
+    std::wstring text =
+        L"\xFEFF"
+        L"Benchmark menu\r\n";
     for (int line = 1; line < kLines; ++line) {
         switch (line % 50) {
             case 1:
@@ -61,8 +63,8 @@ double Median(std::vector<double> values) {
 
 int wmain(int argc, wchar_t** argv) {
     const int runs = argc > 1 ? std::max(1, _wtoi(argv[1])) : 5;
-    const std::filesystem::path file =
-        std::filesystem::temp_directory_path() / ("MenuEditorBenchmark" + std::to_string(GetCurrentProcessId()) + ".txt");
+    const std::filesystem::path file = std::filesystem::temp_directory_path() /
+                                       ("MenuEditorBenchmark" + std::to_string(GetCurrentProcessId()) + ".txt");
     e2e::WriteUtf16File(file.wstring(), MenuText());
     std::vector<double> opens, reloads, saves;
     int rows = 0;

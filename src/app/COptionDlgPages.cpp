@@ -33,6 +33,7 @@ std::unique_ptr<OptionPage> MakeGeneric(const OptionPageInfo& page, AppServices&
 }
 
 const std::vector<PageClass>& PageClasses() {
+    // clang-format off
     static const std::vector<PageClass> classes = {
         {2, &Make<COptionKeySetDlg>},
         {5, &Make<COptionOtherDlg>},
@@ -44,6 +45,7 @@ const std::vector<PageClass>& PageClasses() {
         {37, &Make<COptionOverallStyleDlg>},
         {39, &Make<COptionMessageDlg>},
     };
+    // clang-format on
     return classes;
 }
 

@@ -13,8 +13,8 @@ constexpr int kShowNormal = 1;
 void RunEditorScript(AppServices& app, const std::wstring& file) {
     ScriptRunner runner(app.directories, app.messages);
     SelectionList selection{file};
-    runner.Run(app.directories.UserDirectory() + L"Script\\Editor.txt", L"", L"", selection,
-               static_cast<uint32_t>(-1), 1, 0, 0, 1, nullptr, nullptr);
+    runner.Run(app.directories.UserDirectory() + L"Script\\Editor.txt", L"", L"", selection, static_cast<uint32_t>(-1),
+               1, 0, 0, 1, nullptr, nullptr);
 }
 
 void OpenDefinitionFile(AppServices& app, int32_t mode, const std::wstring& file,

@@ -97,10 +97,9 @@ void CDlgMenuCommand::PickCommands() {
 std::wstring CDlgMenuCommand::PickPath(uint32_t kind, const std::wstring& start) {
     platform::Prompts& prompts = platform::Current().prompts;
     const std::wstring shown = expandMacros ? ExpandDirectoryMacros(start, app_.directories) : start;
-    platform::FolderChoice choice =
-        kind == kMenuArgumentDirectory
-            ? prompts.BrowseForFolderName(app_.messages.Get(kMsgFolderBrowserTitle), shown)
-            : prompts.ChooseFileToOpen(L"File open", L"All files(*.*)|*.*|", shown);
+    platform::FolderChoice choice = kind == kMenuArgumentDirectory
+                                        ? prompts.BrowseForFolderName(app_.messages.Get(kMsgFolderBrowserTitle), shown)
+                                        : prompts.ChooseFileToOpen(L"File open", L"All files(*.*)|*.*|", shown);
     if (!choice.confirmed || choice.path.empty()) return {};
     return expandMacros ? TextToMacroPath(choice.path, app_.directories) : choice.path;
 }

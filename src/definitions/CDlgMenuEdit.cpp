@@ -185,8 +185,8 @@ void CDlgMenuEdit::LoadTest() {
     HMENU menu = CreatePopupMenu();
     PopupMenuBuilder builder;
     MenuPosition position = MenuPosition::Desktop;
-    if (ParseMenuFile(filePath, builder, reinterpret_cast<MenuBuilder::Menu>(menu), &position, true,
-                      app_.directories, app_.menuCommands)) {
+    if (ParseMenuFile(filePath, builder, reinterpret_cast<MenuBuilder::Menu>(menu), &position, true, app_.directories,
+                      app_.menuCommands)) {
         POINT point = {};
         switch (position) {
             case MenuPosition::Mouse:

@@ -63,8 +63,7 @@ bool COptionMenuDlg::OnCommand(int id, int code) {
             ShellLaunch(app().directories.UserDirectory() + L"Menu", L"", L"", false, kShowNormal);
             return true;
         case IDC_MENU_PAGE_COMMAND_LIST:
-            ShellLaunch(app().directories.ProgramDirectory() + L"..\\..\\AllCommand.txt", L"", L"", false,
-                        kShowNormal);
+            ShellLaunch(app().directories.ProgramDirectory() + L"..\\..\\AllCommand.txt", L"", L"", false, kShowNormal);
             return true;
         default:
             return false;

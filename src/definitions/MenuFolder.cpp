@@ -24,7 +24,8 @@ std::wstring MenuFileExplanation(const std::wstring& path) {
 
 std::vector<MenuFileEntry> ListMenuFiles(const std::wstring& folder) {
     std::vector<MenuFileEntry> entries;
-    for (const platform::FindData& found : platform::Current().files.FindAll(folder + L"*", platform::FindStyle::Plain)) {
+    for (const platform::FindData& found :
+         platform::Current().files.FindAll(folder + L"*", platform::FindStyle::Plain)) {
         if (found.name == L"." || found.name == L".." || (found.attributes & platform::kAttributeDirectory)) continue;
         entries.push_back({found.name, MenuFileExplanation(folder + found.name)});
     }

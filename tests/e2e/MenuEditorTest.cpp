@@ -127,8 +127,9 @@ TEST_F(MenuEditorTest, AFileInAMissingFolderOpensEmptyAndCannotBeSaved) {
 
 TEST_F(MenuEditorTest, TheLoadTestShowsThePopupWhereTheFileAsksOrRefusesAWildcardFile) {
     const fs::path file = folder / L"Test.txt";
-    ASSERT_TRUE(e2e::WriteUtf16File(file.wstring(), L"\xFEFFPOSITION\tDESKTOP\r\nMENUITEM\tRefresh\t33301\r\n"
-                                                     L"POPUP\tMore\r\n\tSEPARATOR\r\n\tDIRECTORY\tC:\\\r\nEND\r\n"));
+    ASSERT_TRUE(e2e::WriteUtf16File(file.wstring(),
+                                    L"\xFEFFPOSITION\tDESKTOP\r\nMENUITEM\tRefresh\t33301\r\n"
+                                    L"POPUP\tMore\r\n\tSEPARATOR\r\n\tDIRECTORY\tC:\\\r\nEND\r\n"));
     ASSERT_NE(nullptr, Open(file));
     PostMessageW(editor, WM_COMMAND, MAKEWPARAM(kLoadTest, BN_CLICKED), 0);
     HWND popup = e2e::FindWindowOf(option.Id(), [](HWND window) {

@@ -52,7 +52,6 @@ bool CaptureRect(const RECT& rect, const std::wstring& path) {
     return ok;
 }
 
-
 bool CaptureWindow(HWND window, const std::wstring& path) {
     RECT rect;
     return GetWindowRect(window, &rect) && CaptureRect(rect, path);

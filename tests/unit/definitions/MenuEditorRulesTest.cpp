@@ -54,8 +54,7 @@ TEST(MenuEditorRulesTest, OkCleansTheFieldsAndAsksForWhatTheKeywordNeeds) {
     // clang-format on
     for (Case c : cases) {
         const std::wstring message = FinishMenuCommand(c.command, c.text, c.target);
-        EXPECT_EQ(std::tie(c.message, c.command2, c.text2, c.target2),
-                  std::tie(message, c.command, c.text, c.target));
+        EXPECT_EQ(std::tie(c.message, c.command2, c.text2, c.target2), std::tie(message, c.command, c.text, c.target));
     }
 }
 

@@ -114,9 +114,10 @@ TEST_F(MenuEditorDialogsTest, TheEditorChecksCopiesAndSavesItsRows) {
     Click(editor.hwnd(), 1310);
     std::vector<std::wstring> checks;
     for (int row = 0; row < list.GetItemCount(); ++row) checks.push_back(list.GetItemText(row, 3));
-    EXPECT_EQ((std::vector<std::wstring>{L"", L"Cannot get command string.", L"Syntax error(DESKTOP/PAERNT/MOUSE/MAIN)",
-                                         L"", L"", L"Not found:" + app_.directories.UserDirectory() + L"None.txt", L""}),
-              checks);
+    EXPECT_EQ(
+        (std::vector<std::wstring>{L"", L"Cannot get command string.", L"Syntax error(DESKTOP/PAERNT/MOUSE/MAIN)", L"",
+                                   L"", L"Not found:" + app_.directories.UserDirectory() + L"None.txt", L""}),
+        checks);
 
     list.SelectRow(5);
     Click(editor.hwnd(), 1313);
