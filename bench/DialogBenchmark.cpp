@@ -17,6 +17,7 @@
 #include <vector>
 
 #include "app/OptionPageTable.h"
+#include "Clock.h"
 #include "support/OptionTree.h"
 #include "support/Files.h"
 #include "support/OptionWindow.h"
@@ -26,13 +27,6 @@
 namespace {
 
 constexpr DWORD kTimeoutMs = 20000;
-
-double Now() {
-    LARGE_INTEGER frequency, counter;
-    QueryPerformanceFrequency(&frequency);
-    QueryPerformanceCounter(&counter);
-    return 1000.0 * static_cast<double>(counter.QuadPart) / static_cast<double>(frequency.QuadPart);
-}
 
 struct Shown {
     e2e::Process process;

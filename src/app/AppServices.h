@@ -41,6 +41,8 @@ struct AppServices {
     std::vector<std::wstring> modifierNames;
     // Names of the commands the user's lists define, read at start and emptied at the end.
     CommandCatalog commands;
+    // The encoded commands of the items of the menu last parsed: entry n is item 62300 + n.
+    std::vector<std::wstring> menuCommands;
     // The nine key modes the key page edits, loaded when it is first shown.
     KeyTableSet keys;
     // The language library; null when it could not be loaded.

@@ -7,11 +7,13 @@
 #include <vector>
 
 #include "app/COptionDlg.h"
+#include "app/CommandLine.h"
+#include "app/DefinitionEditing.h"
 #include "app/Startup.h"
 #include "bindings/COptionKeySetting.h"
 #include "bindings/KeyListWriter.h"
+#include "definitions/CDlgMenuEdit.h"
 #include "platform/win32/Win32Platform.h"
-#include "script/ScriptRunner.h"
 #include "services/HostHandshake.h"
 
 namespace {
@@ -70,9 +72,14 @@ void COptionApp::OpenOptionDialog() {
     dialog.DoModal(reinterpret_cast<HWND>(HostParent(app_->host.windowMode)));
 }
 
-// The editors take their place here as they are built; until then a target that is not there yet
-// ends the run quietly.
-void COptionApp::OpenEditor(int, const std::wstring&) {}
+// The editors of the other switches take their place here as they are built; until then such a
+// target ends the run quietly.
+void COptionApp::OpenEditor(int switchNumber, const std::wstring& file) {
+    if (!app_ || switchNumber != kSwitchMenu) return;
+    CDlgMenuEdit editor(*app_);
+    editor.filePath = file;
+    editor.DoModal(nullptr);
+}
 
 void COptionApp::WriteKeyLists() {
     if (!app_) return;
@@ -80,11 +87,7 @@ void COptionApp::WriteKeyLists() {
     writer.Run();
 }
 
-// The user's editor script opens the file; an unreadable script is told by the runner.
+// The user's editor script opens the file.
 void COptionApp::RunEditorScript(const std::wstring& file) {
-    if (!app_) return;
-    ScriptRunner runner(app_->directories, app_->messages);
-    SelectionList selection{file};
-    runner.Run(app_->directories.UserDirectory() + L"Script\\Editor.txt", L"", L"", selection,
-               static_cast<uint32_t>(-1), 1, 0, 0, 1, nullptr, nullptr);
+    if (app_) ::RunEditorScript(*app_, file);
 }

@@ -5,6 +5,7 @@
 
 #include "app/COptionDlg.h"
 #include "bindings/COptionKeySetDlg.h"
+#include "definitions/COptionMenuDlg.h"
 #include "pages/COptionAppInfoDlg.h"
 #include "pages/COptionCommonUIDlg.h"
 #include "pages/COptionMessageDlg.h"
@@ -32,16 +33,19 @@ std::unique_ptr<OptionPage> MakeGeneric(const OptionPageInfo& page, AppServices&
 }
 
 const std::vector<PageClass>& PageClasses() {
+    // clang-format off
     static const std::vector<PageClass> classes = {
         {2, &Make<COptionKeySetDlg>},
         {5, &Make<COptionOtherDlg>},
         {20, &Make<COptionAppInfoDlg>},
+        {22, &Make<COptionMenuDlg>},
         {24, &Make<COptionCommonUIDlg>},
         {30, &Make<COptionNetworkDlg>},
         {34, &Make<COptionVersionCheckDlg>},
         {37, &Make<COptionOverallStyleDlg>},
         {39, &Make<COptionMessageDlg>},
     };
+    // clang-format on
     return classes;
 }
 

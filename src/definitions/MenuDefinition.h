@@ -76,12 +76,12 @@ bool ParseMenuFile(const std::wstring& path, MenuBuilder& builder, MenuBuilder::
                    bool hasParent, UserDirectories& directories, std::vector<std::wstring>& menuCommands);
 
 // One line of the editor: command, menu text, target (with any further fields), and the result of
-// the last check, which is never saved.
+// the last check, which is never saved. Texts left out of a brace list are empty.
 struct MenuLine {
-    std::wstring command;
-    std::wstring text;
-    std::wstring target;
-    std::wstring check;
+    std::wstring command{};
+    std::wstring text{};
+    std::wstring target{};
+    std::wstring check{};
     bool operator==(const MenuLine&) const = default;
 };
 
@@ -107,14 +107,12 @@ public:
     virtual void SetLine(int row, const MenuLine& line) = 0;
     virtual void Insert(int row, const MenuLine& line) = 0;
     virtual void Delete(int row) = 0;
-    virtual void DeleteAll() = 0;
     virtual int Selected() const = 0;
     // Selects the row alone and scrolls it into view; -1 selects nothing.
     virtual void Select(int row) = 0;
 };
 
 // The editor's row actions.
-void LoadMenuRows(MenuRows& rows, const std::wstring& path);
 bool SaveMenuRows(const MenuRows& rows, const std::wstring& path);
 // A new row behind the selected one, or at the top without a selection; selected.
 void InsertMenuRow(MenuRows& rows, const MenuLine& line);

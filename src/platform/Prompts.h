@@ -10,9 +10,9 @@ namespace platform {
 // The answers of MessageBox.
 enum PromptAnswer : int { kAnswerOk = 1, kAnswerCancel = 2, kAnswerYes = 6, kAnswerNo = 7 };
 // The styles the program uses.
-enum PromptStyle : unsigned { kStyleOk = 0, kStyleYesNo = 4 };
+enum PromptStyle : unsigned { kStyleOk = 0, kStyleYesNo = 4, kStyleInformation = 0x40 };
 
-// What the folder browser gave back.
+// What the folder browser or the file open box gave back.
 struct FolderChoice {
     bool confirmed = false;  // false: the user cancelled
     std::wstring path;       // empty when the folder has no file-system path (a virtual folder)
@@ -46,6 +46,13 @@ public:
     // owned by the active window, or the desktop when there is none. A path of 520 units or more
     // is not taken: it comes back empty.
     virtual FolderChoice BrowseForFolder(const std::wstring& title, const std::wstring& start) = 0;
+    // The same browser, answering with the folder's parsing name as the desktop gives it, so that a
+    // virtual folder comes back as "::{...}"; its file-system path when that name is empty.
+    virtual FolderChoice BrowseForFolderName(const std::wstring& title, const std::wstring& start) = 0;
+    // The file open box for an existing file, read-only box hidden, start preselected; when the box
+    // refuses the start text it opens once more without it. filter: pairs of texts, each ending in "|".
+    virtual FolderChoice ChooseFileToOpen(const std::wstring& title, const std::wstring& filter,
+                                          const std::wstring& start) = 0;
     // Captioned with the program's name and owned by the active window. The index of the choice
     // taken; -1 when the user cancelled.
     virtual int ChooseOne(const ChoiceRequest& request) = 0;

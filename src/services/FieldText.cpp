@@ -83,4 +83,8 @@ std::wstring UnsignedBetween(uint32_t min, uint32_t max) {
     return crt::Format(L"Please enter an integer between %u and %u.", min, max);
 }
 
+std::wstring NoMoreCharacters(int count) {
+    return crt::Format(L"Please enter no more than %d characters.", count);
+}
+
 }  // namespace fieldtext

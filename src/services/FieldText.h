@@ -24,5 +24,6 @@ std::wstring IntegerExpected();
 std::wstring PositiveIntegerExpected();
 std::wstring IntegerBetween(int32_t min, int32_t max);
 std::wstring UnsignedBetween(uint32_t min, uint32_t max);
+std::wstring NoMoreCharacters(int count);
 
 }  // namespace fieldtext

@@ -109,6 +109,15 @@ void DDV_MinMaxInt(DataExchange& dx, int32_t value, int32_t min, int32_t max) {
     if (dx.saving() && (value < min || value > max)) dx.Fail(fieldtext::IntegerBetween(min, max));
 }
 
+void DDV_MaxChars(DataExchange& dx, const std::wstring& value, int count) {
+    if (dx.saving()) {
+        if (value.size() > static_cast<size_t>(count)) dx.Fail(fieldtext::NoMoreCharacters(count));
+        return;
+    }
+    Control control(dx.lastControl());
+    control.Send(control.IsClass(WC_COMBOBOXW) ? CB_LIMITTEXT : EM_LIMITTEXT, static_cast<WPARAM>(count));
+}
+
 void DDV_MinMaxUInt(DataExchange& dx, uint32_t value, uint32_t min, uint32_t max) {
     if (dx.saving() && (value < min || value > max)) dx.Fail(fieldtext::UnsignedBetween(min, max));
 }

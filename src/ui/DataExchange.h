@@ -24,6 +24,8 @@ public:
     // True while controls go into members (UpdateData(true)), false the other way.
     bool saving() const { return saving_; }
     HWND dialog() const { return dialog_; }
+    // The control the last DDX_ function worked on.
+    HWND lastControl() const { return last_; }
 
     // The control a DDX_ function works on, remembered as the one a refusal goes back to.
     // A control missing from the template is a programming error (std::logic_error).
@@ -58,5 +60,7 @@ void DDX_CBIndex(DataExchange& dx, int id, int32_t& index);
 // Range checks of the value the DDX_ before took; they check only while saving.
 void DDV_MinMaxInt(DataExchange& dx, int32_t value, int32_t min, int32_t max);
 void DDV_MinMaxUInt(DataExchange& dx, uint32_t value, uint32_t min, uint32_t max);
+// A text of at most count units: the edit takes no more while loading, and a longer one is refused.
+void DDV_MaxChars(DataExchange& dx, const std::wstring& value, int count);
 
 }  // namespace ui

@@ -99,12 +99,9 @@ TEST(EditorScript, TheScriptStartsTheEditorSteersTheHostAndStopsAtABadLine) {
                             "message 32776 18446744073709551615 -2"));
 
     // The script's boxes are the host's, captioned "Qor"; the program's own says why the run ends.
-    struct Step {
-        const char* text;
-        std::vector<int> buttons;
-        int answer;
-        HWND owner;
-    };
+    // clang-format off
+    struct Step { const char* text; std::vector<int> buttons; int answer; HWND owner; };
+    // clang-format on
     const Step steps[] = {
         {"Go on?", {IDYES, IDNO}, IDYES, host.Window()},
         {"Pick one", {IDOK, IDCANCEL}, IDCANCEL, host.Window()},

@@ -86,11 +86,9 @@ LRESULT CALLBACK WindowProc(HWND hwnd, UINT msg, WPARAM wp, LPARAM lp) {
     return DefWindowProcW(hwnd, msg, wp, lp);
 }
 
-struct Arguments {
-    std::wstring log;
-    std::wstring title = L"FakeHost";
-    bool hidden = false;
-};
+// clang-format off
+struct Arguments { std::wstring log; std::wstring title = L"FakeHost"; bool hidden = false; };
+// clang-format on
 
 // The options this program knows; anything else on the command line is only logged.
 Arguments ParseArguments() {

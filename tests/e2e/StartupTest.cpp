@@ -49,13 +49,9 @@ std::wstring NamingTheBlock(int windowMode, int reactivate, const wchar_t* word,
 // exactly when it asked with reactivate 1 in a string of ten fields, and hears nothing else. A copy
 // already running changes none of that.
 TEST(Startup, ARunThatEndsAtOnceReadsTheBlockAndHandsBackOnlyWhenAsked) {
-    struct Case {
-        const char* what;
-        std::vector<std::wstring> args;
-        std::wstring switches;
-        bool read;
-        bool forward;
-    };
+    // clang-format off
+    struct Case { const char* what; std::vector<std::wstring> args; std::wstring switches; bool read; bool forward; };
+    // clang-format on
     const Case cases[] = {
         {"Share, reactivate 1", {L"/T", L"C:\\none.txt"}, NamingTheBlock(0, 1, L"Share"), true, true},
         {"share in other case, reactivate 1", {L"/T", L"x"}, NamingTheBlock(2, 1, L"share"), false, true},

@@ -34,6 +34,14 @@ FolderChoice FakePrompts::BrowseForFolder(const std::wstring& title, const std::
     return choice;
 }
 
+FolderChoice FakePrompts::BrowseForFolderName(const std::wstring& title, const std::wstring& start) {
+    return BrowseForFolder(title, start);
+}
+
+FolderChoice FakePrompts::ChooseFileToOpen(const std::wstring& title, const std::wstring&, const std::wstring& start) {
+    return BrowseForFolder(title, start);
+}
+
 int FakePrompts::ChooseOne(const ChoiceRequest& request) {
     offered_.push_back(request);
     if (choices_.empty()) return -1;

@@ -18,7 +18,7 @@ struct ShownMessage {
     bool operator==(const ShownMessage&) const = default;
 };
 
-// One opening of the folder browser.
+// One opening of the folder browser or the file open box (title, start).
 struct FolderBrowse {
     std::wstring title;
     std::wstring start;
@@ -32,12 +32,15 @@ public:
     int ShowOwnedMessage(uintptr_t owner, const std::wstring& text, const std::wstring& caption,
                          unsigned flags) override;
     FolderChoice BrowseForFolder(const std::wstring& title, const std::wstring& start) override;
+    FolderChoice BrowseForFolderName(const std::wstring& title, const std::wstring& start) override;
+    FolderChoice ChooseFileToOpen(const std::wstring& title, const std::wstring& filter,
+                                  const std::wstring& start) override;
     int ChooseOne(const ChoiceRequest& request) override;
 
     // Answers given in turn; when none is left a question gets No and a message OK.
     void Answer(int answer) { answers_.push_back(answer); }
     const std::vector<ShownMessage>& shown() const { return shown_; }
-    // Folder choices given in turn; when none is left the browser is cancelled.
+    // Folder and file choices given in turn; when none is left the box is cancelled.
     void ChooseFolder(FolderChoice choice) { folders_.push_back(std::move(choice)); }
     const std::vector<FolderBrowse>& browsed() const { return browsed_; }
     // Choices taken in turn, by index; when none is left the task dialog is cancelled.

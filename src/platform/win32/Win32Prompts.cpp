@@ -3,6 +3,8 @@
 #include <windows.h>
 #include <shlobj.h>
 #include <commctrl.h>
+#include <commdlg.h>
+#include <shlwapi.h>
 
 #include <vector>
 
@@ -37,6 +39,19 @@ int CALLBACK SelectStart(HWND window, UINT message, LPARAM, LPARAM start) {
     return 0;
 }
 
+// The shell's folder browser owned by the active window, or the desktop; null when cancelled.
+PIDLIST_ABSOLUTE Browse(const std::wstring& title, const std::wstring& start) {
+    HWND owner = GetActiveWindow();
+    wchar_t displayName[MAX_PATH] = {};
+    BROWSEINFOW info = {};
+    info.hwndOwner = owner ? owner : GetDesktopWindow();
+    info.pszDisplayName = displayName;
+    info.lpszTitle = title.c_str();
+    info.lpfn = SelectStart;
+    info.lParam = start.empty() ? 0 : reinterpret_cast<LPARAM>(start.c_str());
+    return SHBrowseForFolderW(&info);
+}
+
 }  // namespace
 
 int Win32Prompts::ShowMessage(const std::wstring& text, unsigned style) {
@@ -54,21 +69,58 @@ int Win32Prompts::ShowOwnedMessage(uintptr_t owner, const std::wstring& text, co
 }
 
 FolderChoice Win32Prompts::BrowseForFolder(const std::wstring& title, const std::wstring& start) {
-    HWND owner = GetActiveWindow();
-    wchar_t displayName[MAX_PATH] = {};
-    BROWSEINFOW info = {};
-    info.hwndOwner = owner ? owner : GetDesktopWindow();
-    info.pszDisplayName = displayName;
-    info.lpszTitle = title.c_str();
-    info.lpfn = SelectStart;
-    info.lParam = start.empty() ? 0 : reinterpret_cast<LPARAM>(start.c_str());
-    PIDLIST_ABSOLUTE chosen = SHBrowseForFolderW(&info);
+    PIDLIST_ABSOLUTE chosen = Browse(title, start);
     if (!chosen) return {};
     FolderChoice choice{true, L""};
     wchar_t path[kBrowsePathChars] = {};
     if (SHGetPathFromIDListEx(chosen, path, kBrowsePathChars, GPFIDL_DEFAULT)) choice.path = path;
     CoTaskMemFree(chosen);
     return choice;
+}
+
+FolderChoice Win32Prompts::BrowseForFolderName(const std::wstring& title, const std::wstring& start) {
+    PIDLIST_ABSOLUTE chosen = Browse(title, start);
+    if (!chosen) return {};
+    FolderChoice choice{true, L""};
+    IShellFolder* desktop = nullptr;
+    STRRET name = {};
+    if (SUCCEEDED(SHGetDesktopFolder(&desktop)) &&
+        SUCCEEDED(desktop->GetDisplayNameOf(chosen, SHGDN_FORPARSING, &name))) {
+        wchar_t* text = nullptr;
+        if (SUCCEEDED(StrRetToStrW(&name, chosen, &text))) {
+            choice.path = text;
+            CoTaskMemFree(text);
+        }
+    }
+    if (desktop) desktop->Release();
+    wchar_t path[MAX_PATH] = {};
+    if (choice.path.empty() && SHGetPathFromIDListW(chosen, path)) choice.path = path;
+    CoTaskMemFree(chosen);
+    return choice;
+}
+
+FolderChoice Win32Prompts::ChooseFileToOpen(const std::wstring& title, const std::wstring& filter,
+                                            const std::wstring& start) {
+    std::wstring filters = filter;
+    for (wchar_t& c : filters) {
+        if (c == L'|') c = L'\0';
+    }
+    for (int attempt = 0; attempt < 2; ++attempt) {
+        wchar_t path[MAX_PATH] = {};
+        if (attempt == 0) lstrcpynW(path, start.c_str(), MAX_PATH);
+        OPENFILENAMEW box = {};
+        box.lStructSize = sizeof(box);
+        box.hwndOwner = GetActiveWindow();
+        box.lpstrFilter = filters.c_str();
+        box.lpstrFile = path;
+        box.nMaxFile = MAX_PATH;
+        box.lpstrTitle = title.c_str();
+        box.Flags = OFN_FILEMUSTEXIST | OFN_HIDEREADONLY;
+        if (GetOpenFileNameW(&box)) return {true, path};
+        // Only a start text the box cannot take is worth a second opening.
+        if (attempt > 0 || CommDlgExtendedError() != FNERR_INVALIDFILENAME) break;
+    }
+    return {};
 }
 
 int Win32Prompts::ChooseOne(const ChoiceRequest& request) {

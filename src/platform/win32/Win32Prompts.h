@@ -11,6 +11,9 @@ public:
     int ShowOwnedMessage(uintptr_t owner, const std::wstring& text, const std::wstring& caption,
                          unsigned flags) override;
     FolderChoice BrowseForFolder(const std::wstring& title, const std::wstring& start) override;
+    FolderChoice BrowseForFolderName(const std::wstring& title, const std::wstring& start) override;
+    FolderChoice ChooseFileToOpen(const std::wstring& title, const std::wstring& filter,
+                                  const std::wstring& start) override;
     int ChooseOne(const ChoiceRequest& request) override;
 };
 

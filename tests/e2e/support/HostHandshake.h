@@ -30,6 +30,7 @@ public:
     ShareBlock& operator=(const ShareBlock&) = delete;
 
     bool Valid() const { return static_cast<bool>(view_); }
+    HANDLE Mutex() const { return mutex_.get(); }
     // The whole block as 16-bit units, zeros included: a reader may have changed it.
     std::wstring Contents() const;
 

@@ -6,12 +6,8 @@
 namespace {
 
 TEST(ExpressionEvaluator, ValuesAndErrorCodes) {
-    struct Case {
-        const wchar_t* text;
-        const wchar_t* value;
-        int32_t error;
-    };
     // clang-format off
+    struct Case { const wchar_t* text; const wchar_t* value; int32_t error; };
     const Case cases[] = {
         {L"1+2*3", L"7", 0},    {L"(1+2)*3", L"9", 0},    {L"10-4-3", L"3", 0},       {L"1/3", L"0.333333", 0},
         {L"4/2", L"2", 0},      {L"7%3", L"1", 0},        {L"7.5%2", L"1.5", 0},      {L"-(2)", L"-2", 0},
@@ -36,13 +32,8 @@ TEST(ExpressionEvaluator, ValuesAndErrorCodes) {
 }
 
 TEST(ScriptNumbers, TheThreeTestsDiffer) {
-    struct Case {
-        const wchar_t* text;
-        bool scriptNumber;
-        const wchar_t* normalised;
-        bool signedInteger;
-    };
     // clang-format off
+    struct Case { const wchar_t* text; bool scriptNumber; const wchar_t* normalised; bool signedInteger; };
     const Case cases[] = {
         {L"", true, L"", true},                      {L"  ", true, L"  ", false},        {L"007", true, L"7", true},
         {L" 1 2 ", true, L"12", false},              {L"0x1F", true, L"31", false},      {L"0x", false, L"0x", false},

@@ -107,13 +107,9 @@ TEST_F(LaunchRunTest, BackgroundModeStartsFromItsOwnThread) {
 }
 
 TEST_F(LaunchRunTest, ExRunEntriesTakeTheItemsTheirFilterAndArgumentsAllow) {
-    struct Case {
-        const char* what;
-        std::wstring program, item, arguments, filter;
-        bool dealt;
-        std::wstring started;  // the program started, empty for none
-    };
+    // started: the program started, empty for none.
     // clang-format off
+    struct Case { const char* what; std::wstring program, item, arguments, filter; bool dealt; std::wstring started; };
     const Case cases[] = {
         {"no argument text", L"edit.exe", L"C:\\D\\a.txt", L"", L"", false, L""},
         {"a line feed as arguments", L"edit.exe", L"C:\\D\\a.txt", L"\n", L"", false, L""},

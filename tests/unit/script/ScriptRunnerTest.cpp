@@ -108,12 +108,8 @@ TEST_F(ScriptRunnerTest, TheTraceWindowHearsOfScriptsLinesAndValues) {
 
 // What the shared table holds after each line: included scripts and the caller see it.
 TEST_F(ScriptRunnerTest, OptionLinesWriteTheSharedTable) {
-    struct Case {
-        std::wstring line;
-        const wchar_t* key;
-        const wchar_t* kept;
-    };
     // clang-format off
+    struct Case { std::wstring line; const wchar_t* key; const wchar_t* kept; };
     const Case cases[] = {
         {L"Timeout = 5000ms", L"timeout", L"5000"},                {L"timeout = v", L"timeout", L"42"},
         {L"showwindow =", L"showwindow", L"0"},                    {L"multicommandmode = 2", L"multicommandmode", L"0"},

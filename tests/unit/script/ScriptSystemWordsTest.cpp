@@ -117,11 +117,9 @@ TEST_F(ScriptSystemWordsTest, ClipboardMetricsAndSpeech) {
 }
 
 TEST_F(ScriptSystemWordsTest, Wait) {
-    struct Case {
-        const char* label;
-        std::vector<std::wstring> lines;
-        uint64_t waited;
-    };
+    // clang-format off
+    struct Case { const char* label; std::vector<std::wstring> lines; uint64_t waited; };
+    // clang-format on
     const Case cases[] = {
         {"milliseconds", {L"wait = 250"}, 250},
         {"the value expanded", {L"var $ms = 40", L"wait = $ms"}, 40},

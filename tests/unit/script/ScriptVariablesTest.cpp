@@ -63,11 +63,9 @@ TEST_F(ScriptVariablesTest, AssignmentsAndDeclarations) {
 }
 
 TEST_F(ScriptVariablesTest, Conditions) {
-    struct Case {
-        const wchar_t* condition;
-        const wchar_t* outcome;  // "yes", "no", or "error"
-    };
+    // outcome: "yes", "no", or "error".
     // clang-format off
+    struct Case { const wchar_t* condition; const wchar_t* outcome; };
     const Case cases[] = {
         {L"0 == 00", L"yes"},        {L"a == A", L"yes"},          {L"a != A", L"no"},
         {L"10 < 9", L"no"},          {L"a10 < a9", L"no"},         {L"2 < 10", L"yes"},

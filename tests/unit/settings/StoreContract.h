@@ -25,12 +25,9 @@ inline void SetRaw(const std::wstring& section, const std::wstring& name, uint32
 
 // Each value read as text (over "default") or as a number (over 0x0BADF00D).
 inline void ExpectReadsTakeWhatFitsOverTheDefault(const std::wstring& section) {
-    struct Case {
-        const char* label;
-        uint32_t type;
-        std::vector<uint8_t> bytes;
-        Stored expected;
-    };
+    // clang-format off
+    struct Case { const char* label; uint32_t type; std::vector<uint8_t> bytes; Stored expected; };
+    // clang-format on
     const Case cases[] = {
         {"terminated", platform::kRegSz, Utf16Bytes(L"abc\0"), L"abc"},
         {"no terminator", platform::kRegSz, Utf16Bytes(L"abc"), L"abc"},

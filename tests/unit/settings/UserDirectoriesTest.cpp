@@ -78,12 +78,8 @@ TEST_F(UserDirectoriesTest, TokensExpandAndPathsCompress) {
     SetMode(1);
     fake.environment().SetVariable(L"DATA", L"%User_dir%x");
     enum Way { Both, Expands, Compresses };
-    struct Case {
-        const wchar_t* tokens;
-        const wchar_t* path;
-        Way way;
-    };
     // clang-format off
+    struct Case { const wchar_t* tokens; const wchar_t* path; Way way; };
     const Case cases[] = {
         {L"%Script_dir%Editor.txt", L"C:\\Qor\\Ubar\\tester\\Script\\Editor.txt", Both},
         {L"%User_dir%CommandMode.key", L"C:\\Qor\\Ubar\\tester\\CommandMode.key", Both},

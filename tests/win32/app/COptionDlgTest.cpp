@@ -15,9 +15,9 @@ using namespace optiontest;
 
 class COptionDlgTest : public OptionDialogFixture {};
 
-// A single-line edit put into a page, as a page of its own would have.
-HWND AddEdit(HWND page) {
-    return CreateWindowExW(0, L"Edit", L"", WS_CHILD | WS_VISIBLE | WS_TABSTOP, 0, 0, 100, 20, page,
+// An edit put into a page, as a page of its own would have one.
+HWND AddEdit(HWND page, DWORD style = 0) {
+    return CreateWindowExW(0, L"Edit", L"", WS_CHILD | WS_VISIBLE | WS_TABSTOP | style, 0, 0, 100, 20, page,
                            reinterpret_cast<HMENU>(100), GetModuleHandleW(nullptr), nullptr);
 }
 
@@ -111,11 +111,8 @@ TEST_F(COptionDlgTest, OpeningServesTheFolderRequestOnceAndReadsTheMouseNames) {
         SendMessageW(dialog.hwnd(), WM_COMMAND, MAKEWPARAM(IDCANCEL, BN_CLICKED), 0);
     }
     EXPECT_EQ(0u, fake_.windows().MainWindow()) << "no main window once the dialog is gone";
-    EXPECT_EQ((std::vector<std::wstring>{L"Enter", L"ダブルクリック", L"左クリック", L"右クリック", L"中クリック",
-                                         L"進むボタン", L"戻るボタン"}),
-              app_.mouseButtonNames);
-    EXPECT_EQ((std::vector<std::wstring>{L"(組み合わせなし)", L"+Ctrl", L"+Shift", L"+Ctrl+Shift"}),
-              app_.modifierNames);
+    EXPECT_EQ((std::pair<std::wstring, std::wstring>(L"Enter", L"+Ctrl+Shift")),
+              std::pair(app_.mouseButtonNames.at(0), app_.modifierNames.at(3)));
 
     fake_.registry().DeleteKey(PageKey());
     COptionDlg again(app_);
@@ -144,40 +141,46 @@ TEST_F(COptionDlgTest, ATranslationWithAWrongLabelCountIsToldAndLeavesThePartial
     EXPECT_EQ(std::vector<int>{}, OpenedPages(dialog));
 }
 
+// Enter and Escape in a page belong to the page, which closes the whole dialog; a multi-line edit keeps
+// its Enter, and a focused button takes it as a click (the version check's reset stores at once).
 TEST_F(COptionDlgTest, EnterAndEscapeAnywhereCloseTheWholeDialog) {
-    struct Case {
-        const char* what;
-        std::function<void(COptionDlg&, HWND)> act;
-        INT_PTR result;
-    };
-    auto keyInPageEdit = [](WPARAM key) {
-        return [key](COptionDlg& dialog, HWND window) {
+    // clang-format off
+    struct Case { const char* what; std::function<void(COptionDlg&, HWND)> act; INT_PTR result; bool reset = false; };
+    // clang-format on
+    auto keyInPageEdit = [](WPARAM key, DWORD style = 0) {
+        return [key, style](COptionDlg& dialog, HWND) {
             Select(dialog, 24);
-            HWND edit = AddEdit(dialog.Page(24)->hwnd());
-            PostMessageW(edit, WM_KEYDOWN, key, 0);
+            PostMessageW(AddEdit(dialog.Page(24)->hwnd(), style), WM_KEYDOWN, key, 0);
         };
+    };
+    auto enterOnReset = [](COptionDlg& dialog, HWND) {
+        Select(dialog, 34);
+        PostMessageW(GetDlgItem(dialog.Page(34)->hwnd(), 1301), WM_KEYDOWN, VK_RETURN, 0);
     };
     const Case cases[] = {
         {"a page posts OK", [](COptionDlg&, HWND w) { PostMessageW(w, kPageOkMessage, 0, 0); }, IDOK},
         {"a page posts Cancel", [](COptionDlg&, HWND w) { PostMessageW(w, kPageCancelMessage, 0, 0); }, IDCANCEL},
         {"Enter in an edit of a page", keyInPageEdit(VK_RETURN), IDOK},
         {"Escape in an edit of a page", keyInPageEdit(VK_ESCAPE), IDCANCEL},
+        {"Enter in a multi-line edit", keyInPageEdit(VK_RETURN, ES_MULTILINE | ES_WANTRETURN), IDCANCEL},
+        {"Enter on a focused button", enterOnReset, IDCANCEL, true},
     };
     for (const Case& c : cases) {
         SCOPED_TRACE(c.what);
         SetStart(std::nullopt);
         COptionDlg dialog(app_);
-        EXPECT_EQ(c.result, RunModal(dialog, {[&](HWND window) { c.act(dialog, window); }}));
+        EXPECT_EQ(c.result, RunModal(dialog, {[&](HWND window) { c.act(dialog, window); },
+                                              [](HWND window) { PostMessageW(window, WM_COMMAND, IDCANCEL, 0); }}));
+        EXPECT_EQ(c.reset,
+                  DirectReadString(L"Software\\Tarnwick\\QOR\\Main001\\AppInfo", L"VersionCheckTime", L"") != L"");
     }
 }
 
 TEST_F(COptionDlgTest, HelpOpensTheManualPageOfTheSelection) {
-    struct Case {
-        const char* what;
-        int select;
-        bool f1;  // WM_HELP as F1 raises it; else the help command
-        const wchar_t* file;
-    };
+    // f1: WM_HELP as F1 raises it; else the help command.
+    // clang-format off
+    struct Case { const char* what; int select; bool f1; const wchar_t* file; };
+    // clang-format on
     const Case cases[] = {
         {"a page, by F1", 36, true, L"C:\\Qor\\Manual\\7.Option\\2.List\\10.html"},
         {"a page, by the command", 23, false, L"C:\\Qor\\Manual\\7.Option\\4.Interface\\03_2.html"},

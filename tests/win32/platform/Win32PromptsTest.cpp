@@ -129,11 +129,9 @@ TEST(Win32Prompts, FolderBrowser) {
 
 // The task dialog of program alternatives: one command link per choice from 201 up, and Cancel.
 TEST(Win32Prompts, ChoiceOfAlternatives) {
-    struct Case {
-        const char* what;
-        WPARAM pressed;
-        int chosen;
-    };
+    // clang-format off
+    struct Case { const char* what; WPARAM pressed; int chosen; };
+    // clang-format on
     for (const Case& c : {Case{"the second link", 202, 1}, Case{"Cancel", IDCANCEL, -1}}) {
         SCOPED_TRACE(c.what);
         auto choose = [](platform::Prompts& prompts) {
@@ -147,11 +145,9 @@ TEST(Win32Prompts, ChoiceOfAlternatives) {
 // The application's box shows the icon the framework's box would: a warning for OK, a question mark for
 // Yes/No, and the caller's own when it names one.
 TEST(Win32Prompts, MessageBoxIcons) {
-    struct Case {
-        unsigned style;
-        LPCWSTR icon;
-        WPARAM answer;
-    };
+    // clang-format off
+    struct Case { unsigned style; LPCWSTR icon; WPARAM answer; };
+    // clang-format on
     for (const Case& c : {Case{MB_OK, IDI_EXCLAMATION, IDOK}, Case{MB_YESNO, IDI_QUESTION, IDNO},
                           Case{MB_OK | MB_ICONINFORMATION, IDI_INFORMATION, IDOK}}) {
         SCOPED_TRACE(c.style);

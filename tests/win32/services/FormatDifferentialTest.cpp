@@ -110,12 +110,9 @@ const wchar_t* InterestingText(Generator& g) {
 
 // One conversion with random flags, width and precision, each possibly from the arguments.
 TEST(FormatDifferential, SingleConversionsMatchOnGeneratedSpecs) {
-    struct Conversion {
-        const wchar_t* letters;
-        const wchar_t* const* sizes;
-        size_t sizeCount;
-        Value::Kind kind;
-    };
+    // clang-format off
+    struct Conversion { const wchar_t* letters; const wchar_t* const* sizes; size_t sizeCount; Value::Kind kind; };
+    // clang-format on
     static const wchar_t* const integerSizes[] = {L"", L"l", L"ll", L"h", L"I64", L"I32"};
     static const wchar_t* const floatSizes[] = {L"", L"l", L"L"};
     static const wchar_t* const charSizes[] = {L"", L"l", L"w"};

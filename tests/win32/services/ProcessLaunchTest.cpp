@@ -15,6 +15,7 @@
 
 #include "script/ScriptCall.h"
 #include "services/MessageCatalog.h"
+#include "unit/Utf16.h"
 #include "win32/support/ChildPrograms.h"
 #include "win32/support/RealHostPlatform.h"
 
@@ -35,10 +36,8 @@ protected:
     LaunchTest() {
         auto& fake = platform.fake();
         fake.files().AddDirectory(L"C:\\Lang");
-        std::wstring text = L"\uFEFF62541\tcannot start\r\n62544\tnot idle\r\n62547\tno window\r\n";
         fake.files().AddFile(L"C:\\Lang\\Msg.txt",
-                             std::vector<uint8_t>(reinterpret_cast<const uint8_t*>(text.data()),
-                                                  reinterpret_cast<const uint8_t*>(text.data() + text.size())));
+                             Utf16Bytes(L"62541\tcannot start\r\n62544\tnot idle\r\n62547\tno window\r\n", true));
         messages.SetPath(L"C:\\Lang\\Msg.txt");
     }
     ~LaunchTest() override { CloseDropTargets(); }

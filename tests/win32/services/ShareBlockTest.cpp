@@ -4,12 +4,11 @@
 #include <gtest/gtest.h>
 #include <windows.h>
 
-#include <algorithm>
 #include <atomic>
-#include <cstring>
 #include <string>
 #include <thread>
 
+#include "e2e/support/HostHandshake.h"
 #include "win32/support/RealHostPlatform.h"
 
 namespace {
@@ -17,33 +16,7 @@ namespace {
 using Strings = std::vector<std::wstring>;
 
 // A host's block: the mapping, its view and its mutex, held while the object lives.
-class HostBlock {
-public:
-    HostBlock(int first, int second, DWORD sizeBytes, const std::wstring& text) : size_(sizeBytes) {
-        std::wstring name = ShareBlockName(first, second);
-        mapping_ = CreateFileMappingW(INVALID_HANDLE_VALUE, nullptr, PAGE_READWRITE, 0, sizeBytes, name.c_str());
-        mutex_ = CreateMutexW(nullptr, FALSE, (name + L"_Mutex").c_str());
-        if (mapping_) view_ = static_cast<wchar_t*>(MapViewOfFile(mapping_, FILE_MAP_ALL_ACCESS, 0, 0, sizeBytes));
-        if (view_) std::memcpy(view_, text.c_str(), std::min<size_t>(sizeBytes, text.size() * sizeof(wchar_t)));
-    }
-    ~HostBlock() {
-        if (view_) UnmapViewOfFile(view_);
-        if (mapping_) CloseHandle(mapping_);
-        if (mutex_) CloseHandle(mutex_);
-    }
-    HostBlock(const HostBlock&) = delete;
-    HostBlock& operator=(const HostBlock&) = delete;
-
-    bool Valid() const { return view_ != nullptr; }
-    HANDLE Mutex() const { return mutex_; }
-    std::wstring Units(size_t count) const { return std::wstring(view_, count); }
-
-private:
-    DWORD size_;
-    HANDLE mapping_ = nullptr;
-    HANDLE mutex_ = nullptr;
-    wchar_t* view_ = nullptr;
-};
+using HostBlock = e2e::ShareBlock;
 
 TEST(ShareBlockOnWindows, ReadsTheHostsBlockAndLeavesZerosWhereItsTabsWere) {
     struct Case {
@@ -73,7 +46,7 @@ TEST(ShareBlockOnWindows, ReadsTheHostsBlockAndLeavesZerosWhereItsTabsWere) {
         EXPECT_EQ(L"C:\\w", block.currentDir);
         EXPECT_EQ(c.firstList, block.firstList);
         EXPECT_EQ(c.secondList, block.secondList);
-        EXPECT_EQ(c.after, host.Units(c.after.size()));
+        EXPECT_EQ(c.after, host.Contents().substr(0, c.after.size()));
         EXPECT_TRUE(platform.fake().prompts().shown().empty());
     }
 }
@@ -101,11 +74,11 @@ TEST(ShareBlockOnWindows, WaitsForTheHostToLetGoOfTheMutex) {
     });
     Sleep(200);
     EXPECT_FALSE(done) << "read while the host held the mutex";
-    EXPECT_EQ(L"0\t0\t", host.Units(4));
+    EXPECT_EQ(L"0\t0\t", host.Contents().substr(0, 4));
     ReleaseMutex(host.Mutex());
     reader.join();
     EXPECT_TRUE(done);
-    EXPECT_EQ((std::wstring{L'0', 0, L'0', 0}), host.Units(4));
+    EXPECT_EQ((std::wstring{L'0', 0, L'0', 0}), host.Contents().substr(0, 4));
 }
 
 }  // namespace

@@ -7,9 +7,12 @@
 #include <string>
 #include <vector>
 
+#include "e2e/support/Files.h"
 #include "win32/support/RealHostPlatform.h"
 
 namespace testing_support {
+
+using e2e::Utf8;
 
 // The window class of DropTarget.exe.
 constexpr wchar_t kDropTargetClass[] = L"OptionTests.DropTarget";
@@ -28,24 +31,10 @@ inline std::wstring TempLog(const wchar_t* name) {
 
 inline std::vector<std::string> ReadLines(const std::wstring& path) {
     std::vector<std::string> lines;
-    HANDLE file = CreateFileW(path.c_str(), GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE,
-                              nullptr, OPEN_EXISTING, 0, nullptr);
-    if (file == INVALID_HANDLE_VALUE) return lines;
-    std::string text(1 << 16, '\0');
-    DWORD read = 0;
-    ReadFile(file, text.data(), static_cast<DWORD>(text.size()), &read, nullptr);
-    CloseHandle(file);
-    text.resize(read);
+    const std::string text = e2e::ReadFileBytes(path);
     for (size_t start = 0, end; (end = text.find('\n', start)) != std::string::npos; start = end + 1)
         lines.push_back(text.substr(start, end - start));
     return lines;
-}
-
-inline std::string Utf8(const std::wstring& text) {
-    int size = WideCharToMultiByte(CP_UTF8, 0, text.c_str(), -1, nullptr, 0, nullptr, nullptr);
-    std::string out(size - 1, '\0');
-    WideCharToMultiByte(CP_UTF8, 0, text.c_str(), -1, out.data(), size, nullptr, nullptr);
-    return out;
 }
 
 // Waits for a line that starts with prefix; gives the whole line, or an empty one on time-out.

@@ -22,6 +22,7 @@
 #include "resources/pages/PageIds.h"
 #include "settings/SettingsStore.h"
 #include "ui/TreeView.h"
+#include "unit/Utf16.h"
 #include "win32/ui/ScriptedDialog.h"
 
 namespace optiontest {
@@ -108,12 +109,7 @@ protected:
     // A dialog text file for the option dialog in a language other than the templates' own.
     void Translate(const std::wstring& text) {
         DirectWriteString(kDirectSettingsPath, L"NLS", L".en-US");
-        std::vector<uint8_t> bytes = {0xFF, 0xFE};
-        for (wchar_t unit : text) {
-            bytes.push_back(static_cast<uint8_t>(unit & 0xFF));
-            bytes.push_back(static_cast<uint8_t>(unit >> 8));
-        }
-        fake_.files().AddFile(L"C:\\Qor\\command\\Option\\.en-US\\Option\\159.txt", bytes);
+        fake_.files().AddFile(L"C:\\Qor\\command\\Option\\.en-US\\Option\\159.txt", Utf16Bytes(text, true));
     }
 
     platform::fake::FakePlatform fake_;

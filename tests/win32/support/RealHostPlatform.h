@@ -6,6 +6,7 @@
 
 #include <string>
 
+#include "e2e/support/Process.h"
 #include "platform/fake/FakePlatform.h"
 #include "platform/win32/Win32HostWindows.h"
 #include "platform/win32/Win32Processes.h"
@@ -51,12 +52,6 @@ inline void RegisterWindowClass(const wchar_t* name, WNDPROC procedure) {
     RegisterClassExW(&wc);
 }
 
-// The folder of the running test program, without a trailing backslash.
-inline std::wstring TestDirectory() {
-    wchar_t path[MAX_PATH];
-    DWORD length = GetModuleFileNameW(nullptr, path, MAX_PATH);
-    std::wstring text(path, length);
-    return text.substr(0, text.find_last_of(L'\\'));
-}
+using e2e::TestDirectory;
 
 }  // namespace testing_support

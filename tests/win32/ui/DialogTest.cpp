@@ -1,5 +1,5 @@
-// Life of a framework dialog: how a modal one ends, what reaches its handlers and what the sender
-// gets back, and a page inside a host dialog that owns Enter and Escape.
+// Life of a framework dialog: how a modal one ends, and what reaches its handlers and what the sender
+// gets back. (Enter and Escape in a page are tried in the option dialog itself.)
 #include "ui/Dialog.h"
 
 #include <gtest/gtest.h>
@@ -16,12 +16,7 @@ using testing_support::FrameworkTest;
 using testing_support::ScriptedDialog;
 using Seen = std::vector<std::wstring>;
 
-constexpr UINT kPageOK = 0x800A;
-constexpr UINT kPageCancel = 0x800B;
 constexpr UINT kStart = WM_APP + 1;  // posted by OnInitDialog: the test's actions begin
-// Posted after them: ends with 99 what nothing else ended, after twice going to the back of the queue
-// so that what the actions posted in turn comes first.
-constexpr UINT kFinish = WM_APP + 2;
 
 using DialogTest = FrameworkTest;
 
@@ -123,67 +118,6 @@ TEST_F(DialogTest, HandlersAnswerTheSenderAndTheirExceptionsStayInside) {
     dialog.DestroyWindow();
     EXPECT_FALSE(IsWindow(window));
     EXPECT_EQ(nullptr, dialog.hwnd());
-}
-
-// A page as the option dialog's pages are: Enter and Escape post to the dialog that holds it, which
-// notes what arrived.
-struct PageInHost {
-    ScriptedDialog host{IDD_FRAMEWORK_HOST};
-    ScriptedDialog page{IDD_FRAMEWORK_PAGE};
-    Seen hostGot;
-
-    PageInHost() {
-        page.ok = [this] { PostMessageW(host.hwnd(), kPageOK, 0, 0); };
-        page.cancel = [this] { PostMessageW(host.hwnd(), kPageCancel, 0, 0); };
-        page.command = [](int id, int code) { return id == IDC_FW_PAGE_BUTTON && code == BN_CLICKED; };
-        host.message = [this](UINT msg, WPARAM wParam, LPARAM) -> std::optional<LRESULT> {
-            if (msg == kPageOK) hostGot.push_back(L"page ok");
-            if (msg == kPageCancel) hostGot.push_back(L"page cancel");
-            if (msg == kFinish)
-                wParam < 2 ? (void)PostMessageW(host.hwnd(), kFinish, wParam + 1, 0) : host.EndDialog(99);
-            return msg == kPageOK || msg == kPageCancel || msg == kFinish ? std::optional<LRESULT>(1) : std::nullopt;
-        };
-    }
-
-    // Creates the page as a shown child of the host.
-    bool Show() {
-        if (!page.Create(host.hwnd())) return false;
-        ShowWindow(page.hwnd(), SW_SHOW);
-        return true;
-    }
-};
-
-TEST_F(DialogTest, EnterAndEscapeInAPageGoToThePage) {
-    // Keys pressed in turn while the host runs modally, each in a control of the page.
-    const struct {
-        int control;
-        WPARAM key;
-    } keys[] = {
-        {IDC_FW_PAGE_EDIT, VK_RETURN},    // the page's OnOK
-        {IDC_FW_PAGE_EDIT, VK_ESCAPE},    // the page's OnCancel
-        {IDC_FW_PAGE_BUTTON, VK_RETURN},  // a click on the focused button
-        {IDC_FW_PAGE_NOTES, VK_RETURN},   // a multi-line edit keeps its Enter
-    };
-    PageInHost dialogs;
-    dialogs.host.init = [&] {
-        ASSERT_TRUE(dialogs.Show());
-        PostMessageW(dialogs.host.hwnd(), kStart, 0, 0);
-    };
-    auto hostMessage = dialogs.host.message;
-    dialogs.host.message = [&](UINT msg, WPARAM wParam, LPARAM lParam) -> std::optional<LRESULT> {
-        if (msg != kStart) return hostMessage(msg, wParam, lParam);
-        for (const auto& k : keys) {
-            HWND control = dialogs.page.Item(k.control);
-            SetFocus(control);
-            PostMessageW(control, WM_KEYDOWN, k.key, 1);
-        }
-        PostMessageW(dialogs.host.hwnd(), kFinish, 0, 0);
-        return 0;
-    };
-    EXPECT_EQ(99, dialogs.host.DoModal(nullptr));
-    EXPECT_EQ((Seen{L"init", L"ok", L"cancel", L"command 2202 0"}), dialogs.page.seen);
-    EXPECT_EQ((Seen{L"page ok", L"page cancel"}), dialogs.hostGot);
-    EXPECT_EQ((Seen{L"init"}), dialogs.host.seen) << "the host's own OnOK and OnCancel are not involved";
 }
 
 }  // namespace

@@ -92,11 +92,9 @@ protected:
 };
 
 TEST_F(HostPlacementTest, EachModePlacesTheDialogAndBringsItForward) {
-    struct Case {
-        int mode;
-        bool topmost;
-        bool toolWindow;
-    };
+    // clang-format off
+    struct Case { int mode; bool topmost; bool toolWindow; };
+    // clang-format on
     const Case cases[] = {{0, false, false}, {1, true, false}, {2, true, true}, {4, false, true}, {7, false, false}};
     ui::PrepareOptionDialog(dialog_, 0);
     EXPECT_EQ((std::vector<LONG>{5, 7, 300, 200}), Place(dialog_)) << "no host: no centring";

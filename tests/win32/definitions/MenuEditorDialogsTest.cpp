@@ -1,0 +1,135 @@
+// The menu page, the menu editor and its line dialog with their real templates over fake files and
+// prompts: the page lists the menu folder and stores its edit mode; the line dialog follows the
+// keyword chosen and fills a file as a macro path; the editor checks its rows, copies and pastes
+// one, and saves the list with the indentation the host reads.
+#include <gtest/gtest.h>
+#include <windows.h>
+
+#include <string>
+#include <tuple>
+#include <vector>
+
+#include "definitions/CDlgMenuCommand.h"
+#include "definitions/CDlgMenuEdit.h"
+#include "ui/ListView.h"
+#include "unit/Utf16.h"
+#include "win32/support/OptionDialogFixture.h"
+
+namespace {
+
+using namespace optiontest;
+using platform::fake::ShownMessage;
+
+void Click(HWND dialog, int id) {
+    SendMessageW(dialog, WM_COMMAND, MAKEWPARAM(id, BN_CLICKED), reinterpret_cast<LPARAM>(GetDlgItem(dialog, id)));
+}
+
+// Handles what the dialogs posted to themselves.
+void Pump() {
+    MSG msg;
+    while (PeekMessageW(&msg, nullptr, 0, 0, PM_REMOVE)) DispatchMessageW(&msg);
+}
+
+std::vector<bool> Enabled(HWND dialog, std::initializer_list<int> ids) {
+    std::vector<bool> enabled;
+    for (int id : ids) enabled.push_back(IsWindowEnabled(GetDlgItem(dialog, id)) != FALSE);
+    return enabled;
+}
+
+using MenuEditorDialogsTest = OptionDialogFixture;
+
+TEST_F(MenuEditorDialogsTest, ThePageListsTheMenuFolderOpensAFileAndStoresItsMode) {
+    constexpr platform::WindowRef kHost = 0x1234;
+    fake_.windows().AddHostWindow(kHost);
+    const std::wstring folder = app_.directories.UserDirectory() + L"Menu\\";
+    fake_.files().AddFile(folder + L"Main.txt", Utf16Bytes(L"Main\tmenu\r\nPOPUP\tA\r\n", true));
+    SetStart(22);
+    DirectWriteInt(PageKey(), L"MenuDefMode", 1);
+    COptionDlg dialog(app_);
+    ASSERT_TRUE(dialog.Create(nullptr));
+    HWND page = dialog.Page(22)->hwnd();
+    ui::ListView list(GetDlgItem(page, 1601));
+    ASSERT_EQ(1, list.GetItemCount());
+    EXPECT_EQ(L"Main menu", list.GetItemText(0, 1));
+    EXPECT_EQ(1, SendDlgItemMessageW(page, 1151, CB_GETCURSEL, 0, 0));
+
+    SendDlgItemMessageW(page, 1151, CB_SETCURSEL, 0, 0);
+    list.SelectRow(0);
+    Click(page, 1301);
+    ASSERT_EQ(1u, fake_.processes().shellRequests().size());
+    EXPECT_EQ(folder + L"Main.txt", fake_.processes().shellRequests()[0].file);
+
+    SendDlgItemMessageW(page, 1151, CB_SETCURSEL, 2, 0);
+    Click(dialog.hwnd(), 1301);
+    EXPECT_EQ(2, DirectReadInt(PageKey(), L"MenuDefMode", -1));
+    std::vector<uint16_t> codes;
+    for (const platform::fake::SentCommand& sent : fake_.windows().commands()) codes.push_back(sent.id);
+    EXPECT_EQ((std::vector<uint16_t>{48999, 49018, 49099}), codes);
+}
+
+TEST_F(MenuEditorDialogsTest, TheLineDialogFollowsTheKeywordAndFillsAFileAsAMacroPath) {
+    const std::wstring user = app_.directories.UserDirectory();
+    CDlgMenuCommand line(app_);
+    line.command = L"<Comment>";
+    ASSERT_TRUE(line.Create(nullptr));
+    HWND dialog = line.hwnd();
+    const std::initializer_list<int> controls = {1001, 1002, 1301, 1302, 1303, 1304};
+    EXPECT_EQ((std::vector<bool>{true, true, false, false, false, false}), Enabled(dialog, controls));
+    EXPECT_EQ(24, SendDlgItemMessageW(dialog, 1151, CB_GETCOUNT, 0, 0));
+
+    // The choice arrives before the box's text changes: the dialog updates itself a message later.
+    SendDlgItemMessageW(dialog, 1151, CB_SETCURSEL, 6, 0);
+    SendMessageW(dialog, WM_COMMAND, MAKEWPARAM(1151, CBN_SELCHANGE), 0);
+    Pump();
+    EXPECT_EQ((std::vector<bool>{true, true, false, true, false, true}), Enabled(dialog, controls));
+    EXPECT_EQ(std::make_tuple(std::wstring(L"Menu text"), std::wstring(L"File Name"),
+                              std::wstring(L"Execute the script file.")),
+              std::make_tuple(TextOf(GetDlgItem(dialog, 1401)), TextOf(GetDlgItem(dialog, 1402)),
+                              TextOf(GetDlgItem(dialog, 1403))));
+
+    SetDlgItemTextW(dialog, 1001, L"Run");
+    SetDlgItemTextW(dialog, 1002, L"%User_dir%Old.txt");
+    fake_.prompts().ChooseFolder({true, user + L"Script\\Run.txt"});
+    Click(dialog, 1302);
+    ASSERT_EQ(1u, fake_.prompts().browsed().size());
+    EXPECT_EQ((platform::fake::FolderBrowse{L"File open", user + L"Old.txt"}), fake_.prompts().browsed()[0]);
+    EXPECT_EQ(L"%Script_dir%Run.txt", TextOf(GetDlgItem(dialog, 1002)));
+
+    Click(dialog, IDOK);
+    EXPECT_EQ(std::make_tuple(std::wstring(L"SCRIPT"), std::wstring(L"Run"), std::wstring(L"%Script_dir%Run.txt")),
+              std::make_tuple(line.command, line.text, line.target));
+}
+
+TEST_F(MenuEditorDialogsTest, TheEditorChecksCopiesAndSavesItsRows) {
+    const std::wstring path = app_.directories.UserDirectory() + L"Menu\\Test.txt";
+    fake_.files().AddFile(path, Utf16Bytes(L"Test menu\r\nMENUITEM\tGone\t65000\r\nPOSITION\tPARENT\r\n"
+                                           L"\r\npopup\tSub\r\n\tSCRIPT\tRun\t%User_dir%None.txt\r\nEnd\r\n",
+                                           true));
+    CDlgMenuEdit editor(app_);
+    editor.filePath = path;
+    ASSERT_TRUE(editor.Create(nullptr));
+    ui::ListView list(editor.Item(1601));
+    ASSERT_EQ(7, list.GetItemCount());
+
+    Click(editor.hwnd(), 1310);
+    std::vector<std::wstring> checks;
+    for (int row = 0; row < list.GetItemCount(); ++row) checks.push_back(list.GetItemText(row, 3));
+    EXPECT_EQ(
+        (std::vector<std::wstring>{L"", L"Cannot get command string.", L"Syntax error(DESKTOP/PAERNT/MOUSE/MAIN)", L"",
+                                   L"", L"Not found:" + app_.directories.UserDirectory() + L"None.txt", L""}),
+        checks);
+
+    list.SelectRow(5);
+    Click(editor.hwnd(), 1313);
+    Click(editor.hwnd(), 1314);
+    Click(editor.hwnd(), 1304);
+    std::vector<uint8_t> saved;
+    ASSERT_TRUE(fake_.files().ReadFile(path, saved));
+    EXPECT_EQ(Utf16Bytes(L"Test menu\r\nMENUITEM\tGone\t65000\r\nPOSITION\tPARENT\r\n\r\npopup\tSub\r\n"
+                         L"\tSCRIPT\tRun\t%User_dir%None.txt\r\n\tSCRIPT\tRun\t%User_dir%None.txt\r\nEnd\r\n",
+                         true),
+              saved);
+    EXPECT_EQ((ShownMessage{L"I have saved the file.\n" + path, 0x40}), fake_.prompts().shown().back());
+}
+
+}  // namespace
