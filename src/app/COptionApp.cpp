@@ -72,13 +72,20 @@ void COptionApp::OpenOptionDialog() {
     dialog.DoModal(reinterpret_cast<HWND>(HostParent(app_->host.windowMode)));
 }
 
-// The editors of the other switches take their place here as they are built; until then such a
-// target ends the run quietly.
+// The definition editors of the switches, each the program's one dialog. A switch whose editor is
+// not there ends the run quietly.
 void COptionApp::OpenEditor(int switchNumber, const std::wstring& file) {
-    if (!app_ || switchNumber != kSwitchMenu) return;
-    CDlgMenuEdit editor(*app_);
-    editor.filePath = file;
-    editor.DoModal(nullptr);
+    if (!app_) return;
+    switch (switchNumber) {
+        case kSwitchMenu: {
+            CDlgMenuEdit editor(*app_);
+            editor.filePath = file;
+            editor.DoModal(nullptr);
+            break;
+        }
+        default:
+            break;
+    }
 }
 
 void COptionApp::WriteKeyLists() {

@@ -1,5 +1,5 @@
-// Resource identifiers of the definition files: the menu page, the menu editor and its line dialog,
-// and the macro helper.
+// Resource identifiers of the definition files: the pages of menus, scripts and commands, their
+// editors, and the macro helper.
 #pragma once
 
 // The menu page: the files of the user's menu folder.
@@ -53,3 +53,13 @@
 #define IDC_MACRO_HELPER_STATUS_AREA 1206
 #define IDC_MACRO_HELPER_LAST_TAB 1206
 #define IDC_MACRO_HELPER_LIST 1601
+
+// The script page and the run definition editors.
+#define IDD_OPTION_EX_TOOL 162
+#define IDD_RUN_SET 190
+#define IDD_EX_RUN_SET 191
+
+// The command definition page, its editor, and the page of the external commands' common behaviour.
+#define IDD_OPTION_CMD_DEF 164
+#define IDD_DEF_CMD_SET 192
+#define IDD_OPTION_EX_CMD 197
