@@ -7,6 +7,7 @@
 
 #include <commctrl.h>
 
+#include <cwctype>
 #include <filesystem>
 #include <string>
 
@@ -35,55 +36,44 @@ std::wstring Text(HWND control) {
     return text;
 }
 
+// The samples are in the saved form already: what a save changes is the edit alone.
 TEST(RunDefinitionEditor, ASavedChangeIsWhatTheHostReadsAndCancelWritesNothing) {
     reg::ScopedKey appInfo(kAppInfo);
     reg::WriteDword(kAppInfo, L"Message", 0xFFFFFFFF);
     e2e::FakeHost host;
     ASSERT_TRUE(host.Window());
-    const std::wstring run =
-        L"\uFEFFCommandlineOption=?SelFile? /p\r\nOpenMode=1\r\nMultiCommandMode=0\r\n"
-        L"ShiftSilentMode=1\r\nBootDir=\r\nBootMode=5\r\nRun=C:\\Windows\\notepad.exe\r\n";
-    const std::wstring exRun =
-        L"\uFEFFCommandLineOption=?SelFile?\r\nMultiCommandMode=0\r\nShiftSilentMode=0\r\nBootDir=\r\nBootMode=0\r\n"
-        L"OpenMode=0\r\nFilter=txt,log,ini\r\nExRun=C:\\Windows\\notepad.exe\r\nFilter=bmp,png\r\n"
-        L"ExRun=C:\\Windows\\system32\\mspaint.exe\r\nFilter=\r\nExRun=C:\\Windows\\explorer.exe|C:\\Windows\\notepad."
-        L"exe\r\n"
-        L"Filter=md\r\nExRun=New Command\r\n";
-    // clang-format off
-    struct Case { const wchar_t* switchText; const wchar_t* sample; const wchar_t* title; int button; const wchar_t* saved; };
-    const Case cases[] = {
-        {L"/R", L"Notepad.txt", L"スクリプト編集", IDOK, run.c_str()},
-        {L"/r", L"Notepad.txt", L"スクリプト編集", IDCANCEL, nullptr},
-        {L"/E", L"OpenByType.txt", L"拡張子連動コマンド編集", IDOK, exRun.c_str()},
-        {L"/e", L"OpenByType.txt", L"拡張子連動コマンド編集", IDCANCEL, nullptr},
-    };
-    // clang-format on
     const fs::path folder = fs::temp_directory_path() / ("RunDefinitionEditor" + std::to_string(GetCurrentProcessId()));
-    for (const Case& c : cases) {
-        SCOPED_TRACE(std::wstring(c.switchText) + L" " + c.sample);
+    for (const wchar_t* switchText : {L"/R", L"/r", L"/E", L"/e"}) {
+        SCOPED_TRACE(switchText);
+        const bool run = std::towupper(switchText[1]) == L'R';
+        const bool save = std::iswupper(switchText[1]);
         fs::remove_all(folder);
         fs::create_directories(folder);
-        const fs::path file = folder / c.sample;
-        fs::copy_file(fs::path(e2e::StageRoot()) / L"User" / L"Script" / c.sample, file);
+        const fs::path file = folder / (run ? L"Notepad.txt" : L"OpenByType.txt");
+        fs::copy_file(fs::path(e2e::StageRoot()) / L"User" / L"Script" / file.filename(), file);
         const std::string before = e2e::ReadFileBytes(file.wstring());
+        std::wstring expected = e2e::ReadUtf16File(file.wstring());
         // Opened by a host in window mode 3, the editor is owned by the host's window.
-        e2e::Process option = e2e::StartOption({c.switchText, file.wstring()},
+        e2e::Process option = e2e::StartOption({switchText, file.wstring()},
                                                {e2e::HostSwitch(e2e::SwitchString(3, 0, 0, 0, 0, L"none"))});
         ASSERT_TRUE(option);
-        HWND editor = e2e::FindVisibleWindow(option.Id(), c.title);
+        HWND editor = e2e::FindVisibleWindow(option.Id(), run ? L"スクリプト編集" : L"拡張子連動コマンド編集");
         ASSERT_NE(nullptr, editor);
         EXPECT_EQ(host.Window(), GetWindow(editor, GW_OWNER));
-        if (c.switchText[1] == L'R' || c.switchText[1] == L'r') {
+        if (run) {
             EXPECT_EQ(L"C:\\Windows\\notepad.exe", Text(GetDlgItem(editor, 1052)));
             SendMessageW(GetDlgItem(editor, 1001), WM_SETTEXT, 0, reinterpret_cast<LPARAM>(L"?SelFile? /p"));
             SendMessageW(GetDlgItem(editor, 1152), CB_SETCURSEL, 5, 0);
+            expected.replace(expected.find(L"?SelFile?"), 9, L"?SelFile? /p");
+            expected.replace(expected.find(L"BootMode=0"), 10, L"BootMode=5");
         } else {
             EXPECT_EQ(3, SendMessageW(GetDlgItem(editor, 1601), LVM_GETITEMCOUNT, 0, 0));
             SendMessageW(editor, WM_COMMAND, MAKEWPARAM(1305, BN_CLICKED), 0);
             SendMessageW(GetDlgItem(editor, 1001), WM_SETTEXT, 0, reinterpret_cast<LPARAM>(L"md"));
+            expected += L"Filter=md\r\nExRun=New Command\r\n";
         }
-        Post(editor, c.button);
-        if (c.button == IDOK) {
+        Post(editor, save ? IDOK : IDCANCEL);
+        if (save) {
             HWND question = e2e::FindWindowOf(option.Id(), [&](HWND window) {
                 return window != editor && IsWindowVisible(window) && GetWindow(window, GW_OWNER) == editor;
             });
@@ -91,8 +81,8 @@ TEST(RunDefinitionEditor, ASavedChangeIsWhatTheHostReadsAndCancelWritesNothing) 
             e2e::Answer(question, IDYES);
         }
         EXPECT_EQ(0u, option.WaitOrKill());
-        if (c.saved)
-            EXPECT_EQ(c.saved, e2e::ReadUtf16File(file.wstring()));
+        if (save)
+            EXPECT_EQ(expected, e2e::ReadUtf16File(file.wstring()));
         else
             EXPECT_EQ(before, e2e::ReadFileBytes(file.wstring()));
     }
