@@ -34,6 +34,7 @@ std::optional<LRESULT> CDlgExRunSet::OnMessage(UINT message, WPARAM wParam, LPAR
 bool CDlgExRunSet::OnInitDialog() {
     const bool focusFirst = ui::Dialog::OnInitDialog();
     SetDlgItemTextW(hwnd(), IDC_EX_RUN_SET_PATH, filePath.c_str());
+    commandBrowse_.Attach(hwnd(), IDC_EX_RUN_SET_COMMAND, runset::FileChooser());
     list_ = ui::ListView(Item(IDC_EX_RUN_SET_LIST));
     list_.SetExtendedStyle(LVS_EX_FULLROWSELECT, LVS_EX_FULLROWSELECT);
     list_.InsertColumn(kFilterColumn, L"Extension", 180);

@@ -5,6 +5,7 @@
 
 #include <string>
 
+#include "ui/BrowseEdit.h"
 #include "ui/Dialog.h"
 #include "ui/ListView.h"
 
@@ -35,6 +36,7 @@ private:
 
     AppServices& app_;
     ui::ListView list_;
+    ui::BrowseEdit commandBrowse_;
     std::wstring filter_;
     std::wstring command_;
     // Set while the edits are filled from a row, so that filling them does not write back.

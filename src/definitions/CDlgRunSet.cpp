@@ -53,6 +53,27 @@ void TellCannotOpen(const std::wstring& path) {
     platform::Current().prompts.ShowMessage(L"Cannot open " + path, platform::kStyleOk);
 }
 
+namespace {
+
+std::optional<std::wstring> Chosen(const platform::FolderChoice& choice) {
+    if (!choice.confirmed || choice.path.empty()) return std::nullopt;
+    return choice.path;
+}
+
+}  // namespace
+
+ui::BrowseEdit::Browse FolderChooser(AppServices& app) {
+    return [&app](const std::wstring& current) {
+        return Chosen(platform::Current().prompts.BrowseForFolder(app.messages.Get(kMsgFolderBrowserTitle), current));
+    };
+}
+
+ui::BrowseEdit::Browse FileChooser() {
+    return [](const std::wstring& current) {
+        return Chosen(platform::Current().prompts.ChooseFileToOpen(L"File open", L"All files(*.*)|*.*|", current));
+    };
+}
+
 }  // namespace runset
 
 CDlgRunSet::CDlgRunSet(AppServices& app) : ui::Dialog(IDD_RUN_SET), app_(app) {}
@@ -70,6 +91,8 @@ bool CDlgRunSet::OnInitDialog() {
     if (!ReadRunDefinition(filePath, definition_)) runset::TellCannotOpen(filePath);
     const bool focusFirst = ui::Dialog::OnInitDialog();
     SetDlgItemTextW(hwnd(), IDC_RUN_SET_PATH, filePath.c_str());
+    bootDir_.Attach(hwnd(), IDC_RUN_SET_BOOT_DIR, runset::FolderChooser(app_));
+    program_.Attach(hwnd(), IDC_RUN_SET_RUN, runset::FileChooser());
     ui::LocaliseDialog(hwnd(), templateId(), app_.dialogLanguage);
     if (definition_.run.empty() && !runset::KeepEditingWithout(app_, L"Run")) EndDialog(IDCANCEL);
     return focusFirst;

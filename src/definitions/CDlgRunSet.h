@@ -8,6 +8,7 @@
 #include <string>
 
 #include "definitions/RunDefinition.h"
+#include "ui/BrowseEdit.h"
 #include "ui/Dialog.h"
 
 struct AppServices;
@@ -29,6 +30,8 @@ protected:
 private:
     AppServices& app_;
     RunDefinition definition_;
+    ui::BrowseEdit bootDir_;
+    ui::BrowseEdit program_;
 };
 
 // What both definition editors share.
@@ -45,5 +48,8 @@ bool KeepEditingWithout(AppServices& app, const wchar_t* word);
 bool ConfirmAndSave(AppServices& app, uint16_t confirmation, const std::wstring& path,
                     const std::function<bool()>& write);
 void TellCannotOpen(const std::wstring& path);
+// What the browse buttons of the path edits ask: a folder, or an existing file.
+ui::BrowseEdit::Browse FolderChooser(AppServices& app);
+ui::BrowseEdit::Browse FileChooser();
 
 }  // namespace runset

@@ -74,6 +74,10 @@ TEST_F(RunDefinitionDialogsTest, TheRunEditorShowsTheFileRefusesAnUnknownModeAnd
     SendDlgItemMessageW(dialog, 1151, CB_SETCURSEL, 2, 0);
     Click(dialog, 1305);
     EXPECT_EQ(L"%App_Dir%Tools\\x.exe /a=b", TextOf(GetDlgItem(dialog, 1052)));
+    // Alt+Down in the folder's edit browses for a folder, starting at what the edit holds.
+    fake_.prompts().ChooseFolder({true, L"D:\\Work"});
+    SendDlgItemMessageW(dialog, 1051, WM_SYSKEYDOWN, VK_DOWN, 1 << 29);
+    EXPECT_EQ(L"1", fake_.prompts().browsed().at(0).start);
     app_.store.Message = -1;
     fake_.prompts().Answer(platform::kAnswerNo);
     Click(dialog, IDOK);
@@ -81,7 +85,7 @@ TEST_F(RunDefinitionDialogsTest, TheRunEditorShowsTheFileRefusesAnUnknownModeAnd
     fake_.prompts().Answer(platform::kAnswerYes);
     Click(dialog, IDOK);
     EXPECT_EQ(
-        L"\uFEFFCommandlineOption=\r\nOpenMode=2\r\nMultiCommandMode=1\r\nShiftSilentMode=0\r\nBootDir=1\r\n"
+        L"\uFEFFCommandlineOption=\r\nOpenMode=2\r\nMultiCommandMode=1\r\nShiftSilentMode=0\r\nBootDir=D:\\Work\r\n"
         L"BootMode=4\r\nRun=%App_Dir%Tools\\x.exe /a=b\r\n",
         File(L"Run.txt"));
 }
@@ -138,7 +142,13 @@ TEST_F(RunDefinitionDialogsTest, TheExtensionEditorEditsItsRowsInPlaceAndSavesTh
     ASSERT_EQ(4, list.GetItemCount());
     EXPECT_EQ(3, list.GetNextItem(-1, LVNI_FOCUSED | LVNI_SELECTED));
     EXPECT_EQ(L"New Command", TextOf(GetDlgItem(dialog, 1051)));
-    SetDlgItemTextW(dialog, 1051, L"d.exe|e.exe");
+    // A click on the command's browse button: the file chosen goes into the row.
+    RECT text{};
+    GetClientRect(GetDlgItem(dialog, 1051), &text);
+    POINT button{text.right + 3, text.bottom / 2};
+    ClientToScreen(GetDlgItem(dialog, 1051), &button);
+    fake_.prompts().ChooseFolder({true, L"d.exe|e.exe"});
+    SendDlgItemMessageW(dialog, 1051, WM_NCLBUTTONDOWN, HTBORDER, MAKELPARAM(button.x, button.y));
     Click(dialog, 1302);
     Click(dialog, 1302);
     EXPECT_EQ(1, list.GetNextItem(-1, LVNI_FOCUSED));
