@@ -7,6 +7,7 @@
 #include "definitions/CDlgRunSet.h"
 #include "definitions/RunDefinition.h"
 #include "resources/definitions/DefinitionIds.h"
+#include "services/MessageIds.h"
 #include "ui/ControlText.h"
 #include "ui/DataExchange.h"
 #include "ui/LocaliseDialog.h"
@@ -14,7 +15,8 @@
 namespace {
 
 constexpr const wchar_t* kHelpPage = L"7.Option/4.Interface/sub/01.html";
-constexpr uint16_t kConfirmSave = 63313;
+// The seventh of the confirmations: saving an extension-run definition.
+constexpr uint16_t kConfirmSave = kFirstConfirmation + 2 * 6;
 constexpr int kFilterLimit = 250;
 constexpr int kFilterColumn = 0;
 constexpr int kCommandColumn = 1;

@@ -15,7 +15,8 @@
 namespace {
 
 constexpr const wchar_t* kHelpPage = L"7.Option/4.Interface/sub/03.html";
-constexpr uint16_t kConfirmSave = 63311;
+// The sixth of the confirmations: saving a run definition.
+constexpr uint16_t kConfirmSave = kFirstConfirmation + 2 * 5;
 constexpr int kCommandLineLimit = 250;
 constexpr int32_t kLastOpenMode = 4;
 
