@@ -12,7 +12,9 @@
 #include "app/Startup.h"
 #include "bindings/COptionKeySetting.h"
 #include "bindings/KeyListWriter.h"
+#include "definitions/CDlgExRunSet.h"
 #include "definitions/CDlgMenuEdit.h"
+#include "definitions/CDlgRunSet.h"
 #include "platform/win32/Win32Platform.h"
 #include "services/HostHandshake.h"
 
@@ -76,7 +78,21 @@ void COptionApp::OpenOptionDialog() {
 // not there ends the run quietly.
 void COptionApp::OpenEditor(int switchNumber, const std::wstring& file) {
     if (!app_) return;
+    // In mode 3 the host's window owns the editor; the menu editor never has an owner.
+    const HWND owner = reinterpret_cast<HWND>(HostParent(app_->host.windowMode));
     switch (switchNumber) {
+        case kSwitchExRun: {
+            CDlgExRunSet editor(*app_);
+            editor.filePath = file;
+            editor.DoModal(owner);
+            break;
+        }
+        case kSwitchRun: {
+            CDlgRunSet editor(*app_);
+            editor.filePath = file;
+            editor.DoModal(owner);
+            break;
+        }
         case kSwitchMenu: {
             CDlgMenuEdit editor(*app_);
             editor.filePath = file;

@@ -5,6 +5,7 @@
 
 #include "app/COptionDlg.h"
 #include "bindings/COptionKeySetDlg.h"
+#include "definitions/COptionExToolDlg.h"
 #include "definitions/COptionMenuDlg.h"
 #include "pages/COptionAppInfoDlg.h"
 #include "pages/COptionCommonUIDlg.h"
@@ -38,6 +39,7 @@ const std::vector<PageClass>& PageClasses() {
         {2, &Make<COptionKeySetDlg>},
         {5, &Make<COptionOtherDlg>},
         {20, &Make<COptionAppInfoDlg>},
+        {21, &Make<COptionExToolDlg>},
         {22, &Make<COptionMenuDlg>},
         {24, &Make<COptionCommonUIDlg>},
         {30, &Make<COptionNetworkDlg>},

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -13,4 +14,11 @@ inline std::vector<uint8_t> Utf16Bytes(std::wstring_view text, bool byteOrderMar
         bytes.push_back(static_cast<uint8_t>((unit >> 8) & 0xFF));
     }
     return bytes;
+}
+
+// The other way: the units of a file's bytes as text, byte order mark included.
+inline std::wstring Utf16Text(const std::vector<uint8_t>& bytes) {
+    std::wstring text;
+    for (size_t at = 0; at + 1 < bytes.size(); at += 2) text += static_cast<wchar_t>(bytes[at] | (bytes[at + 1] << 8));
+    return text;
 }

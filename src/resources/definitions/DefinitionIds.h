@@ -56,8 +56,44 @@
 
 // The script page and the run definition editors.
 #define IDD_OPTION_EX_TOOL 162
+#define IDC_EX_TOOL_MODE 1151
+#define IDC_EX_TOOL_SHOW_ALL 1251
+#define IDC_EX_TOOL_EDITOR 1301
+#define IDC_EX_TOOL_BINARY_EDITOR 1302
+#define IDC_EX_TOOL_VIEWER 1303
+#define IDC_EX_TOOL_EDIT 1304
+#define IDC_EX_TOOL_OPEN_FOLDER 1305
+#define IDC_EX_TOOL_GROUP 1401
+#define IDC_EX_TOOL_EXPLANATION 1402
+#define IDC_EX_TOOL_LIST 1601
+
+// One run definition.
 #define IDD_RUN_SET 190
+#define IDC_RUN_SET_COMMAND_LINE 1001
+#define IDC_RUN_SET_BOOT_DIR 1051
+#define IDC_RUN_SET_RUN 1052
+#define IDC_RUN_SET_OPEN_MODE 1151
+#define IDC_RUN_SET_BOOT_MODE 1152
+#define IDC_RUN_SET_MULTI 1251
+#define IDC_RUN_SET_SHIFT_SILENT 1252
+#define IDC_RUN_SET_MACRO 1302
+#define IDC_RUN_SET_COMMAND_LINE_TO_MACRO 1303
+#define IDC_RUN_SET_BOOT_DIR_TO_MACRO 1304
+#define IDC_RUN_SET_RUN_TO_MACRO 1305
+#define IDC_RUN_SET_PATH 1401
+
+// One extension-run definition.
 #define IDD_EX_RUN_SET 191
+#define IDC_EX_RUN_SET_FILTER 1001
+#define IDC_EX_RUN_SET_COMMAND 1051
+#define IDC_EX_RUN_SET_UP 1302
+#define IDC_EX_RUN_SET_DOWN 1303
+#define IDC_EX_RUN_SET_DELETE 1304
+#define IDC_EX_RUN_SET_ADD 1305
+#define IDC_EX_RUN_SET_MACRO 1306
+#define IDC_EX_RUN_SET_COMMAND_TO_MACRO 1307
+#define IDC_EX_RUN_SET_PATH 1401
+#define IDC_EX_RUN_SET_LIST 1601
 
 // The command definition page, its editor, and the page of the external commands' common behaviour.
 #define IDD_OPTION_CMD_DEF 164

@@ -1,0 +1,113 @@
+// The run definition editors of "/R" and "/E" on the sample files, worked from another process: a
+// change saved with OK is on disk in the form the host reads, Cancel leaves the file byte for byte;
+// and the script page's edit mode, applied, is stored while the host hears nothing to reread.
+#include <gtest/gtest.h>
+
+#include <windows.h>
+
+#include <commctrl.h>
+
+#include <cwctype>
+#include <filesystem>
+#include <string>
+
+#include "support/FakeHostProcess.h"
+#include "support/Files.h"
+#include "support/HostHandshake.h"
+#include "support/OptionWindow.h"
+#include "support/Process.h"
+#include "support/Registry.h"
+
+namespace {
+
+namespace fs = std::filesystem;
+namespace reg = e2e::registry;
+
+constexpr wchar_t kOptionPage[] = L"Software\\Tarnwick\\QOR\\Command\\Option\\OptionPage";
+constexpr wchar_t kAppInfo[] = L"Software\\Tarnwick\\QOR\\Main001\\AppInfo";
+
+void Post(HWND window, int id) {
+    PostMessageW(window, WM_COMMAND, MAKEWPARAM(id, BN_CLICKED), 0);
+}
+
+std::wstring Text(HWND control) {
+    wchar_t text[512] = {};
+    SendMessageW(control, WM_GETTEXT, 512, reinterpret_cast<LPARAM>(text));
+    return text;
+}
+
+// The samples are in the saved form already: what a save changes is the edit alone.
+TEST(RunDefinitionEditor, ASavedChangeIsWhatTheHostReadsAndCancelWritesNothing) {
+    reg::ScopedKey appInfo(kAppInfo);
+    reg::WriteDword(kAppInfo, L"Message", 0xFFFFFFFF);
+    e2e::FakeHost host;
+    ASSERT_TRUE(host.Window());
+    const fs::path folder = fs::temp_directory_path() / ("RunDefinitionEditor" + std::to_string(GetCurrentProcessId()));
+    for (const wchar_t* switchText : {L"/R", L"/r", L"/E", L"/e"}) {
+        SCOPED_TRACE(switchText);
+        const bool run = std::towupper(switchText[1]) == L'R';
+        const bool save = std::iswupper(switchText[1]);
+        fs::remove_all(folder);
+        fs::create_directories(folder);
+        const fs::path file = folder / (run ? L"Notepad.txt" : L"OpenByType.txt");
+        fs::copy_file(fs::path(e2e::StageRoot()) / L"User" / L"Script" / file.filename(), file);
+        const std::string before = e2e::ReadFileBytes(file.wstring());
+        std::wstring expected = e2e::ReadUtf16File(file.wstring());
+        // Opened by a host in window mode 3, the editor is owned by the host's window.
+        e2e::Process option = e2e::StartOption({switchText, file.wstring()},
+                                               {e2e::HostSwitch(e2e::SwitchString(3, 0, 0, 0, 0, L"none"))});
+        ASSERT_TRUE(option);
+        HWND editor = e2e::FindVisibleWindow(option.Id(), run ? L"スクリプト編集" : L"拡張子連動コマンド編集");
+        ASSERT_NE(nullptr, editor);
+        EXPECT_EQ(host.Window(), GetWindow(editor, GW_OWNER));
+        if (run) {
+            EXPECT_EQ(L"C:\\Windows\\notepad.exe", Text(GetDlgItem(editor, 1052)));
+            SendMessageW(GetDlgItem(editor, 1001), WM_SETTEXT, 0, reinterpret_cast<LPARAM>(L"?SelFile? /p"));
+            SendMessageW(GetDlgItem(editor, 1152), CB_SETCURSEL, 5, 0);
+            expected.replace(expected.find(L"?SelFile?"), 9, L"?SelFile? /p");
+            expected.replace(expected.find(L"BootMode=0"), 10, L"BootMode=5");
+        } else {
+            EXPECT_EQ(3, SendMessageW(GetDlgItem(editor, 1601), LVM_GETITEMCOUNT, 0, 0));
+            SendMessageW(editor, WM_COMMAND, MAKEWPARAM(1305, BN_CLICKED), 0);
+            SendMessageW(GetDlgItem(editor, 1001), WM_SETTEXT, 0, reinterpret_cast<LPARAM>(L"md"));
+            expected += L"Filter=md\r\nExRun=New Command\r\n";
+        }
+        Post(editor, save ? IDOK : IDCANCEL);
+        if (save) {
+            HWND question = e2e::FindWindowOf(option.Id(), [&](HWND window) {
+                return window != editor && IsWindowVisible(window) && GetWindow(window, GW_OWNER) == editor;
+            });
+            ASSERT_NE(nullptr, question) << "saving is confirmed first";
+            e2e::Answer(question, IDYES);
+        }
+        EXPECT_EQ(0u, option.WaitOrKill());
+        if (save)
+            EXPECT_EQ(expected, e2e::ReadUtf16File(file.wstring()));
+        else
+            EXPECT_EQ(before, e2e::ReadFileBytes(file.wstring()));
+    }
+    fs::remove_all(folder);
+    EXPECT_TRUE(host.Commands().empty());
+}
+
+TEST(RunDefinitionEditor, TheScriptPagesModeIsStoredAndTheHostHearsOnlyTheBrackets) {
+    reg::ScopedKey page(kOptionPage);
+    reg::WriteDword(kOptionPage, L"Start", 21);
+    e2e::FakeHost host;
+    ASSERT_TRUE(host.Window());
+    e2e::Process option = e2e::StartOption();
+    ASSERT_TRUE(option);
+    HWND dialog = e2e::FindVisibleWindow(option.Id(), L"オプション");
+    ASSERT_NE(nullptr, dialog);
+    HWND scripts = e2e::PageWith(dialog, 1303);
+    ASSERT_NE(nullptr, scripts);
+    EXPECT_EQ(0, SendMessageW(GetDlgItem(scripts, 1151), CB_GETCURSEL, 0, 0));
+    SendMessageW(GetDlgItem(scripts, 1151), CB_SETCURSEL, 2, 0);
+    SendMessageW(dialog, WM_COMMAND, MAKEWPARAM(1301, BN_CLICKED), 0);
+    EXPECT_EQ(2u, reg::ReadDword(kOptionPage, L"ExToolMode").value_or(99));
+    EXPECT_EQ((std::vector<unsigned>{48999, 49099}), host.Commands());
+    Post(dialog, IDCANCEL);
+    EXPECT_EQ(0u, option.WaitOrKill());
+}
+
+}  // namespace
