@@ -45,6 +45,8 @@ TEST_F(MenuEditorDialogsTest, ThePageListsTheMenuFolderOpensAFileAndStoresItsMod
     fake_.files().AddFile(folder + L"Main.txt", Utf16Bytes(L"Main\tmenu\r\nPOPUP\tA\r\n", true));
     SetStart(22);
     DirectWriteInt(PageKey(), L"MenuDefMode", 1);
+    fake_.files().AddFile(L"C:\\Qor\\Lang\\Msg.txt", Utf16Bytes(L"62301\tNothing is selected.\r\n", true));
+    app_.messages.SetPath(L"C:\\Qor\\Lang\\Msg.txt");
     COptionDlg dialog(app_);
     ASSERT_TRUE(dialog.Create(nullptr));
     HWND page = dialog.Page(22)->hwnd();
@@ -53,11 +55,25 @@ TEST_F(MenuEditorDialogsTest, ThePageListsTheMenuFolderOpensAFileAndStoresItsMod
     EXPECT_EQ(L"Main menu", list.GetItemText(0, 1));
     EXPECT_EQ(1, SendDlgItemMessageW(page, 1151, CB_GETCURSEL, 0, 0));
 
+    // Nothing selected: the user is told; then the file by the shell, the folder and the command list.
     SendDlgItemMessageW(page, 1151, CB_SETCURSEL, 0, 0);
+    Click(page, 1301);
+    ASSERT_EQ(1u, fake_.prompts().shown().size());
+    EXPECT_EQ(L"Nothing is selected.", fake_.prompts().shown()[0].text);
     list.SelectRow(0);
     Click(page, 1301);
-    ASSERT_EQ(1u, fake_.processes().shellRequests().size());
-    EXPECT_EQ(folder + L"Main.txt", fake_.processes().shellRequests()[0].file);
+    Click(page, 1302);
+    Click(page, 1303);
+    std::vector<std::wstring> opened;
+    for (const platform::ShellRequest& request : fake_.processes().shellRequests()) opened.push_back(request.file);
+    EXPECT_EQ((std::vector<std::wstring>{folder + L"Main.txt", app_.directories.UserDirectory() + L"Menu",
+                                         L"C:\\Qor\\command\\Option\\..\\..\\AllCommand.txt"}),
+              opened);
+    // Through the user's editor script, which is not there: the runner says so, the shell is not asked.
+    SendDlgItemMessageW(page, 1151, CB_SETCURSEL, 1, 0);
+    Click(page, 1301);
+    EXPECT_EQ(2u, fake_.prompts().shown().size());
+    EXPECT_EQ(3u, fake_.processes().shellRequests().size());
 
     SendDlgItemMessageW(page, 1151, CB_SETCURSEL, 2, 0);
     Click(dialog.hwnd(), 1301);
@@ -119,13 +135,20 @@ TEST_F(MenuEditorDialogsTest, TheEditorChecksCopiesAndSavesItsRows) {
                                    L"", L"Not found:" + app_.directories.UserDirectory() + L"None.txt", L""}),
         checks);
 
-    list.SelectRow(5);
+    // Row 0 goes down and back up, row 1 goes; the SCRIPT row is copied behind itself.
+    list.SelectRow(0);
+    Click(editor.hwnd(), 1307);
+    Click(editor.hwnd(), 1306);
+    list.SelectRow(1);
+    Click(editor.hwnd(), 1303);
+    EXPECT_EQ(1, list.GetSelectedRow());
+    list.SelectRow(4);
     Click(editor.hwnd(), 1313);
     Click(editor.hwnd(), 1314);
     Click(editor.hwnd(), 1304);
     std::vector<uint8_t> saved;
     ASSERT_TRUE(fake_.files().ReadFile(path, saved));
-    EXPECT_EQ(Utf16Bytes(L"Test menu\r\nMENUITEM\tGone\t65000\r\nPOSITION\tPARENT\r\n\r\npopup\tSub\r\n"
+    EXPECT_EQ(Utf16Bytes(L"Test menu\r\nPOSITION\tPARENT\r\n\r\npopup\tSub\r\n"
                          L"\tSCRIPT\tRun\t%User_dir%None.txt\r\n\tSCRIPT\tRun\t%User_dir%None.txt\r\nEnd\r\n",
                          true),
               saved);

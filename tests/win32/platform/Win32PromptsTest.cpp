@@ -1,4 +1,5 @@
-// The real folder browser, run on a thread of its own and worked from the test's thread.
+// The real folder browser and file open box, run on a thread of their own and worked from the test's
+// thread.
 #include <gtest/gtest.h>
 #include <windows.h>
 #include <commctrl.h>
@@ -124,7 +125,45 @@ TEST(Win32Prompts, FolderBrowser) {
         PostMessageW(browser, WM_COMMAND, IDOK, 0);
     });
     EXPECT_EQ((FolderChoice{true, L""}), computer);
+
+    // Asked for its name, the same folder gives the shell's parsing name: "::{...}" for a virtual one.
+    FolderChoice named =
+        OnItsOwnThread([&](platform::Prompts& prompts) { return prompts.BrowseForFolderName(L"Where to?", L""); },
+                       [](HWND browser) {
+                           PIDLIST_ABSOLUTE drives = nullptr;
+                           ASSERT_EQ(S_OK, SHGetSpecialFolderLocation(nullptr, CSIDL_DRIVES, &drives));
+                           SendMessageW(browser, BFFM_SETSELECTIONW, FALSE, reinterpret_cast<LPARAM>(drives));
+                           CoTaskMemFree(drives);
+                           PostMessageW(browser, WM_COMMAND, IDOK, 0);
+                       },
+                       HoldsATree);
+    EXPECT_TRUE(named.confirmed);
+    EXPECT_EQ(0, _wcsicmp(L"::{20D04FE0-3AEA-1069-A2D8-08002B30309D}", named.path.c_str()))
+        << testing::PrintToString(named.path);
     std::filesystem::remove_all(folder);
+}
+
+// The file open box takes an existing file typed into it; Cancel gives nothing.
+TEST(Win32Prompts, FileOpenBox) {
+    constexpr int kFileName = 0x47C;  // the box's file name combo
+    const std::filesystem::path file = std::filesystem::temp_directory_path() / L"PromptsTestFile.txt";
+    {
+        std::FILE* out = _wfopen(file.c_str(), L"wb");
+        if (out) std::fclose(out);
+    }
+    const auto open = [&](const std::function<void(HWND)>& work) {
+        return OnItsOwnThread(
+            [&](platform::Prompts& prompts) {
+                return prompts.ChooseFileToOpen(L"File open", L"All files(*.*)|*.*|", L"");
+            },
+            work, [](HWND window) { return GetDlgItem(window, kFileName) != nullptr; });
+    };
+    EXPECT_EQ((FolderChoice{true, file.wstring()}), open([&](HWND box) {
+                  SetDlgItemTextW(box, kFileName, file.c_str());
+                  PostMessageW(box, WM_COMMAND, IDOK, 0);
+              }));
+    EXPECT_EQ(FolderChoice{}, open([](HWND box) { PostMessageW(box, WM_COMMAND, IDCANCEL, 0); }));
+    std::filesystem::remove(file);
 }
 
 // The task dialog of program alternatives: one command link per choice from 201 up, and Cancel.
