@@ -12,6 +12,7 @@
 #include "app/Startup.h"
 #include "bindings/COptionKeySetting.h"
 #include "bindings/KeyListWriter.h"
+#include "definitions/CDlgDefCmdSet.h"
 #include "definitions/CDlgMenuEdit.h"
 #include "platform/win32/Win32Platform.h"
 #include "services/HostHandshake.h"
@@ -77,6 +78,13 @@ void COptionApp::OpenOptionDialog() {
 void COptionApp::OpenEditor(int switchNumber, const std::wstring& file) {
     if (!app_) return;
     switch (switchNumber) {
+        case kSwitchCommands: {
+            CDlgDefCmdSet editor(*app_);
+            editor.filePath = file;
+            // In mode 3 the host's window owns it, as it would the option dialog.
+            editor.DoModal(reinterpret_cast<HWND>(HostParent(app_->host.windowMode)));
+            break;
+        }
         case kSwitchMenu: {
             CDlgMenuEdit editor(*app_);
             editor.filePath = file;

@@ -5,6 +5,8 @@
 
 #include "app/COptionDlg.h"
 #include "bindings/COptionKeySetDlg.h"
+#include "definitions/COptionCmdDefDlg.h"
+#include "definitions/COptionExCmdDlg.h"
 #include "definitions/COptionMenuDlg.h"
 #include "pages/COptionAppInfoDlg.h"
 #include "pages/COptionCommonUIDlg.h"
@@ -39,7 +41,9 @@ const std::vector<PageClass>& PageClasses() {
         {5, &Make<COptionOtherDlg>},
         {20, &Make<COptionAppInfoDlg>},
         {22, &Make<COptionMenuDlg>},
+        {23, &Make<COptionCmdDefDlg>},
         {24, &Make<COptionCommonUIDlg>},
+        {25, &Make<COptionExCmdDlg>},
         {30, &Make<COptionNetworkDlg>},
         {34, &Make<COptionVersionCheckDlg>},
         {37, &Make<COptionOverallStyleDlg>},
