@@ -16,6 +16,7 @@
 #include "support/OptionWindow.h"
 #include "support/Process.h"
 #include "support/Registry.h"
+#include "support/Screenshot.h"
 
 namespace {
 
@@ -128,6 +129,11 @@ TEST_F(CommandEditorTest, ThePageOpensTheEditorAndApplyTellsTheHost) {
     ASSERT_NE(nullptr, editor);
     EXPECT_NE(std::wstring::npos, e2e::DialogText(editor).find(list.wstring()));
     EXPECT_EQ(3, Rows(editor));
+    // A picture of the editor for people to look at, beside the stage.
+    const fs::path pictures = fs::path(e2e::StageRoot()).parent_path() / L"screenshots";
+    fs::create_directories(pictures);
+    e2e::WaitUntilDialogIdle(editor, option.Handle());
+    e2e::CaptureWindow(editor, (pictures / L"command-editor.bmp").wstring());
     PostMessageW(editor, WM_COMMAND, MAKEWPARAM(IDCANCEL, BN_CLICKED), 0);
     for (int wait = 0; wait < 500 && IsWindow(editor); ++wait) Sleep(10);
     e2e::WaitUntilDialogIdle(dialog, option.Handle());
