@@ -5,14 +5,13 @@
 #include "definitions/CDlgMacroHelperEx.h"
 #include "platform/Platform.h"
 #include "resources/definitions/DefinitionIds.h"
+#include "services/MessageIds.h"
 #include "ui/DataExchange.h"
 #include "ui/LocaliseDialog.h"
 
 namespace {
 
 constexpr const wchar_t* kHelpPage = L"7.Option/4.Interface/sub/02.html";
-// "Save the command definition file?", asked only while its bit of the Message setting is on.
-constexpr uint16_t kSaveQuestion = 63315;
 constexpr int kMacroTabPaths = 0;
 constexpr int kMacroTabMacros = 1;
 constexpr int kMacroTabEnvironment = 2;
@@ -268,7 +267,7 @@ std::optional<LRESULT> CDlgDefCmdSet::OnNotify(const NMHDR& header) {
 // Every row is checked before the file is opened, so a refused row leaves the file as it was.
 void CDlgDefCmdSet::OnOK() {
     if (!UpdateData(true)) return;
-    if (app_.messages.Confirm(app_.store.Message, kSaveQuestion) == platform::kAnswerNo) return;
+    if (app_.messages.Confirm(app_.store.Message, kMsgSaveCommandsQuestion) == platform::kAnswerNo) return;
     platform::Prompts& prompts = platform::Current().prompts;
     if (const std::optional<CommandRowError> error = document_.FirstError()) {
         prompts.ShowMessage(error->message, platform::kStyleOk);
