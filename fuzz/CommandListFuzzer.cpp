@@ -1,10 +1,13 @@
 // libFuzzer target: arbitrary bytes as each of the user's six command lists, read into the command
-// catalogue as start-up reads them, then every name looked up as the dialogs and key lists do.
+// catalogue as start-up reads them, then every name looked up as the dialogs and key lists do; and
+// the same bytes opened in the command definition editor, each row shown, a row added, checked and
+// written as OK would.
 #include <cstddef>
 #include <cstdint>
 #include <vector>
 
 #include "definitions/CommandCatalog.h"
+#include "definitions/CommandListEditing.h"
 #include "definitions/CommandListFile.h"
 #include "platform/fake/FakePlatform.h"
 
@@ -22,5 +25,17 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
         catalog.GetCommandString(id, nullptr);
     }
     catalog.ListedCommands(kFirstExternalCommand, kLastExternalCommand);
+
+    const std::wstring list = userDirectory + L"ScriptCommand.txt";
+    CommandListDocument document(CommandListRange(list));
+    document.Load(list);
+    for (int row = 0; row < document.Count(); ++row) {
+        const CommandDetails details = ReadCommandDetails(document.rows()[static_cast<size_t>(row)]);
+        EnabledDetails(details);
+        document.WriteDetails(row, details);
+    }
+    document.Add();
+    document.FirstError();
+    document.Save(list);
     return 0;
 }

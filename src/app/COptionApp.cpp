@@ -12,6 +12,7 @@
 #include "app/Startup.h"
 #include "bindings/COptionKeySetting.h"
 #include "bindings/KeyListWriter.h"
+#include "definitions/CDlgDefCmdSet.h"
 #include "definitions/CDlgExRunSet.h"
 #include "definitions/CDlgMenuEdit.h"
 #include "definitions/CDlgRunSet.h"
@@ -89,6 +90,12 @@ void COptionApp::OpenEditor(int switchNumber, const std::wstring& file) {
         }
         case kSwitchRun: {
             CDlgRunSet editor(*app_);
+            editor.filePath = file;
+            editor.DoModal(owner);
+            break;
+        }
+        case kSwitchCommands: {
+            CDlgDefCmdSet editor(*app_);
             editor.filePath = file;
             editor.DoModal(owner);
             break;

@@ -5,6 +5,8 @@
 
 #include "app/COptionDlg.h"
 #include "bindings/COptionKeySetDlg.h"
+#include "definitions/COptionCmdDefDlg.h"
+#include "definitions/COptionExCmdDlg.h"
 #include "definitions/COptionExToolDlg.h"
 #include "definitions/COptionMenuDlg.h"
 #include "pages/COptionAppInfoDlg.h"
@@ -41,7 +43,9 @@ const std::vector<PageClass>& PageClasses() {
         {20, &Make<COptionAppInfoDlg>},
         {21, &Make<COptionExToolDlg>},
         {22, &Make<COptionMenuDlg>},
+        {23, &Make<COptionCmdDefDlg>},
         {24, &Make<COptionCommonUIDlg>},
+        {25, &Make<COptionExCmdDlg>},
         {30, &Make<COptionNetworkDlg>},
         {34, &Make<COptionVersionCheckDlg>},
         {37, &Make<COptionOverallStyleDlg>},

@@ -11,7 +11,7 @@ constexpr size_t kLineBuffer = 32767;
 
 }  // namespace
 
-bool ReadCommandList(const std::wstring& path, std::vector<CommandListEntry>& entries) {
+bool ReadCommandListLines(const std::wstring& path, std::vector<CommandListLine>& lines) {
     WideStream stream;
     if (!stream.Open(path)) return false;
     std::wstring line;
@@ -22,12 +22,21 @@ bool ReadCommandList(const std::wstring& path, std::vector<CommandListEntry>& en
         const TabLineKind kind = SplitTabLine(line, fields);
         if (kind == TabLineKind::Comment) continue;
         if (kind == TabLineKind::End) break;
-        const size_t count = fields.size();
-        if (count == 5) {
-            entries.push_back({crt::Wtoi(fields[0]), fields[1], fields[2], fields[3], fields[4]});
-        } else if (count == 4) {
-            entries.push_back({crt::Wtoi(fields[0]), L"", fields[1], fields[2], fields[3]});
+        if (fields.size() == 5) {
+            lines.push_back({fields[0], fields[1], fields[2], fields[3], fields[4]});
+        } else if (fields.size() == 4) {
+            lines.push_back({fields[0], L"", fields[1], fields[2], fields[3]});
         }
+    }
+    return true;
+}
+
+bool ReadCommandList(const std::wstring& path, std::vector<CommandListEntry>& entries) {
+    std::vector<CommandListLine> lines;
+    if (!ReadCommandListLines(path, lines)) return false;
+    for (CommandListLine& line : lines) {
+        entries.push_back(
+            {crt::Wtoi(line[0]), std::move(line[1]), std::move(line[2]), std::move(line[3]), std::move(line[4])});
     }
     return true;
 }

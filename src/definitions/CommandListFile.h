@@ -1,6 +1,7 @@
 // The six tab-separated lists in the user directory that name the user-extensible commands.
 #pragma once
 
+#include <array>
 #include <cstdint>
 #include <string>
 #include <vector>
@@ -20,6 +21,13 @@ struct CommandListEntry {
     std::wstring comment;
     bool operator==(const CommandListEntry&) const = default;
 };
+
+// A data line's five fields as the file has them: identifier, communication code, condition code,
+// command line, comment. The older four-field form comes with an empty communication code.
+using CommandListLine = std::array<std::wstring, 5>;
+
+// The data lines of a list, in file order, as their texts. False when the file cannot be opened.
+bool ReadCommandListLines(const std::wstring& path, std::vector<CommandListLine>& lines);
 
 // The data lines of a list, in file order. False when the file cannot be opened (nothing is shown).
 // Byte order marks anywhere are dropped, lines are trimmed, "//" lines skipped, "EOF" ends the list;

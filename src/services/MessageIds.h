@@ -23,6 +23,7 @@
     X(NoProgramQuestion, 63017)      /* "%s" is "Run" or "ExRun": no program, go on editing? */ \
     X(GestureResetQuestion, 63019)   /* the gesture page's reset question */                    \
     X(ConfirmationClosing, 63300)    /* the closing text of every confirmation */               \
+    X(SaveCommandsQuestion, 63315)   /* the command editor's OK: save the file? */              \
     X(FolderBrowserTitle, 63503)     /* the title of the folder browser */
 
 enum MessageId : uint16_t {

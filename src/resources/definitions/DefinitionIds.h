@@ -97,5 +97,48 @@
 
 // The command definition page, its editor, and the page of the external commands' common behaviour.
 #define IDD_OPTION_CMD_DEF 164
+#define IDC_CMD_DEF_MODE 1151
+#define IDC_CMD_DEF_EXTERNAL 1303
+#define IDC_CMD_DEF_SCRIPT 1304
+#define IDC_CMD_DEF_SCRIPT_NAVI 1305
+#define IDC_CMD_DEF_EXTERNAL_USER 1306
+#define IDC_CMD_DEF_USER_MENU 1307
+#define IDC_CMD_DEF_PLUGIN 1308
+
 #define IDD_DEF_CMD_SET 192
+#define IDC_DEF_CMD_ID 1001
+#define IDC_DEF_CMD_COMMAND 1002
+#define IDC_DEF_CMD_COMMENT 1003
+// The communication mode's four radios, then its three drop flags.
+#define IDC_DEF_CMD_NO_COUPLING 1201
+#define IDC_DEF_CMD_DRAG_DROP 1202
+#define IDC_DEF_CMD_COPY_DATA 1203
+#define IDC_DEF_CMD_SHARED_MEMORY 1204
+#define IDC_DEF_CMD_CURRENT_FOLDER 1251
+#define IDC_DEF_CMD_SELECTED_ITEMS 1252
+#define IDC_DEF_CMD_TARGET_FOLDER 1253
+// The condition: folder condition, selection rule and virtual rule in pairs of radios, two flags.
+#define IDC_DEF_CMD_REAL_FOLDER 1208
+#define IDC_DEF_CMD_ANY_FOLDER 1209
+#define IDC_DEF_CMD_SELECTION_RULES 1210
+#define IDC_DEF_CMD_ALWAYS 1211
+#define IDC_DEF_CMD_REAL_ITEMS 1212
+#define IDC_DEF_CMD_VIRTUAL_ITEMS 1213
+#define IDC_DEF_CMD_NEEDS_FILE 1261
+#define IDC_DEF_CMD_NEEDS_FOLDER 1262
+#define IDC_DEF_CMD_MACRO 1301
+#define IDC_DEF_CMD_ADD 1302
+#define IDC_DEF_CMD_DELETE 1303
+#define IDC_DEF_CMD_PATH 1401
+#define IDC_DEF_CMD_RANGE 1402
+#define IDC_DEF_CMD_LIST 1601
+
 #define IDD_OPTION_EX_CMD 197
+#define IDC_EX_CMD_NORMAL 1201
+#define IDC_EX_CMD_TOPMOST 1202
+#define IDC_EX_CMD_TOPMOST_NO_TASKBAR 1203
+#define IDC_EX_CMD_MODAL 1204
+#define IDC_EX_CMD_EXIT_NOTHING 1205
+#define IDC_EX_CMD_EXIT_ACTIVATE 1206
+#define IDC_EX_CMD_DIV_TARGET 1251
+#define IDC_EX_CMD_ALL_PANES 1252

@@ -66,7 +66,8 @@ TEST_F(OptionPagesTest, DialogAndPagesShowTheirOwnWords) {
     const Case cases[] = {
         {0, 1301, L"適用"}, {0, -1, L"F1:Help"}, {20, 1256, L"ドラッグヘルパーを表示する"}, {34, 1301, L"Reset"},
         {24, 1251, L"ファイルのドロップを許可する"}, {30, -1, L"リトライ回数:"}, {37, 1201, L"Qor - [Folder]"},
-        {5, 1203, L"任意のフォルダー"}, {39, 1402, L"Event/Message"},
+        {5, 1203, L"任意のフォルダー"}, {39, 1402, L"Event/Message"}, {23, 1304, L"スクリプトコマンド"},
+        {25, 1203, L"常に前面に表示・タスクバーに表示しない"},
     };
     // clang-format on
     SetStart(1000);
@@ -129,6 +130,10 @@ TEST_F(OptionPagesTest, ControlsCarryTheirStoredValuesBothWays) {
         {5,  1252, Check, kSettings, L"Resident",         L"1",         L"0",           49011},
         {5,  1001, Edit,  kSettings, L"MaxScript",        L"5",         L"50",          49011},
         {5,  1001, Edit,  kSettings, L"MaxScript",        L"99",        nullptr,        0, {}, L"1 and 50"},
+        {25, 1201, Radio, kAppInfo,  L"StyleMode",        L"0",         L"3",           49019},
+        {25, 1205, Radio, kAppInfo,  L"ExitAction",       L"1",         L"0",           49019},
+        {25, 1251, Check, kAppInfo,  L"DivTarget",        L"1",         L"0",           49019},
+        {25, 1252, Check, kAppInfo,  L"AllPaneTarget",    L"0",         L"1",           49019},
     };
     // clang-format on
     for (const Case& c : cases) {

@@ -1,0 +1,154 @@
+// The command definition editor in the running program: "/D" on a copy of a sample command list,
+// where Cancel leaves the file as it was and OK, once the user agrees, writes the edited rows; and
+// the command definition page, which opens the same editor in its own mode, and whose Apply, with the
+// external commands page, tells the host what to reread.
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <windows.h>
+
+#include <filesystem>
+#include <string>
+
+#include "support/FakeHostProcess.h"
+#include "support/Files.h"
+#include "support/OptionTree.h"
+#include "support/OptionWindow.h"
+#include "support/Process.h"
+#include "support/Registry.h"
+#include "support/Screenshot.h"
+
+namespace {
+
+namespace fs = std::filesystem;
+namespace reg = e2e::registry;
+
+constexpr wchar_t kOptionPage[] = L"Software\\Tarnwick\\QOR\\Command\\Option\\OptionPage";
+constexpr wchar_t kSettings[] = L"Software\\Tarnwick\\Qor\\Main001\\Settings";
+constexpr wchar_t kAppInfo[] = L"Software\\Tarnwick\\Qor\\Main001\\AppInfo";
+constexpr wchar_t kEditorTitle[] = L"コマンド定義ファイル編集";
+constexpr int kApply = 1301;
+constexpr int kList = 1601;
+constexpr int kComment = 1003;
+constexpr int kDragAndDrop = 1202;
+constexpr int kSelectedItems = 1252;
+constexpr int kAdd = 1302;
+constexpr int kScriptCommands = 1304;
+constexpr int kModal = 1204;
+
+void Send(HWND dialog, int id, UINT message, WPARAM wParam = 0, LPARAM lParam = 0) {
+    SendMessageW(GetDlgItem(dialog, id), message, wParam, lParam);
+}
+
+int Rows(HWND editor) {
+    return static_cast<int>(SendMessageW(GetDlgItem(editor, kList), LVM_GETITEMCOUNT, 0, 0));
+}
+
+class CommandEditorTest : public testing::Test {
+protected:
+    void SetUp() override {
+        user = fs::temp_directory_path() / (L"CommandEditorTest" + std::to_wstring(GetCurrentProcessId()));
+        fs::remove_all(user);
+        fs::create_directories(user);
+        fs::copy(fs::path(e2e::StageRoot()) / L"User", user, fs::copy_options::recursive);
+        list = user / L"ScriptCommand.txt";
+        reg::WriteDword(kAppInfo, L"Message", 0xFFFFFFFF);
+    }
+    void TearDown() override { fs::remove_all(user); }
+
+    // Gives the first row the focus as the keyboard would, then edits it and adds a row.
+    void Edit(HWND editor) {
+        HWND rows = GetDlgItem(editor, kList);
+        PostMessageW(rows, WM_KEYDOWN, VK_HOME, 0);
+        for (int wait = 0; wait < 500 && SendMessageW(rows, LVM_GETNEXTITEM, -1, LVNI_SELECTED) != 0; ++wait) Sleep(10);
+        Send(editor, kComment, WM_SETTEXT, 0, reinterpret_cast<LPARAM>(L"Copy names"));
+        Send(editor, kDragAndDrop, BM_CLICK);
+        Send(editor, kSelectedItems, BM_CLICK);
+        SendMessageW(editor, WM_COMMAND, MAKEWPARAM(kAdd, BN_CLICKED), 0);
+        EXPECT_EQ(4, Rows(editor));
+    }
+
+    reg::ScopedKey page_{kOptionPage};
+    reg::ScopedKey settings_{kSettings};
+    reg::ScopedKey appInfo_{kAppInfo};
+    fs::path user;
+    fs::path list;
+    e2e::Process option;
+};
+
+TEST_F(CommandEditorTest, CancelKeepsTheListAndOkWritesTheEditedRows) {
+    const std::string before = e2e::ReadFileBytes(list.wstring());
+    option = e2e::StartOption({L"/D", list.wstring()});
+    HWND editor = e2e::FindVisibleWindow(option.Id(), kEditorTitle);
+    ASSERT_NE(nullptr, editor);
+    EXPECT_EQ(3, Rows(editor));
+    Edit(editor);
+    PostMessageW(editor, WM_COMMAND, MAKEWPARAM(IDCANCEL, BN_CLICKED), 0);
+    EXPECT_EQ(0u, option.WaitOrKill());
+    EXPECT_EQ(before, e2e::ReadFileBytes(list.wstring()));
+
+    option = e2e::StartOption({L"/D", list.wstring()});
+    editor = e2e::FindVisibleWindow(option.Id(), kEditorTitle);
+    ASSERT_NE(nullptr, editor);
+    Edit(editor);
+    PostMessageW(editor, WM_COMMAND, MAKEWPARAM(IDOK, BN_CLICKED), 0);
+    // The editor has static texts of its own: the question is the other dialog.
+    HWND question = e2e::FindWindowOf(option.Id(), [editor](HWND window) {
+        wchar_t name[16] = {};
+        GetClassNameW(window, name, 16);
+        return window != editor && IsWindowVisible(window) && std::wstring(name) == L"#32770";
+    });
+    ASSERT_NE(nullptr, question);
+    e2e::Answer(question, IDYES);
+    EXPECT_EQ(0u, option.WaitOrKill());
+    // The comment line and the end mark of the sample go; every row is written with five fields.
+    EXPECT_EQ(
+        L"\uFEFF"
+        L"40004\tS\tN--\t%Script_dir%CopyNames.txt\tCopy names\r\n"
+        L"40005\t\tN-D\t%Script_dir%NewFolderByDate.txt\tNew folder named by date\r\n"
+        L"40006\t\tNF-\t%Script_dir%LineCount.txt\tCount lines\r\n"
+        L"40007\t\t---\tNew command\tComment\r\n",
+        e2e::ReadUtf16File(list.wstring()));
+}
+
+TEST_F(CommandEditorTest, ThePageOpensTheEditorAndApplyTellsTheHost) {
+    reg::WriteDword(kSettings, L"UserDirMode", 2);
+    reg::WriteString(kSettings, L"UserDir", user.wstring() + L"\\");
+    reg::WriteDword(kOptionPage, L"Start", 23);
+    reg::WriteDword(kOptionPage, L"CmdDefMode", 2);
+    reg::WriteDword(kAppInfo, L"StyleMode", 0);
+    e2e::FakeHost host;
+    ASSERT_TRUE(host.Window());
+    option = e2e::StartOption();
+    HWND dialog = e2e::FindVisibleWindow(option.Id(), L"オプション");
+    ASSERT_NE(nullptr, dialog);
+    HWND page = e2e::PageWith(dialog, kScriptCommands);
+    ASSERT_NE(nullptr, page);
+    PostMessageW(page, WM_COMMAND, MAKEWPARAM(kScriptCommands, BN_CLICKED), 0);
+    HWND editor = e2e::FindVisibleWindow(option.Id(), kEditorTitle);
+    ASSERT_NE(nullptr, editor);
+    EXPECT_NE(std::wstring::npos, e2e::DialogText(editor).find(list.wstring()));
+    EXPECT_EQ(3, Rows(editor));
+    // A picture of the editor for people to look at, beside the stage.
+    const fs::path pictures = fs::path(e2e::StageRoot()).parent_path() / L"screenshots";
+    fs::create_directories(pictures);
+    e2e::WaitUntilDialogIdle(editor, option.Handle());
+    e2e::CaptureWindow(editor, (pictures / L"command-editor.bmp").wstring());
+    PostMessageW(editor, WM_COMMAND, MAKEWPARAM(IDCANCEL, BN_CLICKED), 0);
+    for (int wait = 0; wait < 500 && IsWindow(editor); ++wait) Sleep(10);
+    e2e::WaitUntilDialogIdle(dialog, option.Handle());
+
+    ASSERT_TRUE(e2e::SelectTreeItem(dialog, 25));
+    e2e::WaitUntilDialogIdle(dialog, option.Handle());
+    HWND external = e2e::PageWith(dialog, kModal);
+    ASSERT_NE(nullptr, external);
+    Send(external, kModal, BM_CLICK);
+    SendMessageW(dialog, WM_COMMAND, MAKEWPARAM(kApply, BN_CLICKED), 0);
+    EXPECT_THAT(host.Commands(), testing::ElementsAre(48999u, 49018u, 49019u, 49099u));
+    EXPECT_EQ(3u, reg::ReadDword(kAppInfo, L"StyleMode"));
+    EXPECT_EQ(2u, reg::ReadDword(kOptionPage, L"CmdDefMode"));
+    PostMessageW(dialog, WM_COMMAND, MAKEWPARAM(IDCANCEL, BN_CLICKED), 0);
+    option.WaitOrKill();
+}
+
+}  // namespace
