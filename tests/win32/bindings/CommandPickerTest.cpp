@@ -5,6 +5,8 @@
 #include <functional>
 
 #include "bindings/COptionKeySetting.h"
+#include "bindings/DefaultKeyTables.h"
+#include "bindings/KeyListCsv.h"
 #include "bindings/KeyTableFiles.h"
 #include "ui/ListView.h"
 #include "resources/bindings/BindingIds.h"
@@ -115,6 +117,49 @@ TEST_F(CommandPickerTest, TheKeyPageBindsARowThroughThePicker) {
     LoadKeyTables(app_.directories.UserDirectory(), saved);
     EXPECT_EQ(32811, saved.Word(0, kModifierNone, 1));
     COptionKeySetting::ReleaseShared();
+}
+
+// The key page's other buttons on the block of a modifier: Edit and Clear want a row, Clear and each
+// reset ask first and a No changes nothing, the list goes into the folder chosen under its block's name.
+TEST_F(CommandPickerTest, TheKeyPageClearsResetsAndListsTheBlockShown) {
+    SetStart(2);
+    COptionDlg dialog(app_);
+    ASSERT_TRUE(dialog.Create(nullptr));
+    HWND page = dialog.Page(2)->hwnd();
+    ui::ListView list(GetDlgItem(page, IDC_KEYSET_LIST));
+    SendDlgItemMessageW(page, IDC_KEYSET_MODIFIER_FIRST + kModifierShift, BM_CLICK, 0, 0);
+    // The first key that Shift binds by default.
+    int key = 0;
+    while (key < 75 && DefaultKeyTables().Word(0, kModifierShift, key) == 0) ++key;
+    const uint16_t bound = DefaultKeyTables().Word(0, kModifierShift, key);
+    ASSERT_NE(0, bound);
+    const auto shown = [&] { return static_cast<uint16_t>(list.GetItemData(key)); };
+    EXPECT_EQ(bound, shown());
+
+    Click(page, IDC_KEYSET_EDIT);
+    Click(page, IDC_KEYSET_CLEAR);
+    EXPECT_EQ(2u, fake_.prompts().shown().size()) << "nothing selected, twice";
+    list.SelectRow(key);
+    Click(page, IDC_KEYSET_CLEAR);  // answered No
+    EXPECT_EQ(bound, shown());
+    fake_.prompts().Answer(platform::kAnswerYes);
+    Click(page, IDC_KEYSET_CLEAR);
+    EXPECT_EQ(0, shown());
+    for (int reset : {IDC_KEYSET_RESET_BLOCK, IDC_KEYSET_RESET_ALL}) Click(page, reset);  // both No
+    EXPECT_EQ(0, shown());
+    for (int reset : {IDC_KEYSET_RESET_KEY, IDC_KEYSET_RESET_BLOCK, IDC_KEYSET_RESET_ALL}) {
+        fake_.prompts().Answer(platform::kAnswerYes);
+        Click(page, reset);
+        EXPECT_EQ(bound, shown()) << reset;
+        fake_.prompts().Answer(platform::kAnswerYes);
+        Click(page, IDC_KEYSET_CLEAR);
+    }
+
+    fake_.files().AddDirectory(L"D:\\Lists");
+    fake_.prompts().ChooseFolder({true, L"D:\\Lists"});
+    Click(page, IDC_KEYSET_SAVE_LIST);
+    std::vector<uint8_t> written;
+    EXPECT_TRUE(fake_.files().ReadFile(L"D:\\Lists\\" + PageKeyListName(0, kModifierShift), written));
 }
 
 // A set list that does not count nine names leaves the key page empty: the user is told, the page
