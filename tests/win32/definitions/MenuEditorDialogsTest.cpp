@@ -9,8 +9,10 @@
 #include <tuple>
 #include <vector>
 
+#include "bindings/COptionKeySetting.h"
 #include "definitions/CDlgMenuCommand.h"
 #include "definitions/CDlgMenuEdit.h"
+#include "definitions/MacroHelperData.h"
 #include "ui/ListView.h"
 #include "unit/Utf16.h"
 #include "win32/support/OptionDialogFixture.h"
@@ -114,6 +116,58 @@ TEST_F(MenuEditorDialogsTest, TheLineDialogFollowsTheKeywordAndFillsAFileAsAMacr
     Click(dialog, IDOK);
     EXPECT_EQ(std::make_tuple(std::wstring(L"SCRIPT"), std::wstring(L"Run"), std::wstring(L"%Script_dir%Run.txt")),
               std::make_tuple(line.command, line.text, line.target));
+}
+
+// Answers the next modal window titled so, once it shows, by picking its first list row (if asked)
+// and pressing the button.
+void AnswerWhenShown(const wchar_t* title, int button, bool pickFirstRow) {
+    static const wchar_t* wanted;
+    static int pressed;
+    static bool pick;
+    wanted = title, pressed = button, pick = pickFirstRow;
+    SetTimer(nullptr, 0, 50, [](HWND, UINT, UINT_PTR id, DWORD) {
+        HWND window = FindWindowW(L"#32770", wanted);
+        if (!window) return;
+        KillTimer(nullptr, id);
+        if (pick) ui::ListView(GetDlgItem(window, 1601)).SelectRow(0);
+        Click(window, pressed);
+    });
+}
+
+// The words of a position come from the macro helper's tab of positions, a macro goes where the caret
+// is, a folder comes back as a macro path; the command picker adds its choice behind a list.
+TEST_F(MenuEditorDialogsTest, TheLineDialogTakesWordsMacrosFoldersAndCommands) {
+    app_.dialogLanguage.Load();
+    const std::wstring program = app_.directories.ProgramDirectory(), tag = app_.dialogLanguage.tag();
+    const std::wstring positions = MacroHelperFilePath(program, tag, 4);
+    fake_.files().CreateDirectoryTree(positions.substr(0, positions.rfind(L'\\')));
+    fake_.files().AddFile(positions, Utf16Bytes(L"PAERNT\tparent/MAIN\tmain", true));
+    fake_.files().AddFile(MacroHelperFilePath(program, tag, 1), Utf16Bytes(L"%Date%\ttoday", true));
+    CDlgMenuCommand line(app_);
+    line.command = L"POSITION";
+    ASSERT_TRUE(line.Create(nullptr));
+    HWND dialog = line.hwnd();
+    AnswerWhenShown(L"マクロ入力", IDOK, true);
+    Click(dialog, 1301);
+    EXPECT_EQ(L"PAERNT", TextOf(GetDlgItem(dialog, 1001)));
+
+    SetDlgItemTextW(dialog, 1151, L"DIRECTORY");
+    SendMessageW(dialog, WM_COMMAND, MAKEWPARAM(1151, CBN_EDITCHANGE), 0);
+    fake_.prompts().ChooseFolder({true, app_.directories.UserDirectory() + L"Menu"});
+    Click(dialog, 1301);
+    EXPECT_EQ(L"%User_dir%Menu", TextOf(GetDlgItem(dialog, 1001)));
+    SendDlgItemMessageW(dialog, 1001, EM_SETSEL, 0, 0);
+    AnswerWhenShown(L"マクロ入力", IDOK, true);
+    Click(dialog, 1303);
+    EXPECT_EQ(L"%Date%%User_dir%Menu", TextOf(GetDlgItem(dialog, 1001)));
+
+    SetDlgItemTextW(dialog, 1151, L"MULTIPLE");
+    SendMessageW(dialog, WM_COMMAND, MAKEWPARAM(1151, CBN_EDITCHANGE), 0);
+    SetDlgItemTextW(dialog, 1002, L"1");
+    AnswerWhenShown(L"機能一覧", IDCANCEL, false);
+    Click(dialog, 1302);
+    EXPECT_EQ(L"1", TextOf(GetDlgItem(dialog, 1002))) << "a cancelled picker changes nothing";
+    COptionKeySetting::ReleaseShared();
 }
 
 TEST_F(MenuEditorDialogsTest, TheEditorChecksCopiesAndSavesItsRows) {
