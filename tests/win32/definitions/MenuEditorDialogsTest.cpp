@@ -207,6 +207,16 @@ TEST_F(MenuEditorDialogsTest, TheEditorChecksCopiesAndSavesItsRows) {
                          true),
               saved);
     EXPECT_EQ((ShownMessage{L"I have saved the file.\n" + path, 0x40}), fake_.prompts().shown().back());
+
+    // A line goes through the line dialog and back as OK left it; F1 opens the manual at its page.
+    list.SelectRow(3);
+    AnswerWhenShown(L"Menu command", IDOK, false);
+    Click(editor.hwnd(), 1302);
+    EXPECT_EQ((std::vector<std::wstring>{L"popup", L"Sub", L""}),
+              (std::vector<std::wstring>{list.GetItemText(3, 0), list.GetItemText(3, 1), list.GetItemText(3, 2)}));
+    SendMessageW(editor.hwnd(), WM_HELP, 0, 0);
+    ASSERT_EQ(1u, fake_.processes().shellRequests().size());
+    EXPECT_NE(std::wstring::npos, fake_.processes().shellRequests()[0].file.find(L"04.html"));
 }
 
 }  // namespace
