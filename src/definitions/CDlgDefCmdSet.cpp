@@ -1,7 +1,6 @@
 #include "definitions/CDlgDefCmdSet.h"
 
 #include "app/AppServices.h"
-#include "app/HelpPage.h"
 #include "definitions/CDlgMacroHelperEx.h"
 #include "platform/Platform.h"
 #include "resources/definitions/DefinitionIds.h"
@@ -61,34 +60,12 @@ bool IsConditionControl(int id) {
 
 }  // namespace
 
-CDlgDefCmdSet::CDlgDefCmdSet(AppServices& app) : ui::Dialog(IDD_DEF_CMD_SET), app_(app) {}
-
-CDlgDefCmdSet::~CDlgDefCmdSet() {
-    DestroyWindow();
-}
-
-std::optional<LRESULT> CDlgDefCmdSet::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
-    if (message == WM_HELP) {
-        OpenHelpPage(app_.directories.ApplicationRoot(), kHelpPage);
-        return TRUE;
-    }
-    if (message == WM_DESTROY && mainWindow_) {
-        platform::Current().windows.SetMainWindow(0);
-        mainWindow_ = false;
-    }
-    return ui::Dialog::OnMessage(message, wParam, lParam);
-}
+CDlgDefCmdSet::CDlgDefCmdSet(AppServices& app) : CDlgDefinitionEditor(IDD_DEF_CMD_SET, app, kHelpPage) {}
 
 bool CDlgDefCmdSet::OnInitDialog() {
     filling_ = true;
-    const bool focusFirst = ui::Dialog::OnInitDialog();
+    const bool focusFirst = CDlgDefinitionEditor::OnInitDialog();
     filling_ = false;
-    // Opened by itself, the editor is the program's one window.
-    platform::HostWindows& windows = platform::Current().windows;
-    if (!windows.MainWindow()) {
-        windows.SetMainWindow(reinterpret_cast<platform::WindowRef>(hwnd()));
-        mainWindow_ = true;
-    }
     list_ = ui::ListView(Item(IDC_DEF_CMD_LIST));
     list_.SetExtendedStyle(LVS_EX_FULLROWSELECT, LVS_EX_FULLROWSELECT);
     for (int i = 0; i < static_cast<int>(std::size(kColumns)); ++i)

@@ -6,21 +6,16 @@
 #include <string>
 
 #include "definitions/CommandListEditing.h"
-#include "ui/Dialog.h"
+#include "definitions/CDlgDefinitionEditor.h"
 #include "ui/ListView.h"
 
 struct AppServices;
 
-class CDlgDefCmdSet : public ui::Dialog {
+class CDlgDefCmdSet : public CDlgDefinitionEditor {
 public:
     explicit CDlgDefCmdSet(AppServices& app);
-    ~CDlgDefCmdSet() override;
-
-    // The list edited; set before DoModal.
-    std::wstring filePath;
 
 protected:
-    std::optional<LRESULT> OnMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
     bool OnInitDialog() override;
     void DoDataExchange(ui::DataExchange& exchange) override;
     bool OnCommand(int id, int code) override;
@@ -43,11 +38,9 @@ private:
     void DeleteRow();
     void InsertMacro();
 
-    AppServices& app_;
     CommandListDocument document_;
     CommandDetails details_;
     ui::ListView list_;
     // Set while the controls are filled, whose change notices are not edits.
     bool filling_ = false;
-    bool mainWindow_ = false;
 };

@@ -3,7 +3,6 @@
 #include <vector>
 
 #include "app/AppServices.h"
-#include "app/HelpPage.h"
 #include "definitions/CDlgRunSet.h"
 #include "definitions/RunDefinition.h"
 #include "resources/definitions/DefinitionIds.h"
@@ -23,18 +22,10 @@ constexpr int kCommandColumn = 1;
 
 }  // namespace
 
-CDlgExRunSet::CDlgExRunSet(AppServices& app) : ui::Dialog(IDD_EX_RUN_SET), app_(app) {}
-
-std::optional<LRESULT> CDlgExRunSet::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
-    if (message == WM_HELP) {
-        OpenHelpPage(app_.directories.ApplicationRoot(), kHelpPage);
-        return TRUE;
-    }
-    return ui::Dialog::OnMessage(message, wParam, lParam);
-}
+CDlgExRunSet::CDlgExRunSet(AppServices& app) : CDlgDefinitionEditor(IDD_EX_RUN_SET, app, kHelpPage) {}
 
 bool CDlgExRunSet::OnInitDialog() {
-    const bool focusFirst = ui::Dialog::OnInitDialog();
+    const bool focusFirst = CDlgDefinitionEditor::OnInitDialog();
     SetDlgItemTextW(hwnd(), IDC_EX_RUN_SET_PATH, filePath.c_str());
     commandBrowse_.Attach(hwnd(), IDC_EX_RUN_SET_COMMAND, runset::FileChooser());
     list_ = ui::ListView(Item(IDC_EX_RUN_SET_LIST));

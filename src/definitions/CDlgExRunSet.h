@@ -6,20 +6,16 @@
 #include <string>
 
 #include "ui/BrowseEdit.h"
-#include "ui/Dialog.h"
+#include "definitions/CDlgDefinitionEditor.h"
 #include "ui/ListView.h"
 
 struct AppServices;
 
-class CDlgExRunSet : public ui::Dialog {
+class CDlgExRunSet : public CDlgDefinitionEditor {
 public:
     explicit CDlgExRunSet(AppServices& app);
 
-    // The file edited; set before DoModal.
-    std::wstring filePath;
-
 protected:
-    std::optional<LRESULT> OnMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
     bool OnInitDialog() override;
     void DoDataExchange(ui::DataExchange& exchange) override;
     bool OnCommand(int id, int code) override;
@@ -34,7 +30,6 @@ private:
     void DeleteRow();
     void EditChanged(int editId, int column);
 
-    AppServices& app_;
     ui::ListView list_;
     ui::BrowseEdit commandBrowse_;
     std::wstring filter_;

@@ -2,7 +2,6 @@
 
 #include "app/AppServices.h"
 #include "app/DefinitionEditing.h"
-#include "app/HelpPage.h"
 #include "definitions/CDlgMenuCommand.h"
 #include "platform/Platform.h"
 #include "resources/definitions/DefinitionIds.h"
@@ -17,10 +16,6 @@ struct Column {
     int width;
 };
 constexpr Column kColumns[] = {{L"Command", 100}, {L"Menu text", 165}, {L"Target text", 160}, {L"Check message", 160}};
-
-platform::WindowRef Ref(HWND window) {
-    return reinterpret_cast<platform::WindowRef>(window);
-}
 
 // The popup menus of the load test, made as the parser asks.
 class PopupMenuBuilder : public MenuBuilder {
@@ -96,33 +91,11 @@ const std::wstring& CDlgMenuEdit::ListRows::Text(int row, int column) const {
     }
 }
 
-CDlgMenuEdit::CDlgMenuEdit(AppServices& app) : ui::Dialog(IDD_MENU_EDIT), app_(app) {}
-
-CDlgMenuEdit::~CDlgMenuEdit() {
-    DestroyWindow();
-}
-
-std::optional<LRESULT> CDlgMenuEdit::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
-    if (message == WM_HELP) {
-        OpenHelpPage(app_.directories.ApplicationRoot(), kHelpPage);
-        return TRUE;
-    }
-    if (message == WM_DESTROY && mainWindow_) {
-        platform::Current().windows.SetMainWindow(0);
-        mainWindow_ = false;
-    }
-    return ui::Dialog::OnMessage(message, wParam, lParam);
-}
+CDlgMenuEdit::CDlgMenuEdit(AppServices& app) : CDlgDefinitionEditor(IDD_MENU_EDIT, app, kHelpPage) {}
 
 bool CDlgMenuEdit::OnInitDialog() {
-    const bool focusFirst = ui::Dialog::OnInitDialog();
+    const bool focusFirst = CDlgDefinitionEditor::OnInitDialog();
     ui::LocaliseDialog(hwnd(), templateId(), app_.dialogLanguage);
-    // Opened by itself, the editor is the program's one window.
-    platform::HostWindows& windows = platform::Current().windows;
-    if (!windows.MainWindow()) {
-        windows.SetMainWindow(Ref(hwnd()));
-        mainWindow_ = true;
-    }
     list_ = ui::ListView(Item(IDC_MENU_EDIT_LIST));
     const DWORD styles = LVS_EX_FULLROWSELECT | LVS_EX_GRIDLINES;
     list_.SetExtendedStyle(styles, styles);

@@ -6,21 +6,16 @@
 #include <vector>
 
 #include "definitions/MenuDefinition.h"
-#include "ui/Dialog.h"
+#include "definitions/CDlgDefinitionEditor.h"
 #include "ui/ListView.h"
 
 struct AppServices;
 
-class CDlgMenuEdit : public ui::Dialog {
+class CDlgMenuEdit : public CDlgDefinitionEditor {
 public:
     explicit CDlgMenuEdit(AppServices& app);
-    ~CDlgMenuEdit() override;
-
-    // The file edited; set before DoModal.
-    std::wstring filePath;
 
 protected:
-    std::optional<LRESULT> OnMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
     bool OnInitDialog() override;
     bool OnCommand(int id, int code) override;
     std::optional<LRESULT> OnNotify(const NMHDR& header) override;
@@ -57,9 +52,7 @@ private:
     void CheckRows();
     void LoadTest();
 
-    AppServices& app_;
     ui::ListView list_;
     ListRows rows_{list_};
     MenuLine clipboard_;
-    bool mainWindow_ = false;
 };

@@ -1,7 +1,6 @@
 #include "definitions/CDlgRunSet.h"
 
 #include "app/AppServices.h"
-#include "app/HelpPage.h"
 #include "definitions/CDlgMacroHelperEx.h"
 #include "platform/Platform.h"
 #include "resources/definitions/DefinitionIds.h"
@@ -77,20 +76,12 @@ ui::BrowseEdit::Browse FileChooser() {
 
 }  // namespace runset
 
-CDlgRunSet::CDlgRunSet(AppServices& app) : ui::Dialog(IDD_RUN_SET), app_(app) {}
-
-std::optional<LRESULT> CDlgRunSet::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
-    if (message == WM_HELP) {
-        OpenHelpPage(app_.directories.ApplicationRoot(), kHelpPage);
-        return TRUE;
-    }
-    return ui::Dialog::OnMessage(message, wParam, lParam);
-}
+CDlgRunSet::CDlgRunSet(AppServices& app) : CDlgDefinitionEditor(IDD_RUN_SET, app, kHelpPage) {}
 
 bool CDlgRunSet::OnInitDialog() {
     definition_ = {};
     if (!ReadRunDefinition(filePath, definition_)) runset::TellCannotOpen(filePath);
-    const bool focusFirst = ui::Dialog::OnInitDialog();
+    const bool focusFirst = CDlgDefinitionEditor::OnInitDialog();
     SetDlgItemTextW(hwnd(), IDC_RUN_SET_PATH, filePath.c_str());
     bootDir_.Attach(hwnd(), IDC_RUN_SET_BOOT_DIR, runset::FolderChooser(app_));
     program_.Attach(hwnd(), IDC_RUN_SET_RUN, runset::FileChooser());

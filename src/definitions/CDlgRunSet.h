@@ -9,26 +9,21 @@
 
 #include "definitions/RunDefinition.h"
 #include "ui/BrowseEdit.h"
-#include "ui/Dialog.h"
+#include "definitions/CDlgDefinitionEditor.h"
 
 struct AppServices;
 
-class CDlgRunSet : public ui::Dialog {
+class CDlgRunSet : public CDlgDefinitionEditor {
 public:
     explicit CDlgRunSet(AppServices& app);
 
-    // The file edited; set before DoModal.
-    std::wstring filePath;
-
 protected:
-    std::optional<LRESULT> OnMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
     bool OnInitDialog() override;
     void DoDataExchange(ui::DataExchange& exchange) override;
     bool OnCommand(int id, int code) override;
     void OnOK() override;
 
 private:
-    AppServices& app_;
     RunDefinition definition_;
     ui::BrowseEdit bootDir_;
     ui::BrowseEdit program_;
