@@ -23,9 +23,6 @@ namespace {
 namespace fs = std::filesystem;
 namespace reg = e2e::registry;
 
-constexpr wchar_t kOptionPage[] = L"Software\\Tarnwick\\QOR\\Command\\Option\\OptionPage";
-constexpr wchar_t kSettings[] = L"Software\\Tarnwick\\Qor\\Main001\\Settings";
-constexpr wchar_t kAppInfo[] = L"Software\\Tarnwick\\Qor\\Main001\\AppInfo";
 constexpr wchar_t kEditorTitle[] = L"コマンド定義ファイル編集";
 constexpr int kApply = 1301;
 constexpr int kList = 1601;
@@ -52,7 +49,7 @@ protected:
         fs::create_directories(user);
         fs::copy(fs::path(e2e::StageRoot()) / L"User", user, fs::copy_options::recursive);
         list = user / L"ScriptCommand.txt";
-        reg::WriteDword(kAppInfo, L"Message", 0xFFFFFFFF);
+        reg::WriteDword(reg::kAppInfo, L"Message", 0xFFFFFFFF);
     }
     void TearDown() override { fs::remove_all(user); }
 
@@ -64,13 +61,13 @@ protected:
         Send(editor, kComment, WM_SETTEXT, 0, reinterpret_cast<LPARAM>(L"Copy names"));
         Send(editor, kDragAndDrop, BM_CLICK);
         Send(editor, kSelectedItems, BM_CLICK);
-        SendMessageW(editor, WM_COMMAND, MAKEWPARAM(kAdd, BN_CLICKED), 0);
+        e2e::Click(editor, kAdd);
         EXPECT_EQ(4, Rows(editor));
     }
 
-    reg::ScopedKey page_{kOptionPage};
-    reg::ScopedKey settings_{kSettings};
-    reg::ScopedKey appInfo_{kAppInfo};
+    reg::ScopedKey page_{reg::kOptionPage};
+    reg::ScopedKey settings_{reg::kSettings};
+    reg::ScopedKey appInfo_{reg::kAppInfo};
     fs::path user;
     fs::path list;
     e2e::Process option;
@@ -112,11 +109,11 @@ TEST_F(CommandEditorTest, CancelKeepsTheListAndOkWritesTheEditedRows) {
 }
 
 TEST_F(CommandEditorTest, ThePageOpensTheEditorAndApplyTellsTheHost) {
-    reg::WriteDword(kSettings, L"UserDirMode", 2);
-    reg::WriteString(kSettings, L"UserDir", user.wstring() + L"\\");
-    reg::WriteDword(kOptionPage, L"Start", 23);
-    reg::WriteDword(kOptionPage, L"CmdDefMode", 2);
-    reg::WriteDword(kAppInfo, L"StyleMode", 0);
+    reg::WriteDword(reg::kSettings, L"UserDirMode", 2);
+    reg::WriteString(reg::kSettings, L"UserDir", user.wstring() + L"\\");
+    reg::WriteDword(reg::kOptionPage, L"Start", 23);
+    reg::WriteDword(reg::kOptionPage, L"CmdDefMode", 2);
+    reg::WriteDword(reg::kAppInfo, L"StyleMode", 0);
     e2e::FakeHost host;
     ASSERT_TRUE(host.Window());
     option = e2e::StartOption();
@@ -143,10 +140,10 @@ TEST_F(CommandEditorTest, ThePageOpensTheEditorAndApplyTellsTheHost) {
     HWND external = e2e::PageWith(dialog, kModal);
     ASSERT_NE(nullptr, external);
     Send(external, kModal, BM_CLICK);
-    SendMessageW(dialog, WM_COMMAND, MAKEWPARAM(kApply, BN_CLICKED), 0);
+    e2e::Click(dialog, kApply);
     EXPECT_THAT(host.Commands(), testing::ElementsAre(48999u, 49018u, 49019u, 49099u));
-    EXPECT_EQ(3u, reg::ReadDword(kAppInfo, L"StyleMode"));
-    EXPECT_EQ(2u, reg::ReadDword(kOptionPage, L"CmdDefMode"));
+    EXPECT_EQ(3u, reg::ReadDword(reg::kAppInfo, L"StyleMode"));
+    EXPECT_EQ(2u, reg::ReadDword(reg::kOptionPage, L"CmdDefMode"));
     PostMessageW(dialog, WM_COMMAND, MAKEWPARAM(IDCANCEL, BN_CLICKED), 0);
     option.WaitOrKill();
 }

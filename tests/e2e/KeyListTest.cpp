@@ -16,9 +16,10 @@
 
 namespace {
 
+namespace reg = e2e::registry;
+
 namespace fs = std::filesystem;
 
-constexpr wchar_t kSettings[] = L"Software\\Tarnwick\\Qor\\Main001\\Settings";
 const wchar_t* const kCommandLists[] = {L"ExternalDefCommand.txt", L"ExternalUserCommand.txt", L"ScriptCommand.txt",
                                         L"ScriptNaviCommand.txt",  L"UserMenuCommand.txt",     L"PlugInCommand.txt"};
 const wchar_t* const kListNames[] = {
@@ -59,9 +60,9 @@ protected:
         for (const wchar_t* list : kCommandLists) {
             fs::copy_file(fs::path(e2e::StageRoot()) / L"User" / list, user / list);
         }
-        e2e::registry::WriteDword(kSettings, L"UserDirMode", 2);
-        e2e::registry::WriteString(kSettings, L"UserDir", user.wstring());
-        e2e::registry::WriteString(kSettings, L"NLS", L".en-US");
+        e2e::registry::WriteDword(reg::kSettings, L"UserDirMode", 2);
+        e2e::registry::WriteString(reg::kSettings, L"UserDir", user.wstring());
+        e2e::registry::WriteString(reg::kSettings, L"NLS", L".en-US");
     }
     void TearDown() override { fs::remove_all(root); }
 
@@ -77,7 +78,7 @@ protected:
         ASSERT_TRUE(e2e::Answer(browser, IDOK));
     }
 
-    e2e::registry::ScopedKey settings{kSettings};
+    e2e::registry::ScopedKey settings{reg::kSettings};
     fs::path root;
     fs::path user;
     fs::path out;

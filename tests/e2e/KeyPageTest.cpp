@@ -21,8 +21,6 @@ namespace {
 namespace fs = std::filesystem;
 namespace reg = e2e::registry;
 
-constexpr wchar_t kOptionPage[] = L"Software\\Tarnwick\\QOR\\Command\\Option\\OptionPage";
-constexpr wchar_t kSettings[] = L"Software\\Tarnwick\\Qor\\Main001\\Settings";
 constexpr int kApply = 1301;
 constexpr int kKeyList = 1601;
 constexpr int kEdit = 1301;
@@ -32,10 +30,6 @@ constexpr int kPickerSearch = 1301;
 constexpr unsigned kRefresh = 33301;  // a command of the sample main menu
 const wchar_t* const kKeyFiles[] = {L"CommandMode.key", L"SerchMode.key", L"Mode3.key", L"Mode4.key", L"Mode5.key",
                                     L"Mode6.key",       L"Mode7.key",     L"Mode8.key", L"Mode9.key"};
-
-void Click(HWND window, int id) {
-    SendMessageW(window, WM_COMMAND, MAKEWPARAM(id, BN_CLICKED), 0);
-}
 
 // Closes the picker with the button and waits until its modal loop has handed back to the page.
 void ClosePicker(HWND picker, int button, HWND dialog, HANDLE process) {
@@ -51,9 +45,9 @@ protected:
         fs::remove_all(user);
         fs::create_directories(user);
         fs::copy(fs::path(e2e::StageRoot()) / L"User", user, fs::copy_options::recursive);
-        reg::WriteDword(kSettings, L"UserDirMode", 2);
-        reg::WriteString(kSettings, L"UserDir", user.wstring() + L"\\");
-        reg::WriteDword(kOptionPage, L"Start", 2);
+        reg::WriteDword(reg::kSettings, L"UserDirMode", 2);
+        reg::WriteString(reg::kSettings, L"UserDir", user.wstring() + L"\\");
+        reg::WriteDword(reg::kOptionPage, L"Start", 2);
     }
     void TearDown() override { fs::remove_all(user); }
 
@@ -79,8 +73,8 @@ protected:
         return all;
     }
 
-    reg::ScopedKey page_{kOptionPage};
-    reg::ScopedKey settings_{kSettings};
+    reg::ScopedKey page_{reg::kOptionPage};
+    reg::ScopedKey settings_{reg::kSettings};
     fs::path user;
     e2e::Process option;
     HWND dialog = nullptr;
@@ -93,10 +87,10 @@ TEST_F(KeyPageTest, ABindingFromThePickerReachesTheKeyFilesAndCancelKeepsThem) {
     ASSERT_NE(nullptr, page);
     HWND picker = OpenPicker(page);
     ASSERT_NE(nullptr, picker);
-    SendMessageW(GetDlgItem(picker, kPickerId), WM_SETTEXT, 0, reinterpret_cast<LPARAM>(L"33301"));
-    Click(picker, kPickerSearch);
+    e2e::SetText(picker, kPickerId, L"33301");
+    e2e::Click(picker, kPickerSearch);
     ClosePicker(picker, IDOK, dialog, option.Handle());
-    Click(dialog, kApply);
+    e2e::Click(dialog, kApply);
     EXPECT_THAT(host.Commands(), testing::ElementsAre(48999u, 49009u, 49099u));
     const std::string saved = KeyFiles();
     for (const wchar_t* name : kKeyFiles) EXPECT_EQ(608u, fs::file_size(user / name)) << fs::path(name).string();

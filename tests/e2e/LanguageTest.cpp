@@ -12,7 +12,7 @@
 
 namespace {
 
-constexpr wchar_t kSettings[] = L"Software\\Tarnwick\\Qor\\Main001\\Settings";
+namespace reg = e2e::registry;
 
 // A language whose message file exists but whose resource library does not: the program says so,
 // in that language's words, and goes on.
@@ -25,12 +25,12 @@ TEST(Language, AMissingLibraryIsToldInTheChosenLanguage) {
         {L"Msg.en-US.txt", L"The language resource could not be loaded."},
         {L"Msg.ja-JP.txt", L"言語リソースを読み込めませんでした。"},
     };
-    e2e::registry::ScopedKey settings(kSettings);
+    e2e::registry::ScopedKey settings(reg::kSettings);
     const std::wstring lang = e2e::StageRoot() + L"\\Lang\\";
     for (const Case& c : cases) {
         SCOPED_TRACE(testing::PrintToString(std::wstring(c.messageFile)));
         ASSERT_TRUE(CopyFileW((lang + c.messageFile).c_str(), (lang + L"Msg.zz-ZZ.txt").c_str(), FALSE));
-        e2e::registry::WriteString(kSettings, L"NLS", L".zz-ZZ");
+        e2e::registry::WriteString(reg::kSettings, L"NLS", L".zz-ZZ");
         e2e::Process option = e2e::StartOption({L"/T", L"C:\\none.txt"});
         ASSERT_TRUE(option);
         HWND box = e2e::FindMessageBox(option.Id());

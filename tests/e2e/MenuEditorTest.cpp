@@ -28,10 +28,6 @@ constexpr int kText = 1001;
 constexpr int kTarget = 1002;
 constexpr wchar_t kSampleMenu[] = L"Main.txt";
 
-void SetText(HWND dialog, int id, const wchar_t* text) {
-    SendMessageW(GetDlgItem(dialog, id), WM_SETTEXT, 0, reinterpret_cast<LPARAM>(text));
-}
-
 // ASCII text as the file's UTF-16LE bytes.
 std::string Units(const std::string& text) {
     std::string bytes;
@@ -95,11 +91,11 @@ TEST_F(MenuEditorTest, ALineAddedThroughTheLineDialogIsSavedAsTheHostReadsIt) {
     PostMessageW(editor, WM_COMMAND, MAKEWPARAM(kAdd, BN_CLICKED), 0);
     HWND line = e2e::FindVisibleWindow(option.Id(), L"Menu command");
     ASSERT_NE(nullptr, line);
-    SetText(line, kKeyword, L"menuitem");
+    e2e::SetText(line, kKeyword, L"menuitem");
     // As when typed: the dialog hears that the box's text changed.
     PostMessageW(line, WM_COMMAND, MAKEWPARAM(kKeyword, CBN_EDITCHANGE), 0);
-    SetText(line, kText, L" Refresh\t");
-    SetText(line, kTarget, L"33301");
+    e2e::SetText(line, kText, L" Refresh\t");
+    e2e::SetText(line, kTarget, L"33301");
     e2e::WaitUntilDialogIdle(line, option.Handle());
     Sleep(100);
     e2e::CaptureWindow(line, PicturePath(L"menu-command.bmp"));

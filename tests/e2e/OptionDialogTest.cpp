@@ -22,9 +22,6 @@ namespace {
 
 namespace reg = e2e::registry;
 
-constexpr wchar_t kOptionPage[] = L"Software\\Tarnwick\\QOR\\Command\\Option\\OptionPage";
-constexpr wchar_t kAppInfo[] = L"Software\\Tarnwick\\QOR\\Main001\\AppInfo";
-constexpr wchar_t kSettings[] = L"Software\\Tarnwick\\Qor\\Main001\\Settings";
 constexpr wchar_t kTitle[] = L"オプション";
 constexpr int kApply = 1301;
 // Every row of the tree: the pages and groups the user can reach.
@@ -32,21 +29,6 @@ constexpr LRESULT kTreeItems = 51;
 // What each Apply tells the hosts: the series starts and ends with these.
 constexpr unsigned kSeriesStart = 48999;
 constexpr unsigned kSeriesEnd = 49099;
-
-void Click(HWND window, int id) {
-    SendMessageW(window, WM_COMMAND, MAKEWPARAM(id, BN_CLICKED), 0);
-}
-
-void SetCheck(HWND page, int id, bool on) {
-    SendMessageW(GetDlgItem(page, id), BM_SETCHECK, on ? BST_CHECKED : BST_UNCHECKED, 0);
-}
-
-// Asked of the control itself: GetWindowText does not ask another process's controls.
-std::wstring Text(HWND window) {
-    wchar_t text[256] = {};
-    SendMessageW(window, WM_GETTEXT, 256, reinterpret_cast<LPARAM>(text));
-    return text;
-}
 
 // Closes the dialog as its button would and gives the exit code.
 DWORD Close(e2e::Process& option, HWND dialog, int button = IDCANCEL) {
@@ -67,13 +49,13 @@ std::wstring TakeMessageBox(const e2e::Process& option) {
 // With LangOut on it writes its text file for translators, and a translated file is what the next
 // opening shows.
 TEST(OptionDialog, OpensOverTheHostInItsOwnOrTranslatedWordsAndOnlyAValidPassStores) {
-    reg::ScopedKey page(kOptionPage);
-    reg::ScopedKey appInfo(kAppInfo);
-    reg::ScopedKey settings(kSettings);
-    reg::WriteDword(kOptionPage, L"Start", 36);
-    reg::WriteString(kOptionPage, L"SetFolder", L"C:\\Work");
-    reg::WriteString(kSettings, L"NLS", L".ja-JP");
-    reg::WriteDword(kSettings, L"LangOut", 1);
+    reg::ScopedKey page(reg::kOptionPage);
+    reg::ScopedKey appInfo(reg::kAppInfo);
+    reg::ScopedKey settings(reg::kSettings);
+    reg::WriteDword(reg::kOptionPage, L"Start", 36);
+    reg::WriteString(reg::kOptionPage, L"SetFolder", L"C:\\Work");
+    reg::WriteString(reg::kSettings, L"NLS", L".ja-JP");
+    reg::WriteDword(reg::kSettings, L"LangOut", 1);
     const e2e::ScopedFile translation(e2e::StageRoot() + L"\\command\\Option\\.ja-JP\\Option\\159.txt");
     e2e::FakeHost host;
     ASSERT_TRUE(host.Window());
@@ -92,10 +74,10 @@ TEST(OptionDialog, OpensOverTheHostInItsOwnOrTranslatedWordsAndOnlyAValidPassSto
         EXPECT_TRUE(IsWindowVisible(GetDlgItem(dialog, button)));
     }
     EXPECT_EQ(1, SendMessageW(dialog, 0x8030, 0, 0)) << "the host's probe is answered";
-    EXPECT_EQ(L"", reg::ReadString(kOptionPage, L"SetFolder").value_or(L"<absent>"));
+    EXPECT_EQ(L"", reg::ReadString(reg::kOptionPage, L"SetFolder").value_or(L"<absent>"));
     EXPECT_EQ(0u, Close(first, dialog));
-    EXPECT_EQ(L"", reg::ReadString(kOptionPage, L"SetFolder").value_or(L"<absent>"));
-    EXPECT_EQ(36u, reg::ReadDword(kOptionPage, L"Start").value_or(0));
+    EXPECT_EQ(L"", reg::ReadString(reg::kOptionPage, L"SetFolder").value_or(L"<absent>"));
+    EXPECT_EQ(36u, reg::ReadDword(reg::kOptionPage, L"Start").value_or(0));
     EXPECT_THAT(host.Commands(), testing::IsEmpty());
     std::wstring text = e2e::ReadUtf16File(translation.Path());
     ASSERT_TRUE(text.starts_with(L"\uFEFFオプション\r\n")) << "no dialog text file written";
@@ -103,27 +85,27 @@ TEST(OptionDialog, OpensOverTheHostInItsOwnOrTranslatedWordsAndOnlyAValidPassSto
 
     // No page stored and no switch string this time, and a value out of range: the framework says so,
     // yet OK closes the dialog, stores nothing, tells no host anything and leaves the page unset.
-    reg::DeleteKey(kOptionPage);
-    reg::WriteDword(kAppInfo, L"UsePing", 0);
-    reg::WriteDword(kAppInfo, L"NetworkTimeout", 500);
+    reg::DeleteKey(reg::kOptionPage);
+    reg::WriteDword(reg::kAppInfo, L"UsePing", 0);
+    reg::WriteDword(reg::kAppInfo, L"NetworkTimeout", 500);
     ASSERT_TRUE(e2e::WriteUtf16File(translation.Path(), L"\uFEFFOptions\r\n1301\tButton\tApply\r\n"));
     e2e::Process second = e2e::StartOption();
     ASSERT_TRUE(second);
     HWND translated = e2e::FindVisibleWindow(second.Id(), L"Options");
     ASSERT_NE(nullptr, translated);
-    EXPECT_EQ(L"Apply", Text(GetDlgItem(translated, kApply)));
+    EXPECT_EQ(L"Apply", e2e::Text(GetDlgItem(translated, kApply)));
     ASSERT_TRUE(e2e::SelectTreeItem(translated, 30));
     HWND network = e2e::PageWith(translated, 1001);
     ASSERT_NE(nullptr, network);
-    SetCheck(network, 1251, true);
-    Click(network, 1251);
+    e2e::SetCheck(network, 1251, true);
+    e2e::Click(network, 1251);
     SetWindowTextW(GetDlgItem(network, 1001), L"5");
     PostMessageW(translated, WM_COMMAND, MAKEWPARAM(IDOK, BN_CLICKED), 0);
     EXPECT_NE(std::wstring::npos, TakeMessageBox(second).find(L"5000000"));
     EXPECT_EQ(0u, second.WaitOrKill());
-    EXPECT_FALSE(reg::ReadDword(kOptionPage, L"Start"));
-    EXPECT_EQ(0u, reg::ReadDword(kAppInfo, L"UsePing").value_or(99));
-    EXPECT_EQ(500u, reg::ReadDword(kAppInfo, L"NetworkTimeout").value_or(0));
+    EXPECT_FALSE(reg::ReadDword(reg::kOptionPage, L"Start"));
+    EXPECT_EQ(0u, reg::ReadDword(reg::kAppInfo, L"UsePing").value_or(99));
+    EXPECT_EQ(500u, reg::ReadDword(reg::kAppInfo, L"NetworkTimeout").value_or(0));
     EXPECT_THAT(host.Commands(), testing::IsEmpty());
 }
 
@@ -131,12 +113,12 @@ TEST(OptionDialog, OpensOverTheHostInItsOwnOrTranslatedWordsAndOnlyAValidPassSto
 // next time, and tells every running host the codes of the groups to reread between the series'
 // brackets; each Apply says it all again, and OK closes after an Apply of its own.
 TEST(OptionDialog, ApplyStoresEveryPageAndEveryHostHearsWhatToReread) {
-    reg::ScopedKey page(kOptionPage);
-    reg::ScopedKey appInfo(kAppInfo);
-    reg::ScopedKey settings(kSettings);
-    reg::WriteDword(kOptionPage, L"Start", 37);
-    reg::WriteDword(kAppInfo, L"TitleBarType", 0);
-    reg::WriteDword(kAppInfo, L"Message", 0x12340005);
+    reg::ScopedKey page(reg::kOptionPage);
+    reg::ScopedKey appInfo(reg::kAppInfo);
+    reg::ScopedKey settings(reg::kSettings);
+    reg::WriteDword(reg::kOptionPage, L"Start", 37);
+    reg::WriteDword(reg::kAppInfo, L"TitleBarType", 0);
+    reg::WriteDword(reg::kAppInfo, L"Message", 0x12340005);
     e2e::FakeHost first;
     e2e::FakeHost second({.title = L"Qor 2"});
     ASSERT_TRUE(first.Window());
@@ -156,10 +138,10 @@ TEST(OptionDialog, ApplyStoresEveryPageAndEveryHostHearsWhatToReread) {
     HWND style = e2e::PageWith(dialog, 1203);
     ASSERT_NE(nullptr, style);
     EXPECT_EQ(BST_CHECKED, SendMessageW(GetDlgItem(style, 1201), BM_GETCHECK, 0, 0));
-    SetCheck(style, 1201, false);
-    SetCheck(style, 1203, true);
-    Click(dialog, kApply);
-    EXPECT_EQ(2u, reg::ReadDword(kAppInfo, L"TitleBarType").value_or(0));
+    e2e::SetCheck(style, 1201, false);
+    e2e::SetCheck(style, 1203, true);
+    e2e::Click(dialog, kApply);
+    EXPECT_EQ(2u, reg::ReadDword(reg::kAppInfo, L"TitleBarType").value_or(0));
     expectHeard({kSeriesStart, kSeriesEnd});
 
     // The confirmation page: its rows follow the stored bits, a preset changes the checks, and the
@@ -173,15 +155,15 @@ TEST(OptionDialog, ApplyStoresEveryPageAndEveryHostHearsWhatToReread) {
         const bool checked = (SendMessageW(list, LVM_GETITEMSTATE, row, LVIS_STATEIMAGEMASK) >> 12) == 2;
         EXPECT_EQ(row == 0 || row == 2, checked) << row;
     }
-    Click(confirmations, 1303);
-    Click(dialog, kApply);
-    EXPECT_EQ(0x12344704u, reg::ReadDword(kAppInfo, L"Message").value_or(0));
+    e2e::Click(confirmations, 1303);
+    e2e::Click(dialog, kApply);
+    EXPECT_EQ(0x12344704u, reg::ReadDword(reg::kAppInfo, L"Message").value_or(0));
     expectHeard({kSeriesStart, 49036, kSeriesEnd});
 
     // A group item selected, OK: its own Apply says it all again.
     ASSERT_TRUE(e2e::SelectTreeItem(dialog, 1003));
     EXPECT_EQ(0u, Close(option, dialog, IDOK));
-    EXPECT_EQ(1003u, reg::ReadDword(kOptionPage, L"Start").value_or(0));
+    EXPECT_EQ(1003u, reg::ReadDword(reg::kOptionPage, L"Start").value_or(0));
     expectHeard({kSeriesStart, 49036, kSeriesEnd});
 }
 

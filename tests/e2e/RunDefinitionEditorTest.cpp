@@ -23,23 +23,14 @@ namespace {
 namespace fs = std::filesystem;
 namespace reg = e2e::registry;
 
-constexpr wchar_t kOptionPage[] = L"Software\\Tarnwick\\QOR\\Command\\Option\\OptionPage";
-constexpr wchar_t kAppInfo[] = L"Software\\Tarnwick\\QOR\\Main001\\AppInfo";
-
 void Post(HWND window, int id) {
     PostMessageW(window, WM_COMMAND, MAKEWPARAM(id, BN_CLICKED), 0);
 }
 
-std::wstring Text(HWND control) {
-    wchar_t text[512] = {};
-    SendMessageW(control, WM_GETTEXT, 512, reinterpret_cast<LPARAM>(text));
-    return text;
-}
-
 // The samples are in the saved form already: what a save changes is the edit alone.
 TEST(RunDefinitionEditor, ASavedChangeIsWhatTheHostReadsAndCancelWritesNothing) {
-    reg::ScopedKey appInfo(kAppInfo);
-    reg::WriteDword(kAppInfo, L"Message", 0xFFFFFFFF);
+    reg::ScopedKey appInfo(reg::kAppInfo);
+    reg::WriteDword(reg::kAppInfo, L"Message", 0xFFFFFFFF);
     e2e::FakeHost host;
     ASSERT_TRUE(host.Window());
     const fs::path folder = fs::temp_directory_path() / ("RunDefinitionEditor" + std::to_string(GetCurrentProcessId()));
@@ -61,15 +52,15 @@ TEST(RunDefinitionEditor, ASavedChangeIsWhatTheHostReadsAndCancelWritesNothing) 
         ASSERT_NE(nullptr, editor);
         EXPECT_EQ(host.Window(), GetWindow(editor, GW_OWNER));
         if (run) {
-            EXPECT_EQ(L"C:\\Windows\\notepad.exe", Text(GetDlgItem(editor, 1052)));
-            SendMessageW(GetDlgItem(editor, 1001), WM_SETTEXT, 0, reinterpret_cast<LPARAM>(L"?SelFile? /p"));
+            EXPECT_EQ(L"C:\\Windows\\notepad.exe", e2e::Text(GetDlgItem(editor, 1052)));
+            e2e::SetText(editor, 1001, L"?SelFile? /p");
             SendMessageW(GetDlgItem(editor, 1152), CB_SETCURSEL, 5, 0);
             expected.replace(expected.find(L"?SelFile?"), 9, L"?SelFile? /p");
             expected.replace(expected.find(L"BootMode=0"), 10, L"BootMode=5");
         } else {
             EXPECT_EQ(3, SendMessageW(GetDlgItem(editor, 1601), LVM_GETITEMCOUNT, 0, 0));
-            SendMessageW(editor, WM_COMMAND, MAKEWPARAM(1305, BN_CLICKED), 0);
-            SendMessageW(GetDlgItem(editor, 1001), WM_SETTEXT, 0, reinterpret_cast<LPARAM>(L"md"));
+            e2e::Click(editor, 1305);
+            e2e::SetText(editor, 1001, L"md");
             expected += L"Filter=md\r\nExRun=New Command\r\n";
         }
         Post(editor, save ? IDOK : IDCANCEL);
@@ -91,8 +82,8 @@ TEST(RunDefinitionEditor, ASavedChangeIsWhatTheHostReadsAndCancelWritesNothing) 
 }
 
 TEST(RunDefinitionEditor, TheScriptPagesModeIsStoredAndTheHostHearsOnlyTheBrackets) {
-    reg::ScopedKey page(kOptionPage);
-    reg::WriteDword(kOptionPage, L"Start", 21);
+    reg::ScopedKey page(reg::kOptionPage);
+    reg::WriteDword(reg::kOptionPage, L"Start", 21);
     e2e::FakeHost host;
     ASSERT_TRUE(host.Window());
     e2e::Process option = e2e::StartOption();
@@ -103,8 +94,8 @@ TEST(RunDefinitionEditor, TheScriptPagesModeIsStoredAndTheHostHearsOnlyTheBracke
     ASSERT_NE(nullptr, scripts);
     EXPECT_EQ(0, SendMessageW(GetDlgItem(scripts, 1151), CB_GETCURSEL, 0, 0));
     SendMessageW(GetDlgItem(scripts, 1151), CB_SETCURSEL, 2, 0);
-    SendMessageW(dialog, WM_COMMAND, MAKEWPARAM(1301, BN_CLICKED), 0);
-    EXPECT_EQ(2u, reg::ReadDword(kOptionPage, L"ExToolMode").value_or(99));
+    e2e::Click(dialog, 1301);
+    EXPECT_EQ(2u, reg::ReadDword(reg::kOptionPage, L"ExToolMode").value_or(99));
     EXPECT_EQ((std::vector<unsigned>{48999, 49099}), host.Commands());
     Post(dialog, IDCANCEL);
     EXPECT_EQ(0u, option.WaitOrKill());

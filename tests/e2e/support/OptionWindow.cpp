@@ -89,6 +89,24 @@ HWND PageWith(HWND dialog, int controlId) {
     return nullptr;
 }
 
+void Click(HWND window, int id) {
+    SendMessageW(window, WM_COMMAND, MAKEWPARAM(id, BN_CLICKED), 0);
+}
+
+std::wstring Text(HWND control) {
+    wchar_t text[512] = {};
+    SendMessageW(control, WM_GETTEXT, 512, reinterpret_cast<LPARAM>(text));
+    return text;
+}
+
+void SetText(HWND dialog, int id, const wchar_t* text) {
+    SendMessageW(GetDlgItem(dialog, id), WM_SETTEXT, 0, reinterpret_cast<LPARAM>(text));
+}
+
+void SetCheck(HWND dialog, int id, bool on) {
+    SendMessageW(GetDlgItem(dialog, id), BM_SETCHECK, on ? BST_CHECKED : BST_UNCHECKED, 0);
+}
+
 std::wstring DialogText(HWND dialog) {
     std::wstring text;
     for (HWND child = FindWindowExW(dialog, nullptr, L"Static", nullptr); child;

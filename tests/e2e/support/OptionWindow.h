@@ -16,6 +16,13 @@ HWND FindVisibleWindow(DWORD processId, const wchar_t* title, DWORD timeoutMs = 
 // The page of the dialog that holds a control, found among the dialog's child windows.
 HWND PageWith(HWND dialog, int controlId);
 
+// Presses a button of a window as the user would, and waits until the window has handled it.
+void Click(HWND window, int id);
+// A control's text, asked of the control itself: GetWindowText does not ask another process's controls.
+std::wstring Text(HWND control);
+void SetText(HWND dialog, int id, const wchar_t* text);
+void SetCheck(HWND dialog, int id, bool on);
+
 // All static texts of a dialog, joined: a message box's text is one of them.
 std::wstring DialogText(HWND dialog);
 // A visible message box of the process (a dialog without a tree) once its text is in.

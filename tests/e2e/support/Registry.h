@@ -9,6 +9,11 @@
 
 namespace e2e::registry {
 
+// The option dialog's own values, and the host's sections as the first host reads them.
+inline constexpr wchar_t kOptionPage[] = L"Software\\Tarnwick\\Qor\\Command\\Option\\OptionPage";
+inline constexpr wchar_t kSettings[] = L"Software\\Tarnwick\\Qor\\Main001\\Settings";
+inline constexpr wchar_t kAppInfo[] = L"Software\\Tarnwick\\Qor\\Main001\\AppInfo";
+
 struct Value {
     DWORD type = REG_NONE;
     std::vector<BYTE> data;
