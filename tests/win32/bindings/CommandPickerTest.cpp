@@ -37,7 +37,6 @@ protected:
     }
 
     static std::wstring Text(HWND dialog, int id) { return TextOf(GetDlgItem(dialog, id)); }
-    static void Click(HWND dialog, int id) { SendMessageW(dialog, WM_COMMAND, MAKEWPARAM(id, BN_CLICKED), 0); }
     static std::wstring Selected(HWND dialog) {
         ui::TreeView tree(GetDlgItem(dialog, IDC_KEY_SETTING_TREE));
         HTREEITEM item = tree.GetSelectedItem();
@@ -96,17 +95,10 @@ TEST_F(CommandPickerTest, TheKeyPageBindsARowThroughThePicker) {
     ui::ListView list(GetDlgItem(page, IDC_KEYSET_LIST));
     ASSERT_EQ(76, list.GetItemCount());
     list.SelectRow(1);
-    static std::function<void()> inPicker;
-    inPicker = [] {
-        HWND picker = FindWindowW(L"#32770", L"機能一覧");
-        ASSERT_NE(nullptr, picker);
+    WhenShown(L"機能一覧", [](HWND picker) {
         SetDlgItemTextW(picker, IDC_KEY_SETTING_ID, L"32811");
         Click(picker, IDC_KEY_SETTING_SEARCH);
         Click(picker, IDOK);
-    };
-    SetTimer(nullptr, 0, 50, [](HWND, UINT, UINT_PTR id, DWORD) {
-        KillTimer(nullptr, id);
-        inPicker();
     });
     Click(page, IDC_KEYSET_EDIT);
     EXPECT_EQ((std::pair<std::wstring, LPARAM>{L"詳細表示", 32811}),

@@ -17,10 +17,6 @@ namespace {
 using namespace optiontest;
 using platform::fake::ShownMessage;
 
-void Click(HWND dialog, int id) {
-    SendDlgItemMessageW(dialog, id, BM_CLICK, 0, 0);
-}
-
 std::vector<bool> Enabled(HWND dialog, std::initializer_list<int> ids) {
     std::vector<bool> enabled;
     for (int id : ids) enabled.push_back(IsWindowEnabled(GetDlgItem(dialog, id)) != FALSE);

@@ -22,10 +22,6 @@ namespace {
 using namespace optiontest;
 using platform::fake::ShownMessage;
 
-void Click(HWND dialog, int id) {
-    SendMessageW(dialog, WM_COMMAND, MAKEWPARAM(id, BN_CLICKED), reinterpret_cast<LPARAM>(GetDlgItem(dialog, id)));
-}
-
 // Handles what the dialogs posted to themselves.
 void Pump() {
     MSG msg;
@@ -118,19 +114,11 @@ TEST_F(MenuEditorDialogsTest, TheLineDialogFollowsTheKeywordAndFillsAFileAsAMacr
               std::make_tuple(line.command, line.text, line.target));
 }
 
-// Answers the next modal window titled so, once it shows, by picking its first list row (if asked)
-// and pressing the button.
+// Answers the next modal window titled so by picking its first list row (if asked) and pressing the button.
 void AnswerWhenShown(const wchar_t* title, int button, bool pickFirstRow) {
-    static const wchar_t* wanted;
-    static int pressed;
-    static bool pick;
-    wanted = title, pressed = button, pick = pickFirstRow;
-    SetTimer(nullptr, 0, 50, [](HWND, UINT, UINT_PTR id, DWORD) {
-        HWND window = FindWindowW(L"#32770", wanted);
-        if (!window) return;
-        KillTimer(nullptr, id);
-        if (pick) ui::ListView(GetDlgItem(window, 1601)).SelectRow(0);
-        Click(window, pressed);
+    WhenShown(title, [=](HWND window) {
+        if (pickFirstRow) ui::ListView(GetDlgItem(window, 1601)).SelectRow(0);
+        Click(window, button);
     });
 }
 

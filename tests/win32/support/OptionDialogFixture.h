@@ -72,6 +72,29 @@ inline RECT ScreenRect(HWND window) {
     return rect;
 }
 
+// Presses a button of a dialog as the user would: a radio or check box changes its state too.
+inline void Click(HWND dialog, int id) {
+    SendDlgItemMessageW(dialog, id, BM_CLICK, 0, 0);
+}
+
+// Acts on the next dialog titled so once it shows: a modal window the test has no other hold on. One
+// that has not come in five seconds fails the test, and the active window is cancelled so that its
+// modal loop ends.
+inline void WhenShown(const wchar_t* title, std::function<void(HWND)> act) {
+    static std::wstring wanted;
+    static std::function<void(HWND)> action;
+    static int ticks;
+    wanted = title, action = std::move(act), ticks = 0;
+    SetTimer(nullptr, 0, 50, [](HWND, UINT, UINT_PTR id, DWORD) {
+        HWND window = FindWindowW(L"#32770", wanted.c_str());
+        if (!window && ++ticks < 100) return;
+        KillTimer(nullptr, id);
+        if (window) return action(window);
+        ADD_FAILURE() << "no window came titled " << testing::PrintToString(wanted);
+        PostMessageW(GetActiveWindow(), WM_COMMAND, IDCANCEL, 0);
+    });
+}
+
 // Runs the dialog modally; once the modal loop runs, each step gets the dialog's window in turn,
 // the next one after what the one before posted has been handled.
 inline INT_PTR RunModal(ui::Dialog& dialog, std::vector<std::function<void(HWND)>> steps) {
