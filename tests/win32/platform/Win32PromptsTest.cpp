@@ -117,26 +117,19 @@ TEST(Win32Prompts, FolderBrowser) {
     EXPECT_EQ(FolderChoice{}, Browse(path, [](HWND browser) { PostMessageW(browser, WM_COMMAND, IDCANCEL, 0); }));
 
     // "My Computer" has no path of its own.
-    FolderChoice computer = Browse(L"", [](HWND browser) {
+    const auto pickMyComputer = [](HWND browser) {
         PIDLIST_ABSOLUTE drives = nullptr;
         ASSERT_EQ(S_OK, SHGetSpecialFolderLocation(nullptr, CSIDL_DRIVES, &drives));
         SendMessageW(browser, BFFM_SETSELECTIONW, FALSE, reinterpret_cast<LPARAM>(drives));
         CoTaskMemFree(drives);
         PostMessageW(browser, WM_COMMAND, IDOK, 0);
-    });
-    EXPECT_EQ((FolderChoice{true, L""}), computer);
+    };
+    EXPECT_EQ((FolderChoice{true, L""}), Browse(L"", pickMyComputer));
 
     // Asked for its name, the same folder gives the shell's parsing name: "::{...}" for a virtual one.
     FolderChoice named =
         OnItsOwnThread([&](platform::Prompts& prompts) { return prompts.BrowseForFolderName(L"Where to?", L""); },
-                       [](HWND browser) {
-                           PIDLIST_ABSOLUTE drives = nullptr;
-                           ASSERT_EQ(S_OK, SHGetSpecialFolderLocation(nullptr, CSIDL_DRIVES, &drives));
-                           SendMessageW(browser, BFFM_SETSELECTIONW, FALSE, reinterpret_cast<LPARAM>(drives));
-                           CoTaskMemFree(drives);
-                           PostMessageW(browser, WM_COMMAND, IDOK, 0);
-                       },
-                       HoldsATree);
+                       pickMyComputer, HoldsATree);
     EXPECT_TRUE(named.confirmed);
     EXPECT_EQ(0, _wcsicmp(L"::{20D04FE0-3AEA-1069-A2D8-08002B30309D}", named.path.c_str()))
         << testing::PrintToString(named.path);
