@@ -16,6 +16,8 @@ using namespace optiontest;
 
 constexpr const wchar_t* kAppInfo = L"Software\\Tarnwick\\QOR\\Main001\\AppInfo";
 constexpr const wchar_t* kSettings = L"Software\\Tarnwick\\QOR\\Main001\\Settings";
+constexpr const wchar_t* kListDraw = L"Software\\Tarnwick\\QOR\\Main001\\ListDraw";
+constexpr const wchar_t* kListAction = L"Software\\Tarnwick\\QOR\\Main001\\ListAction";
 constexpr platform::WindowRef kHost = 0x1234;
 constexpr int kApply = 1301;
 constexpr const wchar_t* kNotInteger = L"Please enter an integer.";
@@ -68,6 +70,9 @@ TEST_F(OptionPagesTest, DialogAndPagesShowTheirOwnWords) {
         {24, 1251, L"ファイルのドロップを許可する"}, {30, -1, L"リトライ回数:"}, {37, 1201, L"Qor - [Folder]"},
         {5, 1203, L"任意のフォルダー"}, {39, 1402, L"Event/Message"}, {23, 1304, L"スクリプトコマンド"},
         {25, 1203, L"常に前面に表示・タスクバーに表示しない"},
+        {28, 1261, L"更新の監視状況・切り替えボタン"}, {28, 1304, L"高機能サンプル"}, {32, 1251, L"C/Migemoを使用する"},
+        {44, 1205, L"ダブルクリックした位置のパスの階層のメニューを表示"}, {40, -1, L"フォルダーバーで選択している時"},
+        {38, 1253, L"絞込みテキストでAND/OR/NOTが使える拡張構文を使用する"}, {41, 1255, L"サイズ/日付比較を行う"},
     };
     // clang-format on
     SetStart(1000);
@@ -134,14 +139,38 @@ TEST_F(OptionPagesTest, ControlsCarryTheirStoredValuesBothWays) {
         {25, 1205, Radio, kAppInfo,  L"ExitAction",       L"1",         L"0",           49019},
         {25, 1251, Check, kAppInfo,  L"DivTarget",        L"1",         L"0",           49019},
         {25, 1252, Check, kAppInfo,  L"AllPaneTarget",    L"0",         L"1",           49019},
+        // The status area, incremental search, filter bar, split list and address bar pages.
+        {28, 1259, Check, kListDraw, L"ListCtrls",        L"1",         L"0",           49028},
+        {28, 1251, Check, kListDraw, L"NetworkDiskSize",  L"0",         L"1",           49028},
+        {28, 1002, Edit,  kListDraw, L"StSelect",         L"%SelCount%", L"選択 %SelSize%", 49028},
+        {32, 1001, Edit,  kAppInfo,  L"IncliMentTime",    L"1000",      L"100",         49032},
+        {32, 1001, Edit,  kAppInfo,  L"IncliMentTime",    L"1000",      L"99",          0, {}, L"100 and 10000"},
+        {32, 1251, Check, kAppInfo,  L"UseMigemo",        L"1",         L"0",           49032, {1051, 1052, 1002}},
+        {32, 1052, Edit,  kAppInfo,  L"MigemoDic",        L"D:\\Dict", L"E:\\Migemo\\dict", 49032},
+        {32, 1002, Edit,  kAppInfo,  L"MigemoMax",        L"2000",      L"10001",       0, {}, L"0 and 10000"},
+        {38, 1001, Edit,  kListAction, L"FilterSpeed",    L"800",       L"0",           49035},
+        {38, 1001, Edit,  kListAction, L"FilterSpeed",    L"10001",     nullptr,        0, {}, L"0 and 10000"},
+        {38, 1251, Check, kListAction, L"SpcIsOR",        L"1",         L"0",           49035},
+        {38, 1252, Check, kListAction, L"ExcludedFolder", L"0",         L"1",           49035},
+        {38, 1253, Check, kListAction, L"ExPathMatch",    L"0",         L"1",           49035},
+        {41, 1251, Check, kListAction, L"DivWndH",        L"1",         L"0",           49038},
+        {41, 1252, Check, kListAction, L"DivRefleshBoth", L"0",         L"1",           49038},
+        {41, 1253, Check, kListAction, L"DivSyncMove",    L"0",         L"1",           49038},
+        {41, 1254, Check, kListAction, L"DivSyncFocus",   L"0",         L"1",           49038},
+        {41, 1255, Check, kListAction, L"DivCompare",     L"0",         L"1",           49038},
+        {44, 1201, Radio, kListDraw, L"AddressBarDblClk", L"4",         L"0",           49034},
+        {44, 1251, Check, kListDraw, L"AddressBarAddFile", L"0",        L"1",           49034},
     };
     // clang-format on
     for (const Case& c : cases) {
         SCOPED_TRACE(testing::PrintToString(std::wstring(c.name) + L"=" + c.stored));
-        const bool text = c.control == 1051;
+        const bool text = std::wstring(c.stored).find_first_not_of(L"-0123456789") != std::wstring::npos;
         fake_.registry().DeleteKey(kAppInfo);
         fake_.registry().DeleteKey(kSettings);
-        DirectWriteInt(kAppInfo, L"UsePing", 1);  // the network fields enabled, so a refused one takes the focus
+        fake_.registry().DeleteKey(c.section);
+        // The network and C/Migemo fields enabled, so that a refused one takes the focus.
+        DirectWriteInt(kAppInfo, L"UsePing", 1);
+        DirectWriteInt(kAppInfo, L"UseMigemo", 1);
         text ? DirectWriteString(c.section, c.name, c.stored) : DirectWriteInt(c.section, c.name, std::stoi(c.stored));
         AppServices app{96};  // a process of its own: the draft holds what its pages loaded
         app.commandOptionRoot = app_.commandOptionRoot;
