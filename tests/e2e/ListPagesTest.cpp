@@ -77,7 +77,10 @@ TEST(ListPages, EachPageStoresItsSectionAndTellsTheHostItsCode) {
         for (const Change& change : c.changes) {
             shown = e2e::PageWith(dialog, change.control);
             ASSERT_NE(nullptr, shown);
-            change.typed ? e2e::SetText(shown, change.control, change.typed) : e2e::Click(shown, change.control);
+            if (change.typed)
+                e2e::SetText(shown, change.control, change.typed);
+            else  // as the mouse does it, so that a check or radio button changes too
+                SendDlgItemMessageW(shown, change.control, BM_CLICK, 0, 0);
         }
         e2e::Click(dialog, kApply);
         EXPECT_EQ(Read(c.section, c.applied), c.applied.text ? c.applied.text : std::to_wstring(c.applied.number));
