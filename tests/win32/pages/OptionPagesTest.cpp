@@ -7,6 +7,8 @@
 #include <tuple>
 #include <vector>
 
+#include "definitions/MacroHelperData.h"
+#include "ui/ListView.h"
 #include "unit/Utf16.h"
 #include "win32/support/OptionDialogFixture.h"
 
@@ -347,6 +349,41 @@ TEST_F(OptionPagesTest, OtherPageBrowsesAndOpensTheUserDirectory) {
     Click(page, 1301);
     ASSERT_EQ(1u, fake_.processes().shellRequests().size());
     EXPECT_EQ(app_.directories.UserDirectory(), fake_.processes().shellRequests()[0].file);
+}
+
+// A preset fills the three templates at once. A macro from the macro helper, open on the one tab of the
+// status area, takes the place of the selected text, and Undo takes it back.
+TEST_F(OptionPagesTest, StatusTemplatesComeFromPresetsAndTheMacroHelper) {
+    app_.dialogLanguage.Load();
+    const std::wstring file = MacroHelperFilePath(app_.directories.ProgramDirectory(), app_.dialogLanguage.tag(), 5);
+    fake_.files().CreateDirectoryTree(file.substr(0, file.rfind(L'\\')));
+    fake_.files().AddFile(file, Utf16Bytes(L"%Type%\ttype/%DiskSize%\tsize", true));
+    COptionDlg dialog(app_);
+    HWND page = Open(dialog, 28);
+    ASSERT_NE(nullptr, page);
+    // clang-format off
+    struct Case { int button, control; const wchar_t* text; };
+    const Case cases[] = {
+        {1306, 1003, L"%AllCount% Objects%AllSize% %DiskInfo%"}, {1304, 1001, L"(%DiskFree%/%DiskSize%)"},
+        {1304, 1002, L"%SelCount%%SelSize%/%AllCount%%AllSize% %Type%"}, {1305, 1002, L"%SelCount%個の項目を選択%SelSize%"},
+    };
+    // clang-format on
+    for (const Case& c : cases) {
+        Click(page, c.button);
+        EXPECT_EQ(c.text, Field(page, c.control)) << c.button;
+    }
+    std::vector<bool> tabs;
+    WhenShown(L"マクロ入力", [&](HWND helper) {
+        for (int tab = 0; tab < 6; ++tab) tabs.push_back(IsWindowEnabled(GetDlgItem(helper, 1201 + tab)) != FALSE);
+        ui::ListView(GetDlgItem(helper, 1601)).SelectRow(0);
+        Click(helper, IDOK);
+    });
+    SendDlgItemMessageW(page, 1002, EM_SETSEL, 0, 10);
+    Click(page, 1302);
+    EXPECT_EQ((std::vector{false, false, false, false, false, true}), tabs);
+    EXPECT_EQ(L"%Type%個の項目を選択%SelSize%", Field(page, 1002));
+    SendDlgItemMessageW(page, 1002, EM_UNDO, 0, 0);
+    EXPECT_EQ(L"%SelCount%個の項目を選択%SelSize%", Field(page, 1002));
 }
 
 }  // namespace
