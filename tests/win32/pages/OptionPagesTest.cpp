@@ -386,4 +386,25 @@ TEST_F(OptionPagesTest, StatusTemplatesComeFromPresetsAndTheMacroHelper) {
     EXPECT_EQ(L"%SelCount%個の項目を選択%SelSize%", Field(page, 1002));
 }
 
+// Clicking the first two checks of a place decides at once which of its other two may be changed.
+TEST_F(OptionPagesTest, ContextMenuChecksFollowTheirPlacesFirstTwo) {
+    COptionDlg dialog(app_);
+    HWND page = Open(dialog, 40);
+    ASSERT_NE(nullptr, page);
+    auto enabled = [&] {
+        std::vector<int> ids;
+        for (int id = 1251; id <= 1262; ++id)
+            if (IsWindowEnabled(GetDlgItem(page, id))) ids.push_back(id);
+        return ids;
+    };
+    const std::vector<int> all = {1251, 1252, 1253, 1254, 1255, 1256, 1257, 1258, 1259, 1260, 1261, 1262};
+    EXPECT_EQ(all, enabled());
+    Click(page, 1252);
+    Click(page, 1259);
+    EXPECT_EQ((std::vector<int>{1251, 1252, 1255, 1256, 1257, 1258, 1259, 1260, 1261}), enabled());
+    Click(page, 1252);
+    Click(page, 1259);
+    EXPECT_EQ(all, enabled());
+}
+
 }  // namespace
