@@ -11,6 +11,12 @@
 #include "definitions/COptionMenuDlg.h"
 #include "pages/COptionAppInfoDlg.h"
 #include "pages/COptionCommonUIDlg.h"
+#include "pages/COptionContextMenuDlg.h"
+#include "pages/COptionDivListDlg.h"
+#include "pages/COptionInclimentalSerchDlg.h"
+#include "pages/COptionListAddressbarDlg.h"
+#include "pages/COptionListBarDlg.h"
+#include "pages/COptionListStateDlg.h"
 #include "pages/COptionMessageDlg.h"
 #include "pages/COptionNetworkDlg.h"
 #include "pages/COptionOtherDlg.h"
@@ -46,10 +52,16 @@ const std::vector<PageClass>& PageClasses() {
         {23, &Make<COptionCmdDefDlg>},
         {24, &Make<COptionCommonUIDlg>},
         {25, &Make<COptionExCmdDlg>},
+        {28, &Make<COptionListStateDlg>},
         {30, &Make<COptionNetworkDlg>},
+        {32, &Make<COptionInclimentalSerchDlg>},
         {34, &Make<COptionVersionCheckDlg>},
         {37, &Make<COptionOverallStyleDlg>},
+        {38, &Make<COptionListBarDlg>},
         {39, &Make<COptionMessageDlg>},
+        {40, &Make<COptionContextMenuDlg>},
+        {41, &Make<COptionDivListDlg>},
+        {44, &Make<COptionListAddressbarDlg>},
     };
     // clang-format on
     return classes;

@@ -90,3 +90,45 @@
 #define IDD_OPTION_MOUSE_ACTION3 218
 #define IDD_OPTION_LIST_ADDRESSBAR 219
 #define IDD_OPTION_SCREEN_SAVER 220
+
+// The status area page: what it shows, and the three templates with their macro buttons and presets.
+#define IDC_LIST_STATE_NETWORK_DISK 1251
+#define IDC_LIST_STATE_ALIVE 1259
+#define IDC_LIST_STATE_TIMES 1260
+#define IDC_LIST_STATE_WATCH 1261
+#define IDC_LIST_STATE_DISK_INFO 1001
+#define IDC_LIST_STATE_SELECT 1002
+#define IDC_LIST_STATE_NO_SEL 1003
+#define IDC_LIST_STATE_MACRO_DISK_INFO 1301
+#define IDC_LIST_STATE_MACRO_SELECT 1302
+#define IDC_LIST_STATE_MACRO_NO_SEL 1303
+#define IDC_LIST_STATE_SAMPLE 1304
+#define IDC_LIST_STATE_JAPANESE 1305
+#define IDC_LIST_STATE_ENGLISH 1306
+
+// The incremental search page: its time and the C/Migemo folders.
+#define IDC_INC_SEARCH_TIME 1001
+#define IDC_INC_SEARCH_MIGEMO_MAX 1002
+#define IDC_INC_SEARCH_USE_MIGEMO 1251
+#define IDC_INC_SEARCH_MIGEMO_DLL 1051
+#define IDC_INC_SEARCH_MIGEMO_DIC 1052
+
+// The address bar page: the double-click action, a radio group, and files among the choices.
+#define IDC_ADDRESS_BAR_DBL_CLK 1201
+#define IDC_ADDRESS_BAR_ADD_FILE 1251
+
+// The filter bar page.
+#define IDC_LIST_BAR_FILTER_SPEED 1001
+#define IDC_LIST_BAR_SPC_IS_OR 1251
+#define IDC_LIST_BAR_EXCLUDED_FOLDER 1252
+#define IDC_LIST_BAR_EX_PATH_MATCH 1253
+
+// The context menu page: twelve checks, four for each of three places.
+#define IDC_CONTEXT_MENU_FIRST 1251
+
+// The split list page.
+#define IDC_DIV_LIST_HORIZONTAL 1251
+#define IDC_DIV_LIST_REFRESH_BOTH 1252
+#define IDC_DIV_LIST_SYNC_MOVE 1253
+#define IDC_DIV_LIST_SYNC_FOCUS 1254
+#define IDC_DIV_LIST_COMPARE 1255

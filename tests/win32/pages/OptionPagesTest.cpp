@@ -7,6 +7,8 @@
 #include <tuple>
 #include <vector>
 
+#include "definitions/MacroHelperData.h"
+#include "ui/ListView.h"
 #include "unit/Utf16.h"
 #include "win32/support/OptionDialogFixture.h"
 
@@ -16,6 +18,8 @@ using namespace optiontest;
 
 constexpr const wchar_t* kAppInfo = L"Software\\Tarnwick\\QOR\\Main001\\AppInfo";
 constexpr const wchar_t* kSettings = L"Software\\Tarnwick\\QOR\\Main001\\Settings";
+constexpr const wchar_t* kListDraw = L"Software\\Tarnwick\\QOR\\Main001\\ListDraw";
+constexpr const wchar_t* kListAction = L"Software\\Tarnwick\\QOR\\Main001\\ListAction";
 constexpr platform::WindowRef kHost = 0x1234;
 constexpr int kApply = 1301;
 constexpr const wchar_t* kNotInteger = L"Please enter an integer.";
@@ -68,6 +72,9 @@ TEST_F(OptionPagesTest, DialogAndPagesShowTheirOwnWords) {
         {24, 1251, L"ファイルのドロップを許可する"}, {30, -1, L"リトライ回数:"}, {37, 1201, L"Qor - [Folder]"},
         {5, 1203, L"任意のフォルダー"}, {39, 1402, L"Event/Message"}, {23, 1304, L"スクリプトコマンド"},
         {25, 1203, L"常に前面に表示・タスクバーに表示しない"},
+        {28, 1261, L"更新の監視状況・切り替えボタン"}, {28, 1304, L"高機能サンプル"}, {32, 1251, L"C/Migemoを使用する"},
+        {44, 1205, L"ダブルクリックした位置のパスの階層のメニューを表示"}, {40, -1, L"フォルダーバーで選択している時"},
+        {38, 1253, L"絞込みテキストでAND/OR/NOTが使える拡張構文を使用する"}, {41, 1255, L"サイズ/日付比較を行う"},
     };
     // clang-format on
     SetStart(1000);
@@ -134,14 +141,38 @@ TEST_F(OptionPagesTest, ControlsCarryTheirStoredValuesBothWays) {
         {25, 1205, Radio, kAppInfo,  L"ExitAction",       L"1",         L"0",           49019},
         {25, 1251, Check, kAppInfo,  L"DivTarget",        L"1",         L"0",           49019},
         {25, 1252, Check, kAppInfo,  L"AllPaneTarget",    L"0",         L"1",           49019},
+        // The status area, incremental search, filter bar, split list and address bar pages.
+        {28, 1259, Check, kListDraw, L"ListCtrls",        L"1",         L"0",           49028},
+        {28, 1251, Check, kListDraw, L"NetworkDiskSize",  L"0",         L"1",           49028},
+        {28, 1002, Edit,  kListDraw, L"StSelect",         L"%SelCount%", L"選択 %SelSize%", 49028},
+        {32, 1001, Edit,  kAppInfo,  L"IncliMentTime",    L"1000",      L"100",         49032},
+        {32, 1001, Edit,  kAppInfo,  L"IncliMentTime",    L"1000",      L"99",          0, {}, L"100 and 10000"},
+        {32, 1251, Check, kAppInfo,  L"UseMigemo",        L"1",         L"0",           49032, {1051, 1052, 1002}},
+        {32, 1052, Edit,  kAppInfo,  L"MigemoDic",        L"D:\\Dict", L"E:\\Migemo\\dict", 49032},
+        {32, 1002, Edit,  kAppInfo,  L"MigemoMax",        L"2000",      L"10001",       0, {}, L"0 and 10000"},
+        {38, 1001, Edit,  kListAction, L"FilterSpeed",    L"800",       L"0",           49035},
+        {38, 1001, Edit,  kListAction, L"FilterSpeed",    L"10001",     nullptr,        0, {}, L"0 and 10000"},
+        {38, 1251, Check, kListAction, L"SpcIsOR",        L"1",         L"0",           49035},
+        {38, 1252, Check, kListAction, L"ExcludedFolder", L"0",         L"1",           49035},
+        {38, 1253, Check, kListAction, L"ExPathMatch",    L"0",         L"1",           49035},
+        {41, 1251, Check, kListAction, L"DivWndH",        L"1",         L"0",           49038},
+        {41, 1252, Check, kListAction, L"DivRefleshBoth", L"0",         L"1",           49038},
+        {41, 1253, Check, kListAction, L"DivSyncMove",    L"0",         L"1",           49038},
+        {41, 1254, Check, kListAction, L"DivSyncFocus",   L"0",         L"1",           49038},
+        {41, 1255, Check, kListAction, L"DivCompare",     L"0",         L"1",           49038},
+        {44, 1201, Radio, kListDraw, L"AddressBarDblClk", L"4",         L"0",           49034},
+        {44, 1251, Check, kListDraw, L"AddressBarAddFile", L"0",        L"1",           49034},
     };
     // clang-format on
     for (const Case& c : cases) {
         SCOPED_TRACE(testing::PrintToString(std::wstring(c.name) + L"=" + c.stored));
-        const bool text = c.control == 1051;
+        const bool text = std::wstring(c.stored).find_first_not_of(L"-0123456789") != std::wstring::npos;
         fake_.registry().DeleteKey(kAppInfo);
         fake_.registry().DeleteKey(kSettings);
-        DirectWriteInt(kAppInfo, L"UsePing", 1);  // the network fields enabled, so a refused one takes the focus
+        fake_.registry().DeleteKey(c.section);
+        // The network and C/Migemo fields enabled, so that a refused one takes the focus.
+        DirectWriteInt(kAppInfo, L"UsePing", 1);
+        DirectWriteInt(kAppInfo, L"UseMigemo", 1);
         text ? DirectWriteString(c.section, c.name, c.stored) : DirectWriteInt(c.section, c.name, std::stoi(c.stored));
         AppServices app{96};  // a process of its own: the draft holds what its pages loaded
         app.commandOptionRoot = app_.commandOptionRoot;
@@ -318,6 +349,62 @@ TEST_F(OptionPagesTest, OtherPageBrowsesAndOpensTheUserDirectory) {
     Click(page, 1301);
     ASSERT_EQ(1u, fake_.processes().shellRequests().size());
     EXPECT_EQ(app_.directories.UserDirectory(), fake_.processes().shellRequests()[0].file);
+}
+
+// A preset fills the three templates at once. A macro from the macro helper, open on the one tab of the
+// status area, takes the place of the selected text, and Undo takes it back.
+TEST_F(OptionPagesTest, StatusTemplatesComeFromPresetsAndTheMacroHelper) {
+    app_.dialogLanguage.Load();
+    const std::wstring file = MacroHelperFilePath(app_.directories.ProgramDirectory(), app_.dialogLanguage.tag(), 5);
+    fake_.files().CreateDirectoryTree(file.substr(0, file.rfind(L'\\')));
+    fake_.files().AddFile(file, Utf16Bytes(L"%Type%\ttype/%DiskSize%\tsize", true));
+    COptionDlg dialog(app_);
+    HWND page = Open(dialog, 28);
+    ASSERT_NE(nullptr, page);
+    // clang-format off
+    struct Case { int button, control; const wchar_t* text; };
+    const Case cases[] = {
+        {1306, 1003, L"%AllCount% Objects%AllSize% %DiskInfo%"}, {1304, 1001, L"(%DiskFree%/%DiskSize%)"},
+        {1304, 1002, L"%SelCount%%SelSize%/%AllCount%%AllSize% %Type%"}, {1305, 1002, L"%SelCount%個の項目を選択%SelSize%"},
+    };
+    // clang-format on
+    for (const Case& c : cases) {
+        Click(page, c.button);
+        EXPECT_EQ(c.text, Field(page, c.control)) << c.button;
+    }
+    std::vector<bool> tabs;
+    WhenShown(L"マクロ入力", [&](HWND helper) {
+        for (int tab = 0; tab < 6; ++tab) tabs.push_back(IsWindowEnabled(GetDlgItem(helper, 1201 + tab)) != FALSE);
+        ui::ListView(GetDlgItem(helper, 1601)).SelectRow(0);
+        Click(helper, IDOK);
+    });
+    SendDlgItemMessageW(page, 1002, EM_SETSEL, 0, 10);
+    Click(page, 1302);
+    EXPECT_EQ((std::vector{false, false, false, false, false, true}), tabs);
+    EXPECT_EQ(L"%Type%個の項目を選択%SelSize%", Field(page, 1002));
+    SendDlgItemMessageW(page, 1002, EM_UNDO, 0, 0);
+    EXPECT_EQ(L"%SelCount%個の項目を選択%SelSize%", Field(page, 1002));
+}
+
+// Clicking the first two checks of a place decides at once which of its other two may be changed.
+TEST_F(OptionPagesTest, ContextMenuChecksFollowTheirPlacesFirstTwo) {
+    COptionDlg dialog(app_);
+    HWND page = Open(dialog, 40);
+    ASSERT_NE(nullptr, page);
+    auto enabled = [&] {
+        std::vector<int> ids;
+        for (int id = 1251; id <= 1262; ++id)
+            if (IsWindowEnabled(GetDlgItem(page, id))) ids.push_back(id);
+        return ids;
+    };
+    const std::vector<int> all = {1251, 1252, 1253, 1254, 1255, 1256, 1257, 1258, 1259, 1260, 1261, 1262};
+    EXPECT_EQ(all, enabled());
+    Click(page, 1252);
+    Click(page, 1259);
+    EXPECT_EQ((std::vector<int>{1251, 1252, 1255, 1256, 1257, 1258, 1259, 1260, 1261}), enabled());
+    Click(page, 1252);
+    Click(page, 1259);
+    EXPECT_EQ(all, enabled());
 }
 
 }  // namespace

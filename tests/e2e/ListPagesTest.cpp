@@ -1,0 +1,93 @@
+// The pages of the file list in the running program: each opens as the page to start on, takes one
+// change as a user makes it, and Apply stores it in the page's section and tells the host what to reread.
+#include <gtest/gtest.h>
+
+#include <windows.h>
+
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "support/FakeHostProcess.h"
+#include "support/OptionWindow.h"
+#include "support/Process.h"
+#include "support/Registry.h"
+
+namespace {
+
+namespace reg = e2e::registry;
+
+constexpr int kApply = 1301;
+constexpr wchar_t kListDraw[] = L"Software\\Tarnwick\\Qor\\Main001\\ListDraw";
+constexpr wchar_t kListAction[] = L"Software\\Tarnwick\\Qor\\Main001\\ListAction";
+constexpr wchar_t kMouse[] = L"Software\\Tarnwick\\Qor\\Main001\\Mouse";
+
+// What the user does on the page: a button pressed (a check or radio changes with it), or a field typed.
+struct Change {
+    int control;
+    const wchar_t* typed = nullptr;
+};
+
+// The value stored beforehand and the one Apply leaves: a number, or a text when text is set.
+struct Value {
+    const wchar_t* name;
+    DWORD number = 0;
+    const wchar_t* text = nullptr;
+};
+
+void Write(const wchar_t* section, const Value& value) {
+    value.text ? reg::WriteString(section, value.name, value.text) : reg::WriteDword(section, value.name, value.number);
+}
+
+std::wstring Read(const wchar_t* section, const Value& value) {
+    if (value.text) return reg::ReadString(section, value.name).value_or(L"<absent>");
+    const std::optional<DWORD> number = reg::ReadDword(section, value.name);
+    return number ? std::to_wstring(*number) : L"<absent>";
+}
+
+TEST(ListPages, EachPageStoresItsSectionAndTellsTheHostItsCode) {
+    // clang-format off
+    struct Case { int page; const wchar_t* section; Value stored; std::vector<Change> changes; Value applied;
+                  unsigned code; };
+    const Case cases[] = {
+        {28, kListDraw, {L"ListCtrls", 0xFFFFFFFF}, {{1306}}, {L"StNoSel", 0, L"%AllCount% Objects%AllSize% %DiskInfo%"}, 49028},
+        {28, kListDraw, {L"ListCtrls", 0xFFFFFFFF}, {{1260}}, {L"ListCtrls", 5}, 49028},
+        {32, reg::kAppInfo, {L"IncliMentTime", 1000}, {{1001, L"2500"}}, {L"IncliMentTime", 2500}, 49032},
+        {38, kListAction, {L"SpcIsOR", 1}, {{1251}}, {L"SpcIsOR", 0}, 49035},
+        {40, kMouse, {L"ContextMenu", 0xFFFFFFFF}, {}, {L"ContextMenu", 0x33333FFF}, 49037},
+        {40, kMouse, {L"ContextMenu", 0x33333333}, {{1252}}, {L"ContextMenu", 0x33333331}, 49037},
+        {41, kListAction, {L"DivCompare", 0}, {{1255}}, {L"DivCompare", 1}, 49038},
+        {44, kListDraw, {L"AddressBarDblClk", 4}, {{1202}}, {L"AddressBarDblClk", 1}, 49034},
+    };
+    // clang-format on
+    for (const Case& c : cases) {
+        SCOPED_TRACE(testing::Message() << "page " << c.page << ", "
+                                        << testing::PrintToString(std::wstring(c.applied.name)));
+        reg::ScopedKey page(reg::kOptionPage), section(c.section);
+        reg::DeleteKey(c.section);
+        reg::WriteDword(reg::kOptionPage, L"Start", c.page);
+        Write(c.section, c.stored);
+        e2e::FakeHost host;
+        ASSERT_TRUE(host.Window());
+        e2e::Process option = e2e::StartOption();
+        ASSERT_TRUE(option);
+        HWND dialog = e2e::FindVisibleWindow(option.Id(), L"オプション");
+        ASSERT_NE(nullptr, dialog);
+        HWND shown = nullptr;
+        for (const Change& change : c.changes) {
+            shown = e2e::PageWith(dialog, change.control);
+            ASSERT_NE(nullptr, shown);
+            if (change.typed)
+                e2e::SetText(shown, change.control, change.typed);
+            else  // as the mouse does it, so that a check or radio button changes too
+                SendDlgItemMessageW(shown, change.control, BM_CLICK, 0, 0);
+        }
+        e2e::Click(dialog, kApply);
+        EXPECT_EQ(Read(c.section, c.applied), c.applied.text ? c.applied.text : std::to_wstring(c.applied.number));
+        EXPECT_EQ((std::vector<unsigned>{48999, c.code, 49099}), host.Commands());
+        PostMessageW(dialog, WM_COMMAND, IDCANCEL, 0);
+        EXPECT_EQ(0u, option.WaitOrKill());
+    }
+}
+
+}  // namespace
