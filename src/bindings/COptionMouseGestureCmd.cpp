@@ -10,8 +10,6 @@
 namespace {
 
 constexpr int kMaxTrailField = 50;
-// What the catalogue shows for an identifier that names no command.
-constexpr wchar_t kNoCommandText[] = L"---";
 
 struct ArrowButton {
     int id;
@@ -76,6 +74,6 @@ bool COptionMouseGestureCmd::OnCommand(int id, int code) {
 // Without a trail or a command there is nothing to bind; the dialog waits for both without a word.
 void COptionMouseGestureCmd::OnOK() {
     if (!UpdateData(true)) return;
-    if (commandId == 0 || commandText == kNoCommandText || trail.empty()) return;
+    if (commandId == 0 || commandText == CommandCatalog::kNoCommandText || trail.empty()) return;
     EndDialog(IDOK);
 }
