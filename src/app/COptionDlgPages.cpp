@@ -5,6 +5,10 @@
 
 #include "app/COptionDlg.h"
 #include "bindings/COptionKeySetDlg.h"
+#include "bindings/COptionMouseAction2Dlg.h"
+#include "bindings/COptionMouseAction3Dlg.h"
+#include "bindings/COptionMouseActionDlg.h"
+#include "bindings/COptionMouseGestureDlg.h"
 #include "definitions/COptionCmdDefDlg.h"
 #include "definitions/COptionExCmdDlg.h"
 #include "definitions/COptionExToolDlg.h"
@@ -45,7 +49,9 @@ const std::vector<PageClass>& PageClasses() {
     // clang-format off
     static const std::vector<PageClass> classes = {
         {2, &Make<COptionKeySetDlg>},
+        {4, &Make<COptionMouseActionDlg>},
         {5, &Make<COptionOtherDlg>},
+        {14, &Make<COptionMouseGestureDlg>},
         {20, &Make<COptionAppInfoDlg>},
         {21, &Make<COptionExToolDlg>},
         {22, &Make<COptionMenuDlg>},
@@ -61,6 +67,8 @@ const std::vector<PageClass>& PageClasses() {
         {39, &Make<COptionMessageDlg>},
         {40, &Make<COptionContextMenuDlg>},
         {41, &Make<COptionDivListDlg>},
+        {42, &Make<COptionMouseAction2Dlg>},
+        {43, &Make<COptionMouseAction3Dlg>},
         {44, &Make<COptionListAddressbarDlg>},
     };
     // clang-format on

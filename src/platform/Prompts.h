@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -53,6 +54,9 @@ public:
     // refuses the start text it opens once more without it. filter: pairs of texts, each ending in "|".
     virtual FolderChoice ChooseFileToOpen(const std::wstring& title, const std::wstring& filter,
                                           const std::wstring& start) = 0;
+    // The system's colour chooser, fully open, on the initial colour; owned by the active window.
+    // The colour chosen (a COLORREF), or nullopt when the user cancelled.
+    virtual std::optional<uint32_t> ChooseColour(uint32_t initial) = 0;
     // Captioned with the program's name and owned by the active window. The index of the choice
     // taken; -1 when the user cancelled.
     virtual int ChooseOne(const ChoiceRequest& request) = 0;

@@ -42,6 +42,14 @@ FolderChoice FakePrompts::ChooseFileToOpen(const std::wstring& title, const std:
     return BrowseForFolder(title, start);
 }
 
+std::optional<uint32_t> FakePrompts::ChooseColour(uint32_t initial) {
+    colourStarts_.push_back(initial);
+    if (colours_.empty()) return std::nullopt;
+    const uint32_t colour = colours_.front();
+    colours_.pop_front();
+    return colour;
+}
+
 int FakePrompts::ChooseOne(const ChoiceRequest& request) {
     offered_.push_back(request);
     if (choices_.empty()) return -1;

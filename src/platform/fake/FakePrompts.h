@@ -35,6 +35,7 @@ public:
     FolderChoice BrowseForFolderName(const std::wstring& title, const std::wstring& start) override;
     FolderChoice ChooseFileToOpen(const std::wstring& title, const std::wstring& filter,
                                   const std::wstring& start) override;
+    std::optional<uint32_t> ChooseColour(uint32_t initial) override;
     int ChooseOne(const ChoiceRequest& request) override;
 
     // Answers given in turn; when none is left a question gets No and a message OK.
@@ -46,6 +47,9 @@ public:
     // Choices taken in turn, by index; when none is left the task dialog is cancelled.
     void Choose(int index) { choices_.push_back(index); }
     const std::vector<ChoiceRequest>& offered() const { return offered_; }
+    // Colours chosen in turn; when none is left the chooser is cancelled. Each opening records its start.
+    void ChooseColourAnswer(uint32_t colour) { colours_.push_back(colour); }
+    const std::vector<uint32_t>& colourStarts() const { return colourStarts_; }
     void Clear() {
         shown_.clear();
         answers_.clear();
@@ -53,6 +57,8 @@ public:
         folders_.clear();
         offered_.clear();
         choices_.clear();
+        colours_.clear();
+        colourStarts_.clear();
     }
 
 private:
@@ -64,6 +70,8 @@ private:
     std::deque<FolderChoice> folders_;
     std::vector<ChoiceRequest> offered_;
     std::deque<int> choices_;
+    std::deque<uint32_t> colours_;
+    std::vector<uint32_t> colourStarts_;
 };
 
 }  // namespace platform::fake

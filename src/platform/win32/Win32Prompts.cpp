@@ -123,6 +123,19 @@ FolderChoice Win32Prompts::ChooseFileToOpen(const std::wstring& title, const std
     return {};
 }
 
+std::optional<uint32_t> Win32Prompts::ChooseColour(uint32_t initial) {
+    // The sixteen custom colours live as long as the process, as the chooser expects.
+    static COLORREF custom[16] = {};
+    CHOOSECOLORW box = {};
+    box.lStructSize = sizeof(box);
+    box.hwndOwner = GetActiveWindow();
+    box.rgbResult = initial;
+    box.lpCustColors = custom;
+    box.Flags = CC_RGBINIT | CC_FULLOPEN;
+    if (!ChooseColorW(&box)) return std::nullopt;
+    return static_cast<uint32_t>(box.rgbResult);
+}
+
 int Win32Prompts::ChooseOne(const ChoiceRequest& request) {
     constexpr int kFirstChoiceId = 201;
     std::vector<TASKDIALOG_BUTTON> buttons;

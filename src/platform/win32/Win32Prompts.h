@@ -14,6 +14,7 @@ public:
     FolderChoice BrowseForFolderName(const std::wstring& title, const std::wstring& start) override;
     FolderChoice ChooseFileToOpen(const std::wstring& title, const std::wstring& filter,
                                   const std::wstring& start) override;
+    std::optional<uint32_t> ChooseColour(uint32_t initial) override;
     int ChooseOne(const ChoiceRequest& request) override;
 };
 

@@ -20,6 +20,8 @@ constexpr const wchar_t* kAppInfo = L"Software\\Tarnwick\\QOR\\Main001\\AppInfo"
 constexpr const wchar_t* kSettings = L"Software\\Tarnwick\\QOR\\Main001\\Settings";
 constexpr const wchar_t* kListDraw = L"Software\\Tarnwick\\QOR\\Main001\\ListDraw";
 constexpr const wchar_t* kListAction = L"Software\\Tarnwick\\QOR\\Main001\\ListAction";
+constexpr const wchar_t* kMouse = L"Software\\Tarnwick\\QOR\\Main001\\Mouse";
+constexpr const wchar_t* kListMouse = L"Software\\Tarnwick\\QOR\\Main001\\ListMouse";
 constexpr platform::WindowRef kHost = 0x1234;
 constexpr int kApply = 1301;
 constexpr const wchar_t* kNotInteger = L"Please enter an integer.";
@@ -162,17 +164,29 @@ TEST_F(OptionPagesTest, ControlsCarryTheirStoredValuesBothWays) {
         {41, 1255, Check, kListAction, L"DivCompare",     L"0",         L"1",           49038},
         {44, 1201, Radio, kListDraw, L"AddressBarDblClk", L"4",         L"0",           49034},
         {44, 1251, Check, kListDraw, L"AddressBarAddFile", L"0",        L"1",           49034},
+        // The mouse pages.
+        {4,  1254, Check, kListMouse, L"SingleClick",     L"0",         L"1",           49012},
+        {14, 1201, Radio, kMouse,    L"Gesture",          L"2",         L"0",           49016,
+         {1301, 1302, 1303, 1304, 1601, 1001, 1101}},
+        {14, 1001, Edit,  kMouse,    L"GestureSensitivity", L"5",       L"100",         49016},
+        {14, 1001, Edit,  kMouse,    L"GestureSensitivity", L"2",       nullptr,        0, {}, L"3 and 100"},
+        {42, 1001, Edit,  kListMouse, L"SpaceClk",        L"",          L"a.txt",       49039},
+        {42, 1002, Edit,  kListMouse, L"SpaceDblClk",     L"b.txt",     L"",            49039},
+        {43, 1201, Radio, kListMouse, L"UseWheelCmd",     L"0",         L"1",           49040, {1251}},
+        {43, 1251, Check, kListMouse, L"AltWheel",        L"0",         L"1",           49040},
     };
     // clang-format on
     for (const Case& c : cases) {
         SCOPED_TRACE(testing::PrintToString(std::wstring(c.name) + L"=" + c.stored));
-        const bool text = std::wstring(c.stored).find_first_not_of(L"-0123456789") != std::wstring::npos;
+        const bool text =
+            c.page == 42 || std::wstring(c.stored).find_first_not_of(L"-0123456789") != std::wstring::npos;
         fake_.registry().DeleteKey(kAppInfo);
         fake_.registry().DeleteKey(kSettings);
         fake_.registry().DeleteKey(c.section);
-        // The network and C/Migemo fields enabled, so that a refused one takes the focus.
+        // The network, C/Migemo and gesture fields enabled, so that a refused one takes the focus.
         DirectWriteInt(kAppInfo, L"UsePing", 1);
         DirectWriteInt(kAppInfo, L"UseMigemo", 1);
+        DirectWriteInt(kMouse, L"Gesture", 1);
         text ? DirectWriteString(c.section, c.name, c.stored) : DirectWriteInt(c.section, c.name, std::stoi(c.stored));
         AppServices app{96};  // a process of its own: the draft holds what its pages loaded
         app.commandOptionRoot = app_.commandOptionRoot;

@@ -1,0 +1,27 @@
+// The chooser of one click action: the row's text above, the actions in a drop-down list.
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+#include "ui/Dialog.h"
+
+struct AppServices;
+
+class CDlgMouseSet : public ui::Dialog {
+public:
+    CDlgMouseSet(AppServices& app, const std::vector<std::wstring>& actions);
+
+    // In: the row's text and its action; out at OK: the action chosen.
+    std::wstring rowText;
+    int32_t action = 0;
+
+protected:
+    bool OnInitDialog() override;
+    void DoDataExchange(ui::DataExchange& exchange) override;
+
+private:
+    AppServices& app_;
+    const std::vector<std::wstring>& actions_;
+};

@@ -1,0 +1,118 @@
+// The click and gesture pages over their real templates and the fake registry: the click table's
+// chooser and swap, a stored action it cannot show, and the gesture table's edit rules and defaults.
+#include <gtest/gtest.h>
+
+#include <windows.h>
+
+#include <string>
+#include <vector>
+
+#include "app/COptionDlg.h"
+#include "ui/ComboBox.h"
+#include "ui/ListView.h"
+#include "unit/Utf16.h"
+#include "win32/support/OptionDialogFixture.h"
+
+namespace {
+
+using namespace optiontest;
+
+constexpr const wchar_t* kListMouse = L"Software\\Tarnwick\\QOR\\Main001\\ListMouse";
+constexpr const wchar_t* kMouse = L"Software\\Tarnwick\\QOR\\Main001\\Mouse";
+constexpr const wchar_t* kGesture = L"Software\\Tarnwick\\QOR\\Main001\\Gesture";
+constexpr int kApply = 1301;
+
+class MousePagesTest : public OptionDialogFixture {
+protected:
+    HWND Open(COptionDlg& dialog, int page) {
+        SetStart(page);
+        if (!dialog.Create(nullptr)) return nullptr;
+        return dialog.Page(page) && dialog.Page(page)->opened ? dialog.Page(page)->hwnd() : nullptr;
+    }
+    std::vector<std::wstring> Column(HWND page, int column) const {
+        const ui::ListView list(GetDlgItem(page, 1601));
+        std::vector<std::wstring> texts;
+        for (int row = 0; row < list.GetItemCount(); ++row) texts.push_back(list.GetItemText(row, column));
+        return texts;
+    }
+    std::vector<std::wstring> Messages() {
+        std::vector<std::wstring> texts;
+        for (const auto& shown : fake_.prompts().shown()) texts.push_back(shown.text);
+        return texts;
+    }
+    void Apply(COptionDlg& dialog) const { SendMessageW(dialog.hwnd(), WM_COMMAND, MAKEWPARAM(kApply, BN_CLICKED), 0); }
+};
+
+TEST_F(MousePagesTest, ClickActionsAreChosenSwappedAndStoredAndAnUnknownOneKeepsThePageOut) {
+    {
+        DirectWriteInt(kListMouse, L"L", 25);
+        COptionDlg dialog(app_);
+        EXPECT_EQ(nullptr, Open(dialog, 4));
+        EXPECT_EQ(std::vector<std::wstring>{}, Messages());
+    }
+    DirectWriteInt(kListMouse, L"L", 0);
+    COptionDlg dialog(app_);
+    HWND page = Open(dialog, 4);
+    ASSERT_NE(nullptr, page);
+    const std::vector<std::wstring> rows = Column(page, 0);
+    ASSERT_EQ(12u, rows.size());
+    EXPECT_EQ(L"ダブルクリック(組み合わせなし)", rows[0]);
+    EXPECT_EQ(L"中クリック+Ctrl+Shift", rows[11]);
+    EXPECT_EQ(L"フォルダーは移動・ファイルはシェル起動", Column(page, 1)[0]);
+    Click(page, 1301);
+    EXPECT_EQ(L"シェル起動", Column(page, 1)[0]);
+    EXPECT_EQ(L"フォルダーは新しいタブで開く・ファイルはシェル起動", Column(page, 1)[5]);
+    ui::ListView(GetDlgItem(page, 1601)).SelectRow(11);
+    WhenShown(L"操作の選択", [](HWND chooser) {
+        ui::ComboBox(GetDlgItem(chooser, 1151)).SetCurSel(4);
+        Click(chooser, IDOK);
+    });
+    Click(page, 1304);
+    EXPECT_EQ(L"未設定", Column(page, 1)[11]);
+    Apply(dialog);
+    EXPECT_EQ((std::vector<int32_t>{0, 4, 1, 2, 4}),
+              (std::vector<int32_t>{DirectReadInt(kListMouse, L"En", -1), DirectReadInt(kListMouse, L"EnCS", -1),
+                                    DirectReadInt(kListMouse, L"L", -1), DirectReadInt(kListMouse, L"LC", -1),
+                                    DirectReadInt(kListMouse, L"MCS", -1)}));
+}
+
+// Keeping a row's own trail is no duplicate; taking another row's is refused with the old trail back.
+// The standard table replaces all rows, and Apply writes exactly the list with letters.
+TEST_F(MousePagesTest, GestureRowsKeepTheirTrailsUniqueAndTheDefaultsReplaceThem) {
+    fake_.files().AddFile(L"C:\\Msg.txt",
+                          Utf16Bytes(L"62301\tnone\r\n62307\ttaken\r\n63014\treplace?\r\n63019\treset?", true));
+    app_.messages.SetPath(L"C:\\Msg.txt");
+    DirectWriteInt(kMouse, L"Gesture", 1);
+    DirectWriteInt(kGesture, L"U", 1);
+    DirectWriteInt(kGesture, L"D", 2);
+    COptionDlg dialog(app_);
+    HWND page = Open(dialog, 14);
+    ASSERT_NE(nullptr, page);
+    EXPECT_EQ((std::vector<std::wstring>{L"\u2191", L"\u2193"}), Column(page, 0));
+    Click(page, 1304);
+    EXPECT_EQ(std::vector<std::wstring>{L"none"}, Messages());
+    const ui::ListView list(GetDlgItem(page, 1601));
+    list.SelectRow(0);
+    WhenShown(L"マウスジェスチャ", [](HWND trail) { Click(trail, IDOK); });
+    Click(page, 1303);
+    EXPECT_EQ(L"\u2191", list.GetItemText(0, 0));
+    EXPECT_EQ(std::vector<std::wstring>{L"none"}, Messages()) << "its own trail kept";
+    WhenShown(L"マウスジェスチャ", [](HWND trail) {
+        Click(trail, 1306);
+        Click(trail, 1304);
+        Click(trail, IDOK);
+    });
+    Click(page, 1303);
+    EXPECT_EQ(L"\u2191", list.GetItemText(0, 0));
+    EXPECT_EQ((std::vector<std::wstring>{L"none", L"taken"}), Messages());
+
+    fake_.prompts().Answer(platform::kAnswerYes);
+    Click(page, 1301);
+    EXPECT_EQ(10, list.GetItemCount());
+    Apply(dialog);
+    EXPECT_EQ(36200, DirectReadInt(kGesture, L"U", -1));
+    EXPECT_EQ(35000, DirectReadInt(kGesture, L"DRULDRUL", -1));
+    EXPECT_EQ(-1, DirectReadInt(kGesture, L"D", -1));
+}
+
+}  // namespace
