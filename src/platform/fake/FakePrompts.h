@@ -36,6 +36,7 @@ public:
     FolderChoice ChooseFileToOpen(const std::wstring& title, const std::wstring& filter,
                                   const std::wstring& start) override;
     int ChooseOne(const ChoiceRequest& request) override;
+    bool PickFont(LogFont& font, unsigned flags) override;
 
     // Answers given in turn; when none is left a question gets No and a message OK.
     void Answer(int answer) { answers_.push_back(answer); }
@@ -46,6 +47,9 @@ public:
     // Choices taken in turn, by index; when none is left the task dialog is cancelled.
     void Choose(int index) { choices_.push_back(index); }
     const std::vector<ChoiceRequest>& offered() const { return offered_; }
+    // Fonts taken in turn; when none is left the font box is cancelled. Each opening records its flags.
+    void TakeFont(const LogFont& font) { fonts_.push_back(font); }
+    const std::vector<unsigned>& fontBoxes() const { return fontBoxes_; }
     void Clear() {
         shown_.clear();
         answers_.clear();
@@ -53,6 +57,8 @@ public:
         folders_.clear();
         offered_.clear();
         choices_.clear();
+        fonts_.clear();
+        fontBoxes_.clear();
     }
 
 private:
@@ -64,6 +70,8 @@ private:
     std::deque<FolderChoice> folders_;
     std::vector<ChoiceRequest> offered_;
     std::deque<int> choices_;
+    std::deque<LogFont> fonts_;
+    std::vector<unsigned> fontBoxes_;
 };
 
 }  // namespace platform::fake

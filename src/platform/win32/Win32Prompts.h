@@ -15,6 +15,7 @@ public:
     FolderChoice ChooseFileToOpen(const std::wstring& title, const std::wstring& filter,
                                   const std::wstring& start) override;
     int ChooseOne(const ChoiceRequest& request) override;
+    bool PickFont(LogFont& font, unsigned flags) override;
 };
 
 }  // namespace platform::win32
