@@ -16,15 +16,22 @@
 #include "pages/COptionAppInfoDlg.h"
 #include "pages/COptionCommonUIDlg.h"
 #include "pages/COptionContextMenuDlg.h"
+#include "pages/COptionCustomSort.h"
 #include "pages/COptionDivListDlg.h"
 #include "pages/COptionInclimentalSerchDlg.h"
+#include "pages/COptionListActionDlg.h"
 #include "pages/COptionListAddressbarDlg.h"
+#include "pages/COptionListAutoUpdateDlg.h"
 #include "pages/COptionListBarDlg.h"
+#include "pages/COptionListModeStyleDlg.h"
 #include "pages/COptionListStateDlg.h"
+#include "pages/COptionListStyleDlg.h"
 #include "pages/COptionMessageDlg.h"
 #include "pages/COptionNetworkDlg.h"
 #include "pages/COptionOtherDlg.h"
 #include "pages/COptionOverallStyleDlg.h"
+#include "pages/COptionRecentDlg.h"
+#include "pages/COptionThumbDlg.h"
 #include "pages/COptionVersionCheckDlg.h"
 
 namespace {
@@ -49,8 +56,12 @@ const std::vector<PageClass>& PageClasses() {
     // clang-format off
     static const std::vector<PageClass> classes = {
         {2, &Make<COptionKeySetDlg>},
+        {3, &Make<COptionListStyleDlg>},
         {4, &Make<COptionMouseActionDlg>},
         {5, &Make<COptionOtherDlg>},
+        {7, &Make<COptionRecentDlg>},
+        {9, &Make<COptionThumbDlg>},
+        {13, &Make<COptionListActionDlg>},
         {14, &Make<COptionMouseGestureDlg>},
         {20, &Make<COptionAppInfoDlg>},
         {21, &Make<COptionExToolDlg>},
@@ -58,9 +69,12 @@ const std::vector<PageClass>& PageClasses() {
         {23, &Make<COptionCmdDefDlg>},
         {24, &Make<COptionCommonUIDlg>},
         {25, &Make<COptionExCmdDlg>},
+        {27, &Make<COptionListAutoUpdateDlg>},
         {28, &Make<COptionListStateDlg>},
+        {29, &Make<COptionListModeStyleDlg>},
         {30, &Make<COptionNetworkDlg>},
         {32, &Make<COptionInclimentalSerchDlg>},
+        {33, &Make<COptionCustomSort>},
         {34, &Make<COptionVersionCheckDlg>},
         {37, &Make<COptionOverallStyleDlg>},
         {38, &Make<COptionListBarDlg>},

@@ -39,6 +39,9 @@ public:
     virtual int32_t GetSystemMetrics(int32_t index) = 0;
     // GetSysColor of the index, a COLORREF.
     virtual int32_t SysColor(int32_t index) = 0;
+    // The version of the running system as major * 100 + minor (601 for 6.1), as it really is, not as
+    // the compatibility layer would tell an older program.
+    virtual int32_t SystemVersion() = 0;
 };
 
 }  // namespace platform

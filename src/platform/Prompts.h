@@ -6,6 +6,8 @@
 #include <string>
 #include <vector>
 
+#include "platform/LogFont.h"
+
 namespace platform {
 
 // The answers of MessageBox.
@@ -60,6 +62,9 @@ public:
     // Captioned with the program's name and owned by the active window. The index of the choice
     // taken; -1 when the user cancelled.
     virtual int ChooseOne(const ChoiceRequest& request) = 0;
+    // The system's font box owned by the active window, opened on font, with the CF_ flags given;
+    // true and font replaced when the user took one.
+    virtual bool PickFont(LogFont& font, unsigned flags) = 0;
 };
 
 }  // namespace platform

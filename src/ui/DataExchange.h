@@ -46,6 +46,18 @@ private:
 
 // A check box: 0 clear, 1 checked, 2 indeterminate. Other values show as clear.
 void DDX_Check(DataExchange& dx, int id, int32_t& value);
+// Check boxes that each stand for one bit of a value (rows with a control id and a bit): loading
+// ticks those whose bit is set; saving makes the value anew from the ticked ones alone.
+template <class Rows>
+void DDX_CheckBits(DataExchange& dx, const Rows& checks, int32_t& value) {
+    uint32_t bits = 0;
+    for (const auto& check : checks) {
+        int32_t ticked = (static_cast<uint32_t>(value) & check.bit) ? 1 : 0;
+        DDX_Check(dx, check.control, ticked);
+        if (ticked == 1) bits |= check.bit;
+    }
+    if (dx.saving()) value = static_cast<int32_t>(bits);
+}
 // A group of radio buttons that starts with control id and runs to the next WS_GROUP: the index
 // of the checked one among them, -1 when none is.
 void DDX_Radio(DataExchange& dx, int id, int32_t& value);

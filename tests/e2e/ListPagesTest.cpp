@@ -1,5 +1,6 @@
 // The pages of the file list in the running program: each opens as the page to start on, takes one
 // change as a user makes it, and Apply stores it in the page's section and tells the host what to reread.
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <windows.h>
@@ -21,11 +22,15 @@ constexpr int kApply = 1301;
 constexpr wchar_t kListDraw[] = L"Software\\Tarnwick\\Qor\\Main001\\ListDraw";
 constexpr wchar_t kListAction[] = L"Software\\Tarnwick\\Qor\\Main001\\ListAction";
 constexpr wchar_t kMouse[] = L"Software\\Tarnwick\\Qor\\Main001\\Mouse";
+constexpr wchar_t kThumb[] = L"Software\\Tarnwick\\Qor\\Main001\\Thumb";
+constexpr wchar_t kRecent[] = L"Software\\Tarnwick\\Qor\\Main001\\Recent";
 
-// What the user does on the page: a button pressed (a check or radio changes with it), or a field typed.
+// What the user does on the page: a button pressed (a check or radio changes with it), a field typed,
+// or an item of a combo picked.
 struct Change {
     int control;
     const wchar_t* typed = nullptr;
+    int item = -1;
 };
 
 // The value stored beforehand and the one Apply leaves: a number, or a text when text is set.
@@ -58,6 +63,16 @@ TEST(ListPages, EachPageStoresItsSectionAndTellsTheHostItsCode) {
         {40, kMouse, {L"ContextMenu", 0x33333333}, {{1252}}, {L"ContextMenu", 0x33333331}, 49037},
         {41, kListAction, {L"DivCompare", 0}, {{1255}}, {L"DivCompare", 1}, 49038},
         {44, kListDraw, {L"AddressBarDblClk", 4}, {{1202}}, {L"AddressBarDblClk", 1}, 49034},
+        {3,  kListDraw, {L"FastOnly", 0}, {{1257}}, {L"FastOnly", 1}, 49000},
+        {3,  kListDraw, {L"ListViewOtherStyle", 6}, {}, {L"ListViewOtherStyle", 4}, 49000},
+        {3,  kListDraw, {L"TimeFmt", 0, L"yyyy"}, {{1152, L"H:mm d/M"}}, {L"TimeFmt", 0, L"H:mm d/M"}, 49000},
+        {13, kListAction, {L"NaviLockOpenMode", 2}, {{1155, nullptr, 3}}, {L"NaviLockOpenMode", 3}, 49000},
+        {33, kListDraw, {L"CustomSortFlag", 0x31034}, {{1257}}, {L"CustomSortFlag", 0x3103C}, 49000},
+        {9,  kThumb, {L"ImgSize0", 40}, {}, {L"ImgSize0", 32}, 49002},
+        {9,  kThumb, {L"ImgSize1", 64}, {{1152, nullptr, 0}}, {L"ImgSize1", 16}, 49002},
+        {7,  kRecent, {L"WindowHistory", 30}, {{1001, L"99"}}, {L"WindowHistory", 99}, 49004},
+        {27, kListAction, {L"UpdateDelay", 500}, {{1004, L"250"}}, {L"UpdateDelay", 250}, 49027},
+        {29, kListDraw, {L"DrawRealName", 4}, {{1265}}, {L"DrawRealName", 20}, 49029},
     };
     // clang-format on
     for (const Case& c : cases) {
@@ -79,6 +94,8 @@ TEST(ListPages, EachPageStoresItsSectionAndTellsTheHostItsCode) {
             ASSERT_NE(nullptr, shown);
             if (change.typed)
                 e2e::SetText(shown, change.control, change.typed);
+            else if (change.item >= 0)
+                SendDlgItemMessageW(shown, change.control, CB_SETCURSEL, change.item, 0);
             else  // as the mouse does it, so that a check or radio button changes too
                 SendDlgItemMessageW(shown, change.control, BM_CLICK, 0, 0);
         }
@@ -88,6 +105,31 @@ TEST(ListPages, EachPageStoresItsSectionAndTellsTheHostItsCode) {
         PostMessageW(dialog, WM_COMMAND, IDCANCEL, 0);
         EXPECT_EQ(0u, option.WaitOrKill());
     }
+}
+
+// A limit past the largest the list takes is refused with the framework's words: nothing is stored
+// and the host hears nothing.
+TEST(ListPages, AListLimitPastTheLargestIsRefusedAndNothingIsBroadcast) {
+    reg::ScopedKey page(reg::kOptionPage), draw(kListDraw);
+    reg::DeleteKey(kListDraw);
+    reg::WriteDword(reg::kOptionPage, L"Start", 3);
+    e2e::FakeHost host;
+    ASSERT_TRUE(host.Window());
+    e2e::Process option = e2e::StartOption();
+    ASSERT_TRUE(option);
+    HWND dialog = e2e::FindVisibleWindow(option.Id(), L"オプション");
+    HWND shown = dialog ? e2e::PageWith(dialog, 1001) : nullptr;
+    ASSERT_NE(nullptr, shown);
+    e2e::SetText(shown, 1001, L"500001");
+    PostMessageW(dialog, WM_COMMAND, MAKEWPARAM(kApply, BN_CLICKED), 0);
+    HWND box = e2e::FindMessageBox(option.Id(), 5000);
+    ASSERT_NE(nullptr, box);
+    EXPECT_NE(std::wstring::npos, e2e::DialogText(box).find(L"0 and 500000"));
+    e2e::Answer(box, IDOK);
+    EXPECT_FALSE(reg::ReadDword(kListDraw, L"MaxListItem"));
+    PostMessageW(dialog, WM_COMMAND, IDCANCEL, 0);
+    EXPECT_EQ(0u, option.WaitOrKill());
+    EXPECT_THAT(host.Commands(), testing::IsEmpty());
 }
 
 }  // namespace

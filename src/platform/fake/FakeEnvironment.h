@@ -25,6 +25,7 @@ public:
     int32_t GetSystemMetrics(int32_t index) override;
     // A colour of its own for every index: 0x0A0B00 plus the index.
     int32_t SysColor(int32_t index) override { return 0x0A0B00 + index; }
+    int32_t SystemVersion() override { return systemVersion_; }
 
     // Names ignore case; the name keeps the spelling it was first set with.
     void SetVariable(const std::wstring& name, const std::wstring& value);
@@ -38,6 +39,7 @@ public:
     void SetUtcOffset(int32_t seconds) { utcOffset_ = seconds; }
     // A screen of 1920 by 1080 (indexes 0 and 1) and 0 for the rest until set.
     void SetSystemMetric(int32_t index, int32_t value) { metrics_[index] = value; }
+    void SetSystemVersion(int32_t version) { systemVersion_ = version; }
 
 private:
     static bool Give(const std::wstring& value, std::wstring& out) {
@@ -57,6 +59,7 @@ private:
     int64_t currentTime_ = 1709647629;  // 2024-03-05 14:07:09 UTC, a Tuesday
     int32_t utcOffset_ = 0;
     std::map<int32_t, int32_t> metrics_ = {{0, 1920}, {1, 1080}};
+    int32_t systemVersion_ = 1000;
 };
 
 }  // namespace platform::fake

@@ -58,4 +58,12 @@ int FakePrompts::ChooseOne(const ChoiceRequest& request) {
     return index;
 }
 
+bool FakePrompts::PickFont(LogFont& font, unsigned flags) {
+    fontBoxes_.push_back(flags);
+    if (fonts_.empty()) return false;
+    font = fonts_.front();
+    fonts_.pop_front();
+    return true;
+}
+
 }  // namespace platform::fake

@@ -37,6 +37,7 @@ public:
                                   const std::wstring& start) override;
     std::optional<uint32_t> ChooseColour(uint32_t initial) override;
     int ChooseOne(const ChoiceRequest& request) override;
+    bool PickFont(LogFont& font, unsigned flags) override;
 
     // Answers given in turn; when none is left a question gets No and a message OK.
     void Answer(int answer) { answers_.push_back(answer); }
@@ -50,6 +51,9 @@ public:
     // Colours chosen in turn; when none is left the chooser is cancelled. Each opening records its start.
     void ChooseColourAnswer(uint32_t colour) { colours_.push_back(colour); }
     const std::vector<uint32_t>& colourStarts() const { return colourStarts_; }
+    // Fonts taken in turn; when none is left the font box is cancelled. Each opening records its flags.
+    void TakeFont(const LogFont& font) { fonts_.push_back(font); }
+    const std::vector<unsigned>& fontBoxes() const { return fontBoxes_; }
     void Clear() {
         shown_.clear();
         answers_.clear();
@@ -59,6 +63,8 @@ public:
         choices_.clear();
         colours_.clear();
         colourStarts_.clear();
+        fonts_.clear();
+        fontBoxes_.clear();
     }
 
 private:
@@ -72,6 +78,8 @@ private:
     std::deque<int> choices_;
     std::deque<uint32_t> colours_;
     std::vector<uint32_t> colourStarts_;
+    std::deque<LogFont> fonts_;
+    std::vector<unsigned> fontBoxes_;
 };
 
 }  // namespace platform::fake

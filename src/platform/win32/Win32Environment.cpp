@@ -112,6 +112,19 @@ int32_t Win32Environment::SysColor(int32_t index) {
     return static_cast<int32_t>(::GetSysColor(index));
 }
 
+// GetVersionExW answers what the manifest admits to; the kernel's own call does not.
+int32_t Win32Environment::SystemVersion() {
+    using GetVersionCall = LONG(WINAPI*)(OSVERSIONINFOW*);
+    OSVERSIONINFOW info = {};
+    info.dwOSVersionInfoSize = sizeof(info);
+    HMODULE ntdll = GetModuleHandleW(L"ntdll.dll");
+    auto call = ntdll
+                    ? reinterpret_cast<GetVersionCall>(reinterpret_cast<void*>(GetProcAddress(ntdll, "RtlGetVersion")))
+                    : nullptr;
+    if (!call || call(&info) != 0) return 0;
+    return static_cast<int32_t>(info.dwMajorVersion * 100 + info.dwMinorVersion);
+}
+
 std::wstring ProgramName() {
     std::wstring path = Win32Environment().ModuleFileName();
     size_t slash = path.find_last_of(L'\\');

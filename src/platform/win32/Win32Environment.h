@@ -17,6 +17,7 @@ public:
     std::wstring FromAnsi(const std::string& text) override;
     int32_t GetSystemMetrics(int32_t index) override;
     int32_t SysColor(int32_t index) override;
+    int32_t SystemVersion() override;
 };
 
 // The running program's file name without directory and extension ("Option").

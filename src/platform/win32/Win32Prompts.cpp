@@ -6,6 +6,7 @@
 #include <commdlg.h>
 #include <shlwapi.h>
 
+#include <cstring>
 #include <vector>
 
 #include "platform/win32/Win32Environment.h"
@@ -158,6 +159,22 @@ int Win32Prompts::ChooseOne(const ChoiceRequest& request) {
     if (FAILED(TaskDialogIndirect(&config, &pressed, nullptr, nullptr))) return -1;
     if (pressed < kFirstChoiceId || pressed >= kFirstChoiceId + static_cast<int>(buttons.size())) return -1;
     return pressed - kFirstChoiceId;
+}
+
+// LogFont is LOGFONTW field for field, so the box works on a copy of it as it stands.
+static_assert(sizeof(LogFont) == sizeof(LOGFONTW));
+
+bool Win32Prompts::PickFont(LogFont& font, unsigned flags) {
+    LOGFONTW chosen{};
+    std::memcpy(&chosen, &font, sizeof chosen);
+    CHOOSEFONTW box = {};
+    box.lStructSize = sizeof(box);
+    box.hwndOwner = GetActiveWindow();
+    box.lpLogFont = &chosen;
+    box.Flags = flags | CF_INITTOLOGFONTSTRUCT;
+    if (!ChooseFontW(&box)) return false;
+    std::memcpy(static_cast<void*>(&font), &chosen, sizeof chosen);
+    return true;
 }
 
 }  // namespace platform::win32

@@ -16,6 +16,7 @@ public:
                                   const std::wstring& start) override;
     std::optional<uint32_t> ChooseColour(uint32_t initial) override;
     int ChooseOne(const ChoiceRequest& request) override;
+    bool PickFont(LogFont& font, unsigned flags) override;
 };
 
 }  // namespace platform::win32

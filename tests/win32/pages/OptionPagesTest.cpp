@@ -3,12 +3,14 @@
 #include <gtest/gtest.h>
 #include <windows.h>
 
+#include <algorithm>
 #include <string>
 #include <tuple>
 #include <vector>
 
 #include "definitions/MacroHelperData.h"
 #include "ui/ListView.h"
+#include "pages/ListViewChoices.h"
 #include "unit/Utf16.h"
 #include "win32/support/OptionDialogFixture.h"
 
@@ -22,6 +24,10 @@ constexpr const wchar_t* kListDraw = L"Software\\Tarnwick\\QOR\\Main001\\ListDra
 constexpr const wchar_t* kListAction = L"Software\\Tarnwick\\QOR\\Main001\\ListAction";
 constexpr const wchar_t* kMouse = L"Software\\Tarnwick\\QOR\\Main001\\Mouse";
 constexpr const wchar_t* kListMouse = L"Software\\Tarnwick\\QOR\\Main001\\ListMouse";
+constexpr const wchar_t* kListInit = L"Software\\Tarnwick\\QOR\\Main001\\ListInit";
+constexpr const wchar_t* kThumb = L"Software\\Tarnwick\\QOR\\Main001\\Thumb";
+constexpr const wchar_t* kRecent = L"Software\\Tarnwick\\QOR\\Main001\\Recent";
+constexpr const wchar_t* kNoUpdate = L"Software\\Tarnwick\\QOR\\Main001\\ListNoUpdate";
 constexpr platform::WindowRef kHost = 0x1234;
 constexpr int kApply = 1301;
 constexpr const wchar_t* kNotInteger = L"Please enter an integer.";
@@ -77,6 +83,9 @@ TEST_F(OptionPagesTest, DialogAndPagesShowTheirOwnWords) {
         {28, 1261, L"更新の監視状況・切り替えボタン"}, {28, 1304, L"高機能サンプル"}, {32, 1251, L"C/Migemoを使用する"},
         {44, 1205, L"ダブルクリックした位置のパスの階層のメニューを表示"}, {40, -1, L"フォルダーバーで選択している時"},
         {38, 1253, L"絞込みテキストでAND/OR/NOTが使える拡張構文を使用する"}, {41, 1255, L"サイズ/日付比較を行う"},
+        {33, 1257, L"数字の大小を比較する(Windows7以降)"}, {3, 1256, L"リストをシングルセレクトにする"},
+        {13, 1202, L"汎用型のシェル実行（個別実行、高速、並列処理のため応答待ちが発生しない）"},
+        {29, 1270, L"詳細一覧"}, {9, 1253, L"シェルイメージで描画"},
     };
     // clang-format on
     SetStart(1000);
@@ -104,9 +113,10 @@ TEST_F(OptionPagesTest, DialogAndPagesShowTheirOwnWords) {
 // takes the focus with its text selected: nothing is stored, the host hears nothing. So does a field
 // typed with what is no number of its kind. New pages add rows here.
 TEST_F(OptionPagesTest, ControlsCarryTheirStoredValuesBothWays) {
-    enum Kind { Check, Radio, Edit };
+    enum Kind { Check, Radio, Edit, Combo };
     // A check is clicked, the radio button of the value set is clicked, a field is typed (or left when
-    // null). "Off" are the fields enabled as loaded that the setting turns off.
+    // null), the combo item of the value set is picked. "Off" are the fields enabled as loaded that the
+    // setting turns off.
     // clang-format off
     struct Case { int page, control; Kind kind; const wchar_t *section, *name, *stored, *set; uint16_t code;
                   std::vector<int> off = {}; const wchar_t* refused = nullptr; };
@@ -174,6 +184,58 @@ TEST_F(OptionPagesTest, ControlsCarryTheirStoredValuesBothWays) {
         {42, 1002, Edit,  kListMouse, L"SpaceDblClk",     L"b.txt",     L"",            49039},
         {43, 1201, Radio, kListMouse, L"UseWheelCmd",     L"0",         L"1",           49040, {1251}},
         {43, 1251, Check, kListMouse, L"AltWheel",        L"0",         L"1",           49040},
+        // The list pages: common look, behaviour, thumbnails, recent folders, automatic update, views.
+        {3,  1252, Check, kListDraw,   L"SizeUnit",        L"1",      L"0",         49000, {1253, 1254}},
+        {3,  1253, Check, kListDraw,   L"UseKBOnly",       L"0",      L"1",         49000},
+        {3,  1254, Check, kListDraw,   L"UsePtSize",       L"1",      L"0",         49000},
+        {3,  1257, Check, kListDraw,   L"FastOnly",        L"0",      L"1",         49000},
+        {3,  1152, Edit,  kListDraw,   L"TimeFmt",         L"yy-M-d", L"d.M. H:mm h", 49000},
+        {3,  1152, Edit,  kListDraw,   L"TimeFmt",         L"yy-M-d", L"",          49000},
+        {3,  1001, Edit,  kListDraw,   L"MaxListItem",     L"500000", L"0",         49000},
+        {3,  1001, Edit,  kListDraw,   L"MaxListItem",     L"1",      L"500001",    0, {}, L"0 and 500000"},
+        {13, 1154, Combo, kListAction, L"LinkAction",      L"1",      L"0",         49000},
+        {13, 1155, Combo, kListAction, L"NaviLockOpenMode", L"2",     L"3",         49000},
+        {13, 1156, Combo, kListAction, L"TipTextType",     L"1",      L"2",         49000},
+        {13, 1258, Check, kListAction, L"LockOpen",        L"1",      L"0",         49000},
+        {13, 1257, Check, kListAction, L"SelectionHist",   L"1",      L"0",         49000},
+        {13, 1251, Check, kListAction, L"InitSel",         L"0",      L"1",         49000},
+        {13, 1253, Check, kListAction, L"KeepAfterSort",   L"1",      L"0",         49000},
+        {13, 1254, Check, kListAction, L"LocalEnumErr",    L"1",      L"0",         49000},
+        {13, 1255, Check, kListAction, L"InitSerchActive", L"1",      L"0",         49000},
+        {13, 1201, Radio, kListAction, L"ExecBackGround",  L"0",      L"1",         49000},
+        {9,  1254, Check, kThumb,      L"FolderThumb",     L"1",      L"0",         49002},
+        {9,  1255, Check, kThumb,      L"UseCatalog",      L"0",      L"1",         49002},
+        {9,  1002, Edit,  kThumb,      L"Txt",             L"txt",    L"log,md",    49002},
+        {7,  1001, Edit,  kRecent,     L"WindowHistory",   L"30",     L"10000",     49004},
+        {7,  1001, Edit,  kRecent,     L"WindowHistory",   L"30",     L"-1",        0, {}, L"0 and 10000"},
+        {7,  1251, Check, kRecent,     L"Icon",            L"1",      L"0",         49004},
+        {7,  1252, Check, kRecent,     L"FullPath",        L"1",      L"0",         49004},
+        {7,  1253, Check, kRecent,     L"RestoreScriptHistoryHB", L"0", L"1",       49004},
+        {27, 1253, Check, kListAction, L"UpdateSort",      L"0",      L"1",         49027},
+        {27, 1157, Combo, kListAction, L"m_nAutoUpdateNT", L"1",      L"2",         49027},
+        {27, 1005, Edit,  kListAction, L"AutoUpdateLimit", L"200000", L"0",         49027},
+        {27, 1005, Edit,  kListAction, L"AutoUpdateLimit", L"500001", nullptr,      0, {}, L"0 and 500000"},
+        {27, 1004, Edit,  kListAction, L"UpdateDelay",     L"500",    L"10000",     49027},
+        {27, 1004, Edit,  kListAction, L"UpdateDelay",     L"500",    L"10001",     0, {}, L"0 and 10000"},
+        {29, 1258, Check, kListDraw,   L"Ext",             L"0",      L"1",         49029},
+        {29, 1254, Check, kListDraw,   L"FullRowSel",      L"1",      L"0",         49029},
+        {29, 1256, Check, kListDraw,   L"Glid",            L"1",      L"0",         49029},
+        {29, 1257, Check, kListDraw,   L"AutoArray",       L"0",      L"1",         49029},
+        {29, 1006, Edit,  kListInit,   L"ListTextWidth",   L"200",    L"1000",      49029},
+        {29, 1001, Edit,  kListInit,   L"ExListTextWidth", L"200",    L"0",         49029},
+        {29, 1002, Edit,  kListInit,   L"ListExtWidth",    L"40",     L"41",        49029},
+        {29, 1003, Edit,  kListInit,   L"ListSizeWidth",   L"65",     L"66",        49029},
+        {29, 1004, Edit,  kListInit,   L"ListDateWidth",   L"135",    L"136",       49029},
+        {29, 1005, Edit,  kListInit,   L"ListAttWidth",    L"40",     L"1001",      0, {}, L"0 and 1000"},
+        {29, 1007, Edit,  kListInit,   L"TileTextWidth",   L"200",    L"201",       49029},
+        {29, 1008, Edit,  kListInit,   L"IconMinWidth",    L"48",     L"31",        0, {}, L"32 and 255"},
+        {29, 1008, Edit,  kListInit,   L"IconMinWidth",    L"48",     L"255",       49029},
+        {29, 1009, Edit,  kListInit,   L"IconLine",        L"2",      L"21",        0, {}, L"1 and 20"},
+        {29, 1009, Edit,  kListInit,   L"IconLine",        L"2",      L"1",         49029},
+        {29, 1251, Check, kListInit,   L"SlowTileItem",    L"1",      L"0",         49029},
+        {29, 1252, Check, kListInit,   L"TileType",        L"1",      L"0",         49029},
+        {29, 1253, Check, kListInit,   L"TileSize",        L"1",      L"0",         49029},
+        {29, 1259, Check, kListInit,   L"DetailTypeIsExt", L"0",      L"1",         49029},
     };
     // clang-format on
     for (const Case& c : cases) {
@@ -202,6 +264,9 @@ TEST_F(OptionPagesTest, ControlsCarryTheirStoredValuesBothWays) {
         if (c.kind == Edit) {
             EXPECT_EQ(c.stored, Field(page, c.control));
             if (c.set) Type(page, c.control, c.set);
+        } else if (c.kind == Combo) {
+            EXPECT_EQ(std::stoi(c.stored), SendDlgItemMessageW(page, c.control, CB_GETCURSEL, 0, 0));
+            SendDlgItemMessageW(page, c.control, CB_SETCURSEL, std::stoi(c.set), 0);
         } else {
             const int button = c.kind == Check ? c.control : c.control + std::stoi(c.stored);
             EXPECT_EQ(c.kind == Check ? std::stoi(c.stored) : BST_CHECKED, IsDlgButtonChecked(page, button));
@@ -419,6 +484,164 @@ TEST_F(OptionPagesTest, ContextMenuChecksFollowTheirPlacesFirstTwo) {
     Click(page, 1252);
     Click(page, 1259);
     EXPECT_EQ(all, enabled());
+}
+
+std::span<const BitCheck> BitChecksOf(int page) {
+    switch (page) {
+        case 3:
+            return kOtherStyleChecks;
+        case 33:
+            return kCustomSortChecks;
+        case 29:
+            return kRealNameChecks;
+        default:
+            return kThumbChecks;
+    }
+}
+
+// Values made of bits show as checks; Apply makes them anew from the checks alone, with the bits no
+// check stands for gone. Digits compared as numbers are dropped on systems that lack them. A stored
+// value of -1 here is no value at all.
+TEST_F(OptionPagesTest, ListValuesOfBitsShowAsChecksAndAreMadeAnewFromThem) {
+    // clang-format off
+    struct Case { int page; const wchar_t *section, *name; int64_t stored; std::vector<int> ticked, clicks;
+                  int32_t saved; uint16_t code; int32_t version = 1000; std::vector<int> disabled = {}; };
+    const Case cases[] = {
+        {3,  kListDraw, L"ListViewOtherStyle", 6,  {1256}, {},     4, 49000},
+        {3,  kListDraw, L"ListViewOtherStyle", 4,  {1256}, {1256}, 0, 49000},
+        {3,  kListDraw, L"ListViewOtherStyle", -1, {},     {1256}, 4, 49000},
+        {33, kListDraw, L"CustomSortFlag", -1, {1251, 1252, 1253, 1254, 1255, 1256}, {}, 0x31034, 49000},
+        {33, kListDraw, L"CustomSortFlag", 0x31034, {1251, 1252, 1253, 1254, 1255, 1256}, {1257}, 0x3103C, 49000},
+        {33, kListDraw, L"CustomSortFlag", 0x31034, {1251, 1252, 1253, 1254, 1255, 1256}, {1257}, 0x31034, 49000, 600},
+        {33, kListDraw, L"CustomSortFlag", 0x31034, {1251, 1252, 1253, 1254, 1255, 1256}, {1257}, 0x31034, 49000, 501},
+        {33, kListDraw, L"CustomSortFlag", 0xFFFFFFFF, {1251, 1252, 1253, 1254, 1255, 1256, 1257}, {1251}, 0x3102C, 49000},
+        {29, kListDraw, L"DrawRealName", -1, {1270}, {}, 4, 49029},
+        {29, kListDraw, L"DrawRealName", 0xFF, {1265, 1266, 1267, 1268, 1269, 1270}, {1265}, 0x67, 49029},
+        {29, kListDraw, L"DrawRealName", 0, {}, {1267, 1268}, 0x41, 49029},
+        {9,  kThumb, L"Thumb", -1, {1252, 1253}, {}, 6, 49002},
+        {9,  kThumb, L"Thumb", 6, {1252, 1253}, {1252}, 4, 49002, 1000, {1002, 1301}},
+        {9,  kThumb, L"Thumb", 6, {1252, 1253}, {1253}, 2, 49002, 1000, {1254}},
+    };
+    // clang-format on
+    const std::vector<int> controls = {1251, 1252, 1253, 1254, 1255, 1256, 1257, 1265,
+                                       1266, 1267, 1268, 1269, 1270, 1002, 1301};
+    for (const Case& c : cases) {
+        SCOPED_TRACE(testing::PrintToString(std::wstring(c.name) + L"=" + std::to_wstring(c.stored)));
+        fake_.registry().DeleteKey(c.section);
+        if (c.stored != -1) DirectWriteInt(c.section, c.name, static_cast<int32_t>(c.stored));
+        fake_.environment().SetSystemVersion(c.version);
+        AppServices app{96};
+        app.commandOptionRoot = app_.commandOptionRoot;
+        COptionDlg dialog(app);
+        HWND page = Open(dialog, c.page);
+        ASSERT_NE(nullptr, page);
+        std::vector<int> ticked;
+        for (const BitCheck& check : BitChecksOf(c.page))
+            if (IsDlgButtonChecked(page, check.control)) ticked.push_back(check.control);
+        std::ranges::sort(ticked);
+        EXPECT_EQ(c.ticked, ticked);
+        for (int id : c.clicks) Click(page, id);
+        std::vector<int> disabled;
+        for (int id : controls)
+            if (GetDlgItem(page, id) && !IsWindowEnabled(GetDlgItem(page, id))) disabled.push_back(id);
+        EXPECT_EQ(c.disabled, disabled);
+        const size_t heard = fake_.windows().commands().size();
+        Apply(dialog);
+        EXPECT_EQ(c.saved, DirectReadInt(c.section, c.name, -1));
+        EXPECT_EQ(std::vector<uint16_t>{c.code}, Codes(heard));
+    }
+}
+
+// Each size shows as the item of its step, rounded down, and is stored as that item's size; a size the
+// list lacks shows no item and stays. The base follows the large size when it has none of its own.
+// The font button opens the font box on screen fonts of one script.
+TEST_F(OptionPagesTest, ThumbnailSizesShowTheirStepAndTheFontBoxOpensOnScreenFonts) {
+    DirectWriteInt(kThumb, L"ImgSize0", 40);
+    DirectWriteInt(kThumb, L"ImgSize1", 500);
+    DirectWriteInt(kThumb, L"ImgSize2", 96);
+    COptionDlg dialog(app_);
+    HWND page = Open(dialog, 9);
+    ASSERT_NE(nullptr, page);
+    auto shown = [&] {
+        std::vector<std::wstring> texts;
+        for (int id : {1151, 1152, 1153, 1154}) texts.push_back(Field(page, id));
+        return texts;
+    };
+    EXPECT_EQ((std::vector<std::wstring>{L"32", L"", L"96", L"96"}), shown());
+    EXPECT_EQ(25, SendDlgItemMessageW(page, 1154, CB_GETCOUNT, 0, 0));
+    SendDlgItemMessageW(page, 1154, CB_SETCURSEL, 24, 0);
+    Click(page, 1301);
+    EXPECT_EQ(std::vector<unsigned>{0x1800401}, fake_.prompts().fontBoxes());
+    Apply(dialog);
+    std::vector<int32_t> stored;
+    for (const wchar_t* name : {L"ImgSize0", L"ImgSize1", L"ImgSize2", L"ImgSizeBase"})
+        stored.push_back(DirectReadInt(kThumb, name, -1));
+    EXPECT_EQ((std::vector<int32_t>{32, 500, 96, 400}), stored);
+}
+
+// The folders automatic update leaves alone, as the user edits them: the input box adds and edits, a
+// full list takes no more, a button without a selection says so, and Apply stores the rows in order
+// behind an empty end mark.
+TEST_F(OptionPagesTest, WatchExclusionsAreEditedInTheInputBoxAndStoredInOrder) {
+    fake_.files().AddFile(L"C:\\Msg.txt", Utf16Bytes(L"62301\tNothing selected.\r\n62316\tList full.\r\n", true));
+    app_.messages.SetPath(L"C:\\Msg.txt");
+    for (int i = 0; i < 20; ++i) DirectWriteString(kNoUpdate, std::to_wstring(i), L"C:\\F" + std::to_wstring(i));
+    COptionDlg dialog(app_);
+    HWND page = Open(dialog, 27);
+    ASSERT_NE(nullptr, page);
+    HWND list = GetDlgItem(page, 1601);
+    auto rows = [&] {
+        std::vector<std::wstring> texts;
+        for (LRESULT i = 0, count = SendMessageW(list, LB_GETCOUNT, 0, 0); i < count; ++i) {
+            std::wstring text(SendMessageW(list, LB_GETTEXTLEN, i, 0), L'\0');
+            SendMessageW(list, LB_GETTEXT, i, reinterpret_cast<LPARAM>(text.data()));
+            texts.push_back(text);
+        }
+        return texts;
+    };
+    std::vector<std::wstring> expected;
+    for (int i = 0; i < 20; ++i) expected.push_back(L"C:\\F" + std::to_wstring(i));
+    EXPECT_EQ(expected, rows());
+    // What the box showed when it came (caption, prompt, text), and the text typed into it.
+    std::vector<std::wstring> opened;
+    auto answer = [&](const wchar_t* typed, int button = IDOK) {
+        WhenShown(L"監視の除外フォルダーの編集", [&opened, typed, button](HWND box) {
+            opened.push_back(TextOf(GetDlgItem(box, 1401)) + L"|" + TextOf(GetDlgItem(box, 1001)));
+            SetDlgItemTextW(box, 1001, typed);
+            PostMessageW(box, WM_COMMAND, button, 0);
+        });
+    };
+    const std::wstring prompt = L"監視をしないフォルダー(仮想フォルダーの指定や、ワイルドカードが使えます)|";
+    answer(L"D:\\Full\\");
+    Click(page, 1301);
+    EXPECT_EQ(std::vector{prompt}, opened);
+    EXPECT_EQ(std::vector<std::wstring>{L"List full."}, Messages());
+    Click(page, 1302);
+    Click(page, 1303);
+    EXPECT_EQ((std::vector<std::wstring>{L"List full.", L"Nothing selected.", L"Nothing selected."}), Messages());
+    SendMessageW(list, LB_SETCURSEL, 0, 0);
+    Click(page, 1303);
+    answer(L"  D:\\Added\\");
+    Click(page, 1301);
+    answer(L"\\");
+    Click(page, 1301);
+    answer(L"X:\\Cancelled", IDCANCEL);
+    Click(page, 1301);
+    SendMessageW(list, LB_SETCURSEL, 0, 0);
+    answer(L"E:\\Edited/");
+    SendMessageW(page, WM_COMMAND, MAKEWPARAM(1601, LBN_DBLCLK), reinterpret_cast<LPARAM>(list));
+    EXPECT_EQ(prompt + L"C:\\F1", opened.back());
+    expected.erase(expected.begin());
+    expected[0] = L"E:\\Edited";
+    expected.push_back(L"D:\\Added");
+    EXPECT_EQ(expected, rows());
+    EXPECT_EQ(3u, Messages().size()) << "nothing more said";
+    Apply(dialog);
+    std::vector<std::wstring> stored;
+    for (int i = 0; i <= 20; ++i) stored.push_back(DirectReadString(kNoUpdate, std::to_wstring(i), L"<absent>"));
+    expected.push_back(L"");
+    EXPECT_EQ(expected, stored);
+    EXPECT_EQ(std::vector<uint16_t>{49027}, Codes());
 }
 
 }  // namespace
