@@ -10,6 +10,7 @@
 #include "definitions/COptionExToolDlg.h"
 #include "definitions/COptionMenuDlg.h"
 #include "pages/COptionAppInfoDlg.h"
+#include "pages/COptionColorGridDlg.h"
 #include "pages/COptionCommonUIDlg.h"
 #include "pages/COptionContextMenuDlg.h"
 #include "pages/COptionDivListDlg.h"
@@ -52,6 +53,7 @@ const std::vector<PageClass>& PageClasses() {
         {23, &Make<COptionCmdDefDlg>},
         {24, &Make<COptionCommonUIDlg>},
         {25, &Make<COptionExCmdDlg>},
+        {26, &Make<COptionColorGridDlg>},
         {28, &Make<COptionListStateDlg>},
         {30, &Make<COptionNetworkDlg>},
         {32, &Make<COptionInclimentalSerchDlg>},

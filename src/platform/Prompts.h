@@ -2,8 +2,11 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <vector>
+
+#include "platform/LogFont.h"
 
 namespace platform {
 
@@ -56,6 +59,12 @@ public:
     // Captioned with the program's name and owned by the active window. The index of the choice
     // taken; -1 when the user cancelled.
     virtual int ChooseOne(const ChoiceRequest& request) = 0;
+    // The system's colour chooser, opened in full on the colour given (0x00BBGGRR) and owned by the
+    // active window; nullopt when the user cancelled.
+    virtual std::optional<uint32_t> ChooseColour(uint32_t initial) = 0;
+    // The system's font chooser with these chooser flags, opened on the font given; nullopt when the
+    // user cancelled.
+    virtual std::optional<LogFont> ChooseFontFace(const LogFont& initial, unsigned flags) = 0;
 };
 
 }  // namespace platform

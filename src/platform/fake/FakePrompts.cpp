@@ -50,4 +50,20 @@ int FakePrompts::ChooseOne(const ChoiceRequest& request) {
     return index;
 }
 
+std::optional<uint32_t> FakePrompts::ChooseColour(uint32_t initial) {
+    colourOpenings_.push_back(initial);
+    if (colours_.empty()) return std::nullopt;
+    std::optional<uint32_t> colour = colours_.front();
+    colours_.pop_front();
+    return colour;
+}
+
+std::optional<LogFont> FakePrompts::ChooseFontFace(const LogFont&, unsigned flags) {
+    fontOpenings_.push_back(flags);
+    if (fonts_.empty()) return std::nullopt;
+    std::optional<LogFont> font = fonts_.front();
+    fonts_.pop_front();
+    return font;
+}
+
 }  // namespace platform::fake

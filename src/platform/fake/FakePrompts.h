@@ -36,6 +36,8 @@ public:
     FolderChoice ChooseFileToOpen(const std::wstring& title, const std::wstring& filter,
                                   const std::wstring& start) override;
     int ChooseOne(const ChoiceRequest& request) override;
+    std::optional<uint32_t> ChooseColour(uint32_t initial) override;
+    std::optional<LogFont> ChooseFontFace(const LogFont& initial, unsigned flags) override;
 
     // Answers given in turn; when none is left a question gets No and a message OK.
     void Answer(int answer) { answers_.push_back(answer); }
@@ -46,7 +48,17 @@ public:
     // Choices taken in turn, by index; when none is left the task dialog is cancelled.
     void Choose(int index) { choices_.push_back(index); }
     const std::vector<ChoiceRequest>& offered() const { return offered_; }
+    // Colours and fonts chosen in turn; when none is left the chooser is cancelled. The colour and
+    // the flags each chooser opened with are kept.
+    void ChooseColourNext(std::optional<uint32_t> colour) { colours_.push_back(colour); }
+    void ChooseFontNext(std::optional<LogFont> font) { fonts_.push_back(font); }
+    const std::vector<uint32_t>& colourOpenings() const { return colourOpenings_; }
+    const std::vector<unsigned>& fontOpenings() const { return fontOpenings_; }
     void Clear() {
+        colours_.clear();
+        fonts_.clear();
+        colourOpenings_.clear();
+        fontOpenings_.clear();
         shown_.clear();
         answers_.clear();
         browsed_.clear();
@@ -64,6 +76,10 @@ private:
     std::deque<FolderChoice> folders_;
     std::vector<ChoiceRequest> offered_;
     std::deque<int> choices_;
+    std::deque<std::optional<uint32_t>> colours_;
+    std::deque<std::optional<LogFont>> fonts_;
+    std::vector<uint32_t> colourOpenings_;
+    std::vector<unsigned> fontOpenings_;
 };
 
 }  // namespace platform::fake

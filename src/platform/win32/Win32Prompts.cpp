@@ -6,6 +6,7 @@
 #include <commdlg.h>
 #include <shlwapi.h>
 
+#include <cstring>
 #include <vector>
 
 #include "platform/win32/Win32Environment.h"
@@ -145,6 +146,34 @@ int Win32Prompts::ChooseOne(const ChoiceRequest& request) {
     if (FAILED(TaskDialogIndirect(&config, &pressed, nullptr, nullptr))) return -1;
     if (pressed < kFirstChoiceId || pressed >= kFirstChoiceId + static_cast<int>(buttons.size())) return -1;
     return pressed - kFirstChoiceId;
+}
+
+std::optional<uint32_t> Win32Prompts::ChooseColour(uint32_t initial) {
+    // The sixteen custom colours live as long as the process, as the user expects of the chooser.
+    static COLORREF custom[16] = {};
+    CHOOSECOLORW box{};
+    box.lStructSize = sizeof(box);
+    box.hwndOwner = GetActiveWindow();
+    box.rgbResult = initial & 0xFFFFFF;
+    box.lpCustColors = custom;
+    box.Flags = CC_RGBINIT | CC_FULLOPEN | CC_ANYCOLOR;
+    if (!ChooseColorW(&box)) return std::nullopt;
+    return static_cast<uint32_t>(box.rgbResult);
+}
+
+std::optional<LogFont> Win32Prompts::ChooseFontFace(const LogFont& initial, unsigned flags) {
+    static_assert(sizeof(LogFont) == sizeof(LOGFONTW));
+    LOGFONTW font{};
+    std::memcpy(&font, &initial, sizeof(font));
+    CHOOSEFONTW box{};
+    box.lStructSize = sizeof(box);
+    box.hwndOwner = GetActiveWindow();
+    box.lpLogFont = &font;
+    box.Flags = flags | CF_INITTOLOGFONTSTRUCT;
+    if (!ChooseFontW(&box)) return std::nullopt;
+    LogFont chosen;
+    std::memcpy(static_cast<void*>(&chosen), &font, sizeof(chosen));
+    return chosen;
 }
 
 }  // namespace platform::win32

@@ -15,6 +15,8 @@ public:
     FolderChoice ChooseFileToOpen(const std::wstring& title, const std::wstring& filter,
                                   const std::wstring& start) override;
     int ChooseOne(const ChoiceRequest& request) override;
+    std::optional<uint32_t> ChooseColour(uint32_t initial) override;
+    std::optional<LogFont> ChooseFontFace(const LogFont& initial, unsigned flags) override;
 };
 
 }  // namespace platform::win32
