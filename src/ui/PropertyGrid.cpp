@@ -53,6 +53,7 @@ bool PropertyGrid::Create(HWND parent, int id, const RECT& rect, DWORD style) {
     SetWindowLongPtrW(window_, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
     SetWindowLongPtrW(window_, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&Proc));
     dpi_ = WindowDpi(window_);
+    OpenThemes();
     SetFont(reinterpret_cast<HFONT>(SendMessageW(parent, WM_GETFONT, 0, 0)));
     Refresh();
     return true;
@@ -398,6 +399,9 @@ LRESULT PropertyGrid::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
             Measure();
             return 0;
         case WM_THEMECHANGED:
+            OpenThemes();
+            Measure();
+            return 0;
         case WM_SETTINGCHANGE:
             Measure();
             return 0;
@@ -495,6 +499,7 @@ LRESULT PropertyGrid::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
             return 0;
         case WM_NCDESTROY: {
             HWND window = window_;
+            CloseThemes();
             edit_ = nullptr;
             SetWindowLongPtrW(window, GWLP_USERDATA, 0);
             window_ = nullptr;

@@ -8,6 +8,8 @@
 
 #include <windows.h>
 
+#include <uxtheme.h>
+
 #include "ui/PropertyGridModel.h"
 
 namespace ui {
@@ -65,6 +67,9 @@ private:
     RECT GlyphRect(int row, int depth) const;
     int RowAt(int y) const;
 
+    // The visual style's parts, held while the window lives; null without a style.
+    void OpenThemes();
+    void CloseThemes();
     void Paint(HDC dc, const RECT& area);
     void PaintRow(HDC dc, int row, const GridRow& shown, const RECT& client);
     void PaintValue(HDC dc, int row, const Property& property, const RECT& value);
@@ -93,6 +98,9 @@ private:
     bool markModified_ = true;
     HWND edit_ = nullptr;
     int editId_ = -1;
+    HTHEME buttonTheme_ = nullptr;
+    HTHEME comboTheme_ = nullptr;
+    HTHEME treeTheme_ = nullptr;
 };
 
 }  // namespace ui

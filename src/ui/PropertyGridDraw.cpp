@@ -13,22 +13,6 @@ namespace ui {
 
 namespace {
 
-// A theme handle for one drawing, closed at its end.
-class Theme {
-public:
-    Theme(HWND window, const wchar_t* classes) : theme_(OpenThemeData(window, classes)) {}
-    ~Theme() {
-        if (theme_) CloseThemeData(theme_);
-    }
-    Theme(const Theme&) = delete;
-    Theme& operator=(const Theme&) = delete;
-    explicit operator bool() const { return theme_ != nullptr; }
-    HTHEME get() const { return theme_; }
-
-private:
-    HTHEME theme_;
-};
-
 void Fill(HDC dc, const RECT& rect, COLORREF colour) {
     SetBkColor(dc, colour);
     ExtTextOutW(dc, 0, 0, ETO_OPAQUE, &rect, nullptr, 0, nullptr);
@@ -46,6 +30,20 @@ void Text(HDC dc, const std::wstring& text, RECT rect, COLORREF colour, UINT ext
 }
 
 }  // namespace
+
+void PropertyGrid::OpenThemes() {
+    CloseThemes();
+    buttonTheme_ = OpenThemeData(window_, L"BUTTON");
+    comboTheme_ = OpenThemeData(window_, L"COMBOBOX");
+    treeTheme_ = OpenThemeData(window_, L"TREEVIEW");
+}
+
+void PropertyGrid::CloseThemes() {
+    for (HTHEME* theme : {&buttonTheme_, &comboTheme_, &treeTheme_}) {
+        if (*theme) CloseThemeData(*theme);
+        *theme = nullptr;
+    }
+}
 
 void PropertyGrid::Paint(HDC target, const RECT& area) {
     RECT client{};
@@ -130,9 +128,8 @@ void PropertyGrid::PaintValue(HDC dc, int row, const Property& property, const R
         }
         case PropertyKind::Boolean: {
             const RECT box = CheckRect(row);
-            Theme theme(window_, L"BUTTON");
-            if (theme) {
-                DrawThemeBackground(theme.get(), dc, BP_CHECKBOX,
+            if (buttonTheme_) {
+                DrawThemeBackground(buttonTheme_, dc, BP_CHECKBOX,
                                     property.check ? CBS_CHECKEDNORMAL : CBS_UNCHECKEDNORMAL, &box, nullptr);
             } else {
                 RECT frame = box;
@@ -153,17 +150,15 @@ void PropertyGrid::PaintValue(HDC dc, int row, const Property& property, const R
     if (!hasButton) return;
     RECT button = ButtonRect(row);
     if (property.kind == PropertyKind::Colour) {
-        Theme theme(window_, L"COMBOBOX");
-        if (theme) {
-            DrawThemeBackground(theme.get(), dc, CP_DROPDOWNBUTTON, CBXS_NORMAL, &button, nullptr);
+        if (comboTheme_) {
+            DrawThemeBackground(comboTheme_, dc, CP_DROPDOWNBUTTON, CBXS_NORMAL, &button, nullptr);
         } else {
             DrawFrameControl(dc, &button, DFC_SCROLL, DFCS_SCROLLCOMBOBOX);
         }
         return;
     }
-    Theme theme(window_, L"BUTTON");
-    if (theme) {
-        DrawThemeBackground(theme.get(), dc, BP_PUSHBUTTON, PBS_NORMAL, &button, nullptr);
+    if (buttonTheme_) {
+        DrawThemeBackground(buttonTheme_, dc, BP_PUSHBUTTON, PBS_NORMAL, &button, nullptr);
     } else {
         DrawFrameControl(dc, &button, DFC_BUTTON, DFCS_BUTTONPUSH);
     }
@@ -171,13 +166,12 @@ void PropertyGrid::PaintValue(HDC dc, int row, const Property& property, const R
 }
 
 void PropertyGrid::PaintGlyph(HDC dc, const RECT& glyph, bool expanded) {
-    Theme theme(window_, L"TREEVIEW");
     SIZE size{Scale(9), Scale(9)};
-    if (theme) GetThemePartSize(theme.get(), dc, TVP_GLYPH, GLPS_CLOSED, nullptr, TS_TRUE, &size);
+    if (treeTheme_) GetThemePartSize(treeTheme_, dc, TVP_GLYPH, GLPS_CLOSED, nullptr, TS_TRUE, &size);
     const int x = (glyph.left + glyph.right - size.cx) / 2, y = (glyph.top + glyph.bottom - size.cy) / 2;
     RECT box{x, y, x + size.cx, y + size.cy};
-    if (theme) {
-        DrawThemeBackground(theme.get(), dc, TVP_GLYPH, expanded ? GLPS_OPENED : GLPS_CLOSED, &box, nullptr);
+    if (treeTheme_) {
+        DrawThemeBackground(treeTheme_, dc, TVP_GLYPH, expanded ? GLPS_OPENED : GLPS_CLOSED, &box, nullptr);
         return;
     }
     Fill(dc, box, GetSysColor(COLOR_WINDOW));
