@@ -6,12 +6,15 @@
 
 #include <windows.h>
 
+#include <filesystem>
 #include <string>
 
 #include "support/FakeHostProcess.h"
+#include "support/OptionTree.h"
 #include "support/OptionWindow.h"
 #include "support/Process.h"
 #include "support/Registry.h"
+#include "support/Screenshot.h"
 
 namespace {
 
@@ -23,6 +26,7 @@ constexpr int kApply = 1301;
 constexpr int kExplorer = 1303;
 constexpr int kBlack = 1304;
 constexpr int kFirstSkin = 1201;
+constexpr int kGrid = 2;
 
 class ColorPageTest : public testing::Test {
 protected:
@@ -81,6 +85,14 @@ TEST_F(ColorPageTest, TheBlackPaletteAppliedReachesTheRegistryAndTheHost) {
     }
     EXPECT_EQ(L"exe,com,bat,scr,pif,vbs", reg::ReadString(kColor, L"Ex1").value_or(L"<absent>"));
     EXPECT_TRUE(reg::ReadDword(kViewFont, L"Point").has_value()) << "the font is written with the colours";
+
+    // A picture for people to look at: the dark palette, a colour selected by the keyboard.
+    HWND grid = GetDlgItem(page, kGrid);
+    for (int row = 0; row < 4; ++row) PostMessageW(grid, WM_KEYDOWN, VK_DOWN, 0);
+    e2e::WaitUntilDialogIdle(dialog, option.Handle());
+    const std::filesystem::path pictures = std::filesystem::path(e2e::StageRoot()).parent_path() / L"screenshots";
+    std::filesystem::create_directories(pictures);
+    e2e::CaptureWindow(dialog, (pictures / L"colour-grid.bmp").wstring());
     Close(IDCANCEL);
 }
 

@@ -94,6 +94,11 @@ TEST_F(ColorGridPageTest, KeyboardEditsATickAColourAndATextAndApplyStoresThem) {
 }
 
 TEST_F(ColorGridPageTest, GroupsFoldByKeyboardAndAPaletteShowsItsColoursUnmarked) {
+    // Tab walks out of the grid to the first palette and back into it.
+    SendMessageW(dialog_.hwnd(), WM_NEXTDLGCTL, 0, FALSE);
+    EXPECT_EQ(GetDlgItem(page_->hwnd(), IDC_COLOR_DEFAULT), GetFocus());
+    SendMessageW(dialog_.hwnd(), WM_NEXTDLGCTL, 1, FALSE);
+    EXPECT_EQ(grid_, GetFocus());
     const size_t open = model().Rows().size();
     Keys({VK_DOWN, VK_DOWN});
     EXPECT_EQ(L"属性による色分け", Selected().name);
