@@ -10,6 +10,8 @@
 
 #include <uxtheme.h>
 
+#include <optional>
+
 #include "ui/PropertyGridModel.h"
 
 namespace ui {
@@ -17,6 +19,9 @@ namespace ui {
 class PropertyGrid {
 public:
     static constexpr const wchar_t* kClassName = L"OptionPropertyGrid";
+    // Posted by the edit in place when it loses the focus: it goes once its own message has returned.
+    static constexpr UINT kEndEditMessage = WM_APP + 0x50;
+    static constexpr UINT_PTR kEditSubclass = 0x50475245;  // "PGRE"
 
     PropertyGrid() = default;
     ~PropertyGrid();
@@ -48,6 +53,8 @@ private:
     static LRESULT CALLBACK Proc(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
     static LRESULT CALLBACK EditProc(HWND edit, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR, DWORD_PTR self);
     LRESULT Handle(UINT message, WPARAM wParam, LPARAM lParam);
+    // The mouse's messages; nullopt for any other.
+    std::optional<LRESULT> HandleMouse(UINT message, WPARAM wParam, LPARAM lParam);
     LRESULT HandleEdit(HWND edit, UINT message, WPARAM wParam, LPARAM lParam);
 
     // Sizes from the font and the window's dots per inch.
