@@ -27,6 +27,8 @@
 namespace {
 
 constexpr DWORD kTimeoutMs = 20000;
+constexpr int kColorPageId = 26;
+constexpr int kColorFirstPalette = 1302;
 
 struct Shown {
     e2e::Process process;
@@ -57,6 +59,8 @@ struct Switches {
     std::vector<double> total;
     // The part until the tree's selection message returns, the page made and shown; painting follows.
     std::vector<double> selection;
+    // The colour page's switch: its grid made and filled, all of it painted.
+    std::vector<double> colorPage;
 };
 
 // Selects each page of the tree once and times each switch until the dialog is idle again.
@@ -75,6 +79,21 @@ Switches TimePageSwitches(const Shown& shown) {
         e2e::WaitUntilDialogIdle(shown.dialog, shown.process.Handle());
         times.total.push_back(Now() - start);
         times.selection.push_back(selectedAt - start);
+        if (rows[i].id == kColorPageId) times.colorPage.push_back(times.total.back());
+    }
+    return times;
+}
+
+// Each palette of the colour page in turn until the dialog is idle again: the grid built anew and painted.
+std::vector<double> TimePalettes(const Shown& shown) {
+    std::vector<double> times;
+    HWND page = e2e::PageWith(shown.dialog, kColorFirstPalette);
+    if (!page) return times;
+    for (int palette = kColorFirstPalette; palette < kColorFirstPalette + 5; ++palette) {
+        const double start = Now();
+        SendMessageW(GetDlgItem(page, palette), BM_CLICK, 0, 0);
+        e2e::WaitUntilDialogIdle(shown.dialog, shown.process.Handle());
+        times.push_back(Now() - start);
     }
     return times;
 }
@@ -197,6 +216,7 @@ int wmain(int argc, wchar_t** argv) {
     Figures firstSelection{"  of which the selection message"}, idle{"waiting for the idle dialog alone"};
     Figures apply{"Apply with every page opened"};
     Figures modifierSwitch{"key page: a switch of modifier"}, picker{"command picker, its first opening in a run"};
+    Figures colorPage{"colour page: created, grid built, shown"}, palette{"colour page: a palette, grid rebuilt"};
     // The first run of each warms the caches and is not counted.
     for (int i = 0; i <= runs; ++i) {
         Shown empty = StartAndTime(floorProgram, L"Empty");
@@ -226,6 +246,7 @@ int wmain(int argc, wchar_t** argv) {
         std::vector<double> probes = TimeIdleProbes(shown, 10);
         std::vector<double> applies = TimeApplies(shown, 5);
         KeyPageTimes keys = TimeKeyPage(shown);
+        std::vector<double> palettes = TimePalettes(shown);
         if (!Close(shown)) {
             std::printf("the option dialog did not end on Cancel\n");
             return 1;
@@ -242,6 +263,8 @@ int wmain(int argc, wchar_t** argv) {
         apply.times.insert(apply.times.end(), applies.begin(), applies.end());
         modifierSwitch.times.insert(modifierSwitch.times.end(), keys.modifierSwitch.begin(), keys.modifierSwitch.end());
         picker.times.insert(picker.times.end(), keys.pickerOpening.begin(), keys.pickerOpening.end());
+        colorPage.times.insert(colorPage.times.end(), first.colorPage.begin(), first.colorPage.end());
+        palette.times.insert(palette.times.end(), palettes.begin(), palettes.end());
     }
     const double floorMs = floor.Print();
     const double controlsMs = controls.Print();
@@ -262,6 +285,8 @@ int wmain(int argc, wchar_t** argv) {
     std::printf("Apply: median %.1f ms (target under 20 ms)\n", apply.Print());
     std::printf("key page modifier switch: median %.1f ms (target under 15 ms)\n", modifierSwitch.Print());
     std::printf("command picker opening: median %.1f ms (target under 150 ms)\n", picker.Print());
+    std::printf("colour page opening: median %.1f ms (target under 40 ms)\n", colorPage.Print());
+    std::printf("colour palette press: median %.1f ms (target under 15 ms)\n", palette.Print());
     std::filesystem::remove_all(user);
     return 0;
 }

@@ -14,6 +14,7 @@
 #include "definitions/COptionExToolDlg.h"
 #include "definitions/COptionMenuDlg.h"
 #include "pages/COptionAppInfoDlg.h"
+#include "pages/COptionColorGridDlg.h"
 #include "pages/COptionCommonUIDlg.h"
 #include "pages/COptionContextMenuDlg.h"
 #include "pages/COptionCustomSort.h"
@@ -69,6 +70,7 @@ const std::vector<PageClass>& PageClasses() {
         {23, &Make<COptionCmdDefDlg>},
         {24, &Make<COptionCommonUIDlg>},
         {25, &Make<COptionExCmdDlg>},
+        {26, &Make<COptionColorGridDlg>},
         {27, &Make<COptionListAutoUpdateDlg>},
         {28, &Make<COptionListStateDlg>},
         {29, &Make<COptionListModeStyleDlg>},

@@ -80,7 +80,8 @@ bool COptionThumbDlg::OnCommand(int id, int code) {
         return true;
     }
     if (id != IDC_THUMB_FONT) return false;
-    platform::Current().prompts.PickFont(app().store.ThumbFont, kFontBoxFlags);
+    if (auto font = platform::Current().prompts.ChooseFontFace(app().store.ThumbFont, kFontBoxFlags))
+        app().store.ThumbFont = *font;
     return true;
 }
 

@@ -56,15 +56,15 @@ public:
     // refuses the start text it opens once more without it. filter: pairs of texts, each ending in "|".
     virtual FolderChoice ChooseFileToOpen(const std::wstring& title, const std::wstring& filter,
                                           const std::wstring& start) = 0;
-    // The system's colour chooser, fully open, on the initial colour; owned by the active window.
-    // The colour chosen (a COLORREF), or nullopt when the user cancelled.
-    virtual std::optional<uint32_t> ChooseColour(uint32_t initial) = 0;
     // Captioned with the program's name and owned by the active window. The index of the choice
     // taken; -1 when the user cancelled.
     virtual int ChooseOne(const ChoiceRequest& request) = 0;
-    // The system's font box owned by the active window, opened on font, with the CF_ flags given;
-    // true and font replaced when the user took one.
-    virtual bool PickFont(LogFont& font, unsigned flags) = 0;
+    // The system's colour chooser, opened in full on the colour given (0x00BBGGRR) and owned by the
+    // active window; nullopt when the user cancelled.
+    virtual std::optional<uint32_t> ChooseColour(uint32_t initial) = 0;
+    // The system's font chooser with these chooser flags, opened on the font given; nullopt when the
+    // user cancelled.
+    virtual std::optional<LogFont> ChooseFontFace(const LogFont& initial, unsigned flags) = 0;
 };
 
 }  // namespace platform

@@ -42,14 +42,6 @@ FolderChoice FakePrompts::ChooseFileToOpen(const std::wstring& title, const std:
     return BrowseForFolder(title, start);
 }
 
-std::optional<uint32_t> FakePrompts::ChooseColour(uint32_t initial) {
-    colourStarts_.push_back(initial);
-    if (colours_.empty()) return std::nullopt;
-    const uint32_t colour = colours_.front();
-    colours_.pop_front();
-    return colour;
-}
-
 int FakePrompts::ChooseOne(const ChoiceRequest& request) {
     offered_.push_back(request);
     if (choices_.empty()) return -1;
@@ -58,12 +50,20 @@ int FakePrompts::ChooseOne(const ChoiceRequest& request) {
     return index;
 }
 
-bool FakePrompts::PickFont(LogFont& font, unsigned flags) {
-    fontBoxes_.push_back(flags);
-    if (fonts_.empty()) return false;
-    font = fonts_.front();
+std::optional<uint32_t> FakePrompts::ChooseColour(uint32_t initial) {
+    colourOpenings_.push_back(initial);
+    if (colours_.empty()) return std::nullopt;
+    std::optional<uint32_t> colour = colours_.front();
+    colours_.pop_front();
+    return colour;
+}
+
+std::optional<LogFont> FakePrompts::ChooseFontFace(const LogFont&, unsigned flags) {
+    fontOpenings_.push_back(flags);
+    if (fonts_.empty()) return std::nullopt;
+    std::optional<LogFont> font = fonts_.front();
     fonts_.pop_front();
-    return true;
+    return font;
 }
 
 }  // namespace platform::fake

@@ -35,9 +35,9 @@ public:
     FolderChoice BrowseForFolderName(const std::wstring& title, const std::wstring& start) override;
     FolderChoice ChooseFileToOpen(const std::wstring& title, const std::wstring& filter,
                                   const std::wstring& start) override;
-    std::optional<uint32_t> ChooseColour(uint32_t initial) override;
     int ChooseOne(const ChoiceRequest& request) override;
-    bool PickFont(LogFont& font, unsigned flags) override;
+    std::optional<uint32_t> ChooseColour(uint32_t initial) override;
+    std::optional<LogFont> ChooseFontFace(const LogFont& initial, unsigned flags) override;
 
     // Answers given in turn; when none is left a question gets No and a message OK.
     void Answer(int answer) { answers_.push_back(answer); }
@@ -48,23 +48,23 @@ public:
     // Choices taken in turn, by index; when none is left the task dialog is cancelled.
     void Choose(int index) { choices_.push_back(index); }
     const std::vector<ChoiceRequest>& offered() const { return offered_; }
-    // Colours chosen in turn; when none is left the chooser is cancelled. Each opening records its start.
-    void ChooseColourAnswer(uint32_t colour) { colours_.push_back(colour); }
-    const std::vector<uint32_t>& colourStarts() const { return colourStarts_; }
-    // Fonts taken in turn; when none is left the font box is cancelled. Each opening records its flags.
-    void TakeFont(const LogFont& font) { fonts_.push_back(font); }
-    const std::vector<unsigned>& fontBoxes() const { return fontBoxes_; }
+    // Colours and fonts chosen in turn; when none is left the chooser is cancelled. The colour and
+    // the flags each chooser opened with are kept.
+    void ChooseColourNext(std::optional<uint32_t> colour) { colours_.push_back(colour); }
+    void ChooseFontNext(std::optional<LogFont> font) { fonts_.push_back(font); }
+    const std::vector<uint32_t>& colourOpenings() const { return colourOpenings_; }
+    const std::vector<unsigned>& fontOpenings() const { return fontOpenings_; }
     void Clear() {
+        colours_.clear();
+        fonts_.clear();
+        colourOpenings_.clear();
+        fontOpenings_.clear();
         shown_.clear();
         answers_.clear();
         browsed_.clear();
         folders_.clear();
         offered_.clear();
         choices_.clear();
-        colours_.clear();
-        colourStarts_.clear();
-        fonts_.clear();
-        fontBoxes_.clear();
     }
 
 private:
@@ -76,10 +76,10 @@ private:
     std::deque<FolderChoice> folders_;
     std::vector<ChoiceRequest> offered_;
     std::deque<int> choices_;
-    std::deque<uint32_t> colours_;
-    std::vector<uint32_t> colourStarts_;
-    std::deque<LogFont> fonts_;
-    std::vector<unsigned> fontBoxes_;
+    std::deque<std::optional<uint32_t>> colours_;
+    std::deque<std::optional<LogFont>> fonts_;
+    std::vector<uint32_t> colourOpenings_;
+    std::vector<unsigned> fontOpenings_;
 };
 
 }  // namespace platform::fake

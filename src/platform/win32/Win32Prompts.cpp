@@ -124,19 +124,6 @@ FolderChoice Win32Prompts::ChooseFileToOpen(const std::wstring& title, const std
     return {};
 }
 
-std::optional<uint32_t> Win32Prompts::ChooseColour(uint32_t initial) {
-    // The sixteen custom colours live as long as the process, as the chooser expects.
-    static COLORREF custom[16] = {};
-    CHOOSECOLORW box = {};
-    box.lStructSize = sizeof(box);
-    box.hwndOwner = GetActiveWindow();
-    box.rgbResult = initial;
-    box.lpCustColors = custom;
-    box.Flags = CC_RGBINIT | CC_FULLOPEN;
-    if (!ChooseColorW(&box)) return std::nullopt;
-    return static_cast<uint32_t>(box.rgbResult);
-}
-
 int Win32Prompts::ChooseOne(const ChoiceRequest& request) {
     constexpr int kFirstChoiceId = 201;
     std::vector<TASKDIALOG_BUTTON> buttons;
@@ -161,20 +148,32 @@ int Win32Prompts::ChooseOne(const ChoiceRequest& request) {
     return pressed - kFirstChoiceId;
 }
 
-// LogFont is LOGFONTW field for field, so the box works on a copy of it as it stands.
-static_assert(sizeof(LogFont) == sizeof(LOGFONTW));
-
-bool Win32Prompts::PickFont(LogFont& font, unsigned flags) {
-    LOGFONTW chosen{};
-    std::memcpy(&chosen, &font, sizeof chosen);
-    CHOOSEFONTW box = {};
+std::optional<uint32_t> Win32Prompts::ChooseColour(uint32_t initial) {
+    // The sixteen custom colours live as long as the process, as the user expects of the chooser.
+    static COLORREF custom[16] = {};
+    CHOOSECOLORW box{};
     box.lStructSize = sizeof(box);
     box.hwndOwner = GetActiveWindow();
-    box.lpLogFont = &chosen;
+    box.rgbResult = initial & 0xFFFFFF;
+    box.lpCustColors = custom;
+    box.Flags = CC_RGBINIT | CC_FULLOPEN | CC_ANYCOLOR;
+    if (!ChooseColorW(&box)) return std::nullopt;
+    return static_cast<uint32_t>(box.rgbResult);
+}
+
+std::optional<LogFont> Win32Prompts::ChooseFontFace(const LogFont& initial, unsigned flags) {
+    static_assert(sizeof(LogFont) == sizeof(LOGFONTW));
+    LOGFONTW font{};
+    std::memcpy(&font, &initial, sizeof(font));
+    CHOOSEFONTW box{};
+    box.lStructSize = sizeof(box);
+    box.hwndOwner = GetActiveWindow();
+    box.lpLogFont = &font;
     box.Flags = flags | CF_INITTOLOGFONTSTRUCT;
-    if (!ChooseFontW(&box)) return false;
-    std::memcpy(static_cast<void*>(&font), &chosen, sizeof chosen);
-    return true;
+    if (!ChooseFontW(&box)) return std::nullopt;
+    LogFont chosen;
+    std::memcpy(static_cast<void*>(&chosen), &font, sizeof(chosen));
+    return chosen;
 }
 
 }  // namespace platform::win32

@@ -14,9 +14,9 @@ public:
     FolderChoice BrowseForFolderName(const std::wstring& title, const std::wstring& start) override;
     FolderChoice ChooseFileToOpen(const std::wstring& title, const std::wstring& filter,
                                   const std::wstring& start) override;
-    std::optional<uint32_t> ChooseColour(uint32_t initial) override;
     int ChooseOne(const ChoiceRequest& request) override;
-    bool PickFont(LogFont& font, unsigned flags) override;
+    std::optional<uint32_t> ChooseColour(uint32_t initial) override;
+    std::optional<LogFont> ChooseFontFace(const LogFont& initial, unsigned flags) override;
 };
 
 }  // namespace platform::win32

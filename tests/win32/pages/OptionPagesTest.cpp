@@ -79,7 +79,7 @@ TEST_F(OptionPagesTest, DialogAndPagesShowTheirOwnWords) {
         {0, 1301, L"適用"}, {0, -1, L"F1:Help"}, {20, 1256, L"ドラッグヘルパーを表示する"}, {34, 1301, L"Reset"},
         {24, 1251, L"ファイルのドロップを許可する"}, {30, -1, L"リトライ回数:"}, {37, 1201, L"Qor - [Folder]"},
         {5, 1203, L"任意のフォルダー"}, {39, 1402, L"Event/Message"}, {23, 1304, L"スクリプトコマンド"},
-        {25, 1203, L"常に前面に表示・タスクバーに表示しない"},
+        {25, 1203, L"常に前面に表示・タスクバーに表示しない"}, {26, 1304, L"黒テーマ"},
         {28, 1261, L"更新の監視状況・切り替えボタン"}, {28, 1304, L"高機能サンプル"}, {32, 1251, L"C/Migemoを使用する"},
         {44, 1205, L"ダブルクリックした位置のパスの階層のメニューを表示"}, {40, -1, L"フォルダーバーで選択している時"},
         {38, 1253, L"絞込みテキストでAND/OR/NOTが使える拡張構文を使用する"}, {41, 1255, L"サイズ/日付比較を行う"},
@@ -571,7 +571,7 @@ TEST_F(OptionPagesTest, ThumbnailSizesShowTheirStepAndTheFontBoxOpensOnScreenFon
     EXPECT_EQ(25, SendDlgItemMessageW(page, 1154, CB_GETCOUNT, 0, 0));
     SendDlgItemMessageW(page, 1154, CB_SETCURSEL, 24, 0);
     Click(page, 1301);
-    EXPECT_EQ(std::vector<unsigned>{0x1800401}, fake_.prompts().fontBoxes());
+    EXPECT_EQ(std::vector<unsigned>{0x1800401}, fake_.prompts().fontOpenings());
     Apply(dialog);
     std::vector<int32_t> stored;
     for (const wchar_t* name : {L"ImgSize0", L"ImgSize1", L"ImgSize2", L"ImgSizeBase"})
