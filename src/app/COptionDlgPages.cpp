@@ -15,6 +15,7 @@
 #include "pages/COptionNetworkDlg.h"
 #include "pages/COptionOtherDlg.h"
 #include "pages/COptionOverallStyleDlg.h"
+#include "pages/COptionPreviewDlg.h"
 #include "pages/COptionVersionCheckDlg.h"
 
 namespace {
@@ -40,6 +41,7 @@ const std::vector<PageClass>& PageClasses() {
     static const std::vector<PageClass> classes = {
         {2, &Make<COptionKeySetDlg>},
         {5, &Make<COptionOtherDlg>},
+        {6, &Make<COptionPreviewDlg>},
         {20, &Make<COptionAppInfoDlg>},
         {21, &Make<COptionExToolDlg>},
         {22, &Make<COptionMenuDlg>},

@@ -5,6 +5,8 @@
 #include <string>
 #include <vector>
 
+#include "platform/LogFont.h"
+
 namespace platform {
 
 // The answers of MessageBox.
@@ -53,6 +55,9 @@ public:
     // refuses the start text it opens once more without it. filter: pairs of texts, each ending in "|".
     virtual FolderChoice ChooseFileToOpen(const std::wstring& title, const std::wstring& filter,
                                           const std::wstring& start) = 0;
+    // The font box opened on font, with these CHOOSEFONTW flags, owned by the active window; true and
+    // the font chosen put in font when the user pressed OK.
+    virtual bool PickFont(LogFont& font, uint32_t flags) = 0;
     // Captioned with the program's name and owned by the active window. The index of the choice
     // taken; -1 when the user cancelled.
     virtual int ChooseOne(const ChoiceRequest& request) = 0;

@@ -42,6 +42,14 @@ FolderChoice FakePrompts::ChooseFileToOpen(const std::wstring& title, const std:
     return BrowseForFolder(title, start);
 }
 
+bool FakePrompts::PickFont(LogFont& font, uint32_t flags) {
+    fontBoxes_.emplace_back(font.lfFaceName, flags);
+    if (fonts_.empty()) return false;
+    font = fonts_.front();
+    fonts_.pop_front();
+    return true;
+}
+
 int FakePrompts::ChooseOne(const ChoiceRequest& request) {
     offered_.push_back(request);
     if (choices_.empty()) return -1;

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <deque>
+#include <optional>
 #include <string>
 #include <utility>
 #include <vector>
@@ -35,6 +36,7 @@ public:
     FolderChoice BrowseForFolderName(const std::wstring& title, const std::wstring& start) override;
     FolderChoice ChooseFileToOpen(const std::wstring& title, const std::wstring& filter,
                                   const std::wstring& start) override;
+    bool PickFont(LogFont& font, uint32_t flags) override;
     int ChooseOne(const ChoiceRequest& request) override;
 
     // Answers given in turn; when none is left a question gets No and a message OK.
@@ -43,6 +45,10 @@ public:
     // Folder and file choices given in turn; when none is left the box is cancelled.
     void ChooseFolder(FolderChoice choice) { folders_.push_back(std::move(choice)); }
     const std::vector<FolderBrowse>& browsed() const { return browsed_; }
+    // Fonts chosen in turn; when none is left the font box is cancelled. Each opening leaves its
+    // face name and flags.
+    void AnswerFont(const LogFont& font) { fonts_.push_back(font); }
+    const std::vector<std::pair<std::wstring, uint32_t>>& fontBoxes() const { return fontBoxes_; }
     // Choices taken in turn, by index; when none is left the task dialog is cancelled.
     void Choose(int index) { choices_.push_back(index); }
     const std::vector<ChoiceRequest>& offered() const { return offered_; }
@@ -53,6 +59,8 @@ public:
         folders_.clear();
         offered_.clear();
         choices_.clear();
+        fonts_.clear();
+        fontBoxes_.clear();
     }
 
 private:
@@ -64,6 +72,8 @@ private:
     std::deque<FolderChoice> folders_;
     std::vector<ChoiceRequest> offered_;
     std::deque<int> choices_;
+    std::deque<LogFont> fonts_;
+    std::vector<std::pair<std::wstring, uint32_t>> fontBoxes_;
 };
 
 }  // namespace platform::fake

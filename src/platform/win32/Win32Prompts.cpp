@@ -6,6 +6,7 @@
 #include <commdlg.h>
 #include <shlwapi.h>
 
+#include <cstring>
 #include <vector>
 
 #include "platform/win32/Win32Environment.h"
@@ -114,13 +115,28 @@ FolderChoice Win32Prompts::ChooseFileToOpen(const std::wstring& title, const std
         box.lpstrFilter = filters.c_str();
         box.lpstrFile = path;
         box.nMaxFile = MAX_PATH;
-        box.lpstrTitle = title.c_str();
+        box.lpstrTitle = title.empty() ? nullptr : title.c_str();  // the system's own "Open"
         box.Flags = OFN_FILEMUSTEXIST | OFN_HIDEREADONLY;
         if (GetOpenFileNameW(&box)) return {true, path};
         // Only a start text the box cannot take is worth a second opening.
         if (attempt > 0 || CommDlgExtendedError() != FNERR_INVALIDFILENAME) break;
     }
     return {};
+}
+
+// Our font description is the system's field for field, the face name in 16-bit units as well.
+bool Win32Prompts::PickFont(LogFont& font, uint32_t flags) {
+    static_assert(sizeof(LogFont) == sizeof(LOGFONTW));
+    LOGFONTW chosen{};
+    std::memcpy(&chosen, &font, sizeof chosen);
+    CHOOSEFONTW box{};
+    box.lStructSize = sizeof box;
+    box.hwndOwner = GetActiveWindow();
+    box.lpLogFont = &chosen;
+    box.Flags = flags | CF_INITTOLOGFONTSTRUCT;
+    if (!ChooseFontW(&box)) return false;
+    std::memcpy(static_cast<void*>(&font), &chosen, sizeof chosen);
+    return true;
 }
 
 int Win32Prompts::ChooseOne(const ChoiceRequest& request) {

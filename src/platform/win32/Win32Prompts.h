@@ -14,6 +14,7 @@ public:
     FolderChoice BrowseForFolderName(const std::wstring& title, const std::wstring& start) override;
     FolderChoice ChooseFileToOpen(const std::wstring& title, const std::wstring& filter,
                                   const std::wstring& start) override;
+    bool PickFont(LogFont& font, uint32_t flags) override;
     int ChooseOne(const ChoiceRequest& request) override;
 };
 

@@ -16,6 +16,7 @@ using namespace optiontest;
 
 constexpr const wchar_t* kAppInfo = L"Software\\Tarnwick\\QOR\\Main001\\AppInfo";
 constexpr const wchar_t* kSettings = L"Software\\Tarnwick\\QOR\\Main001\\Settings";
+constexpr const wchar_t* kPreView = L"Software\\Tarnwick\\QOR\\Main001\\PreView";
 constexpr platform::WindowRef kHost = 0x1234;
 constexpr int kApply = 1301;
 constexpr const wchar_t* kNotInteger = L"Please enter an integer.";
@@ -67,7 +68,7 @@ TEST_F(OptionPagesTest, DialogAndPagesShowTheirOwnWords) {
         {0, 1301, L"適用"}, {0, -1, L"F1:Help"}, {20, 1256, L"ドラッグヘルパーを表示する"}, {34, 1301, L"Reset"},
         {24, 1251, L"ファイルのドロップを許可する"}, {30, -1, L"リトライ回数:"}, {37, 1201, L"Qor - [Folder]"},
         {5, 1203, L"任意のフォルダー"}, {39, 1402, L"Event/Message"}, {23, 1304, L"スクリプトコマンド"},
-        {25, 1203, L"常に前面に表示・タスクバーに表示しない"},
+        {25, 1203, L"常に前面に表示・タスクバーに表示しない"}, {6, 1301, L"テキスト表示フォント..."},
     };
     // clang-format on
     SetStart(1000);
@@ -134,13 +135,17 @@ TEST_F(OptionPagesTest, ControlsCarryTheirStoredValuesBothWays) {
         {25, 1205, Radio, kAppInfo,  L"ExitAction",       L"1",         L"0",           49019},
         {25, 1251, Check, kAppInfo,  L"DivTarget",        L"1",         L"0",           49019},
         {25, 1252, Check, kAppInfo,  L"AllPaneTarget",    L"0",         L"1",           49019},
+        {6,  1251, Check, kPreView,  L"TestShellImage",   L"0",         L"1",           49003, {1001}},
+        {6,  1252, Check, kPreView,  L"PreviewHandler",   L"0",         L"1",           49003},
+        {6,  1001, Edit,  kPreView,  L"Ext",              L"png,jpg",   L"webp",        49003},
     };
     // clang-format on
     for (const Case& c : cases) {
         SCOPED_TRACE(testing::PrintToString(std::wstring(c.name) + L"=" + c.stored));
-        const bool text = c.control == 1051;
+        const bool text = c.control == 1051 || (c.page == 6 && c.control == 1001);
         fake_.registry().DeleteKey(kAppInfo);
         fake_.registry().DeleteKey(kSettings);
+        fake_.registry().DeleteKey(kPreView);
         DirectWriteInt(kAppInfo, L"UsePing", 1);  // the network fields enabled, so a refused one takes the focus
         text ? DirectWriteString(c.section, c.name, c.stored) : DirectWriteInt(c.section, c.name, std::stoi(c.stored));
         AppServices app{96};  // a process of its own: the draft holds what its pages loaded
