@@ -21,8 +21,8 @@ BOOL WINAPI DllMain(HINSTANCE instance, DWORD reason, LPVOID reserved) {
 /* The control is a child of the host's preview pane, hidden until shown. */
 PEEK_EXPORT void* CreateCtrl(HWND parent) {
     return CreateWindowExW(WS_EX_CLIENTEDGE, L"EDIT", L"",
-                           WS_CHILD | WS_VSCROLL | ES_MULTILINE | ES_READONLY | ES_AUTOVSCROLL, 0, 0, 100, 100,
-                           parent, NULL, g_instance, NULL);
+                           WS_CHILD | WS_VSCROLL | ES_MULTILINE | ES_READONLY | ES_AUTOVSCROLL, 0, 0, 100, 100, parent,
+                           NULL, g_instance, NULL);
 }
 
 PEEK_EXPORT void DestroyCtrl(void* control) {
