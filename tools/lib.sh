@@ -68,7 +68,8 @@ build_preset() {
 
 # stage [BUILD_TREE [STAGE_DIR]]: lays out an installation tree from sample/ and the Windows build
 # (build/win64 into build/stage unless told otherwise): the program two folders below the application
-# root, the sample user directory as "User"; the Wine prefix's own user directory gets its command lists.
+# root, the sample user directory as "User", the sample preview plug-ins in "command\PvPlugIn"; the Wine
+# prefix's own user directory gets its command lists.
 stage() {
   local tree=${1:-$BUILD/win64} to=${2:-$STAGE}
   mkdir -p "$to/command/Option" "$to/Lang"
@@ -77,6 +78,12 @@ stage() {
   local dll
   for dll in "$tree"/sample/Lang/*.dll; do
     [ -e "$dll" ] && cp -a "$dll" "$to/Lang/"
+  done
+  # The sample preview plug-ins belong beside the program's folder; their sources have no place there.
+  rm -rf "$to/PvPlugIn"
+  mkdir -p "$to/command/PvPlugIn"
+  for dll in "$tree"/sample/PvPlugIn/*.dll; do
+    [ -e "$dll" ] && cp -a "$dll" "$to/command/PvPlugIn/"
   done
   seed_user_directory
 }

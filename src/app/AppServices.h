@@ -9,6 +9,7 @@
 #include "app/HostSwitches.h"
 #include "bindings/KeyTableSet.h"
 #include "definitions/CommandCatalog.h"
+#include "pages/CPvPluginInfo.h"
 #include "platform/ResourceLibrary.h"
 #include "services/DialogLanguage.h"
 #include "services/MessageCatalog.h"
@@ -45,6 +46,8 @@ struct AppServices {
     std::vector<std::wstring> menuCommands;
     // The nine key modes the key page edits, loaded when it is first shown.
     KeyTableSet keys;
+    // The preview bar's plug-ins, made when the preview page first shows.
+    std::unique_ptr<CPvPluginInfo> previewPlugins;
     // The language library; null when it could not be loaded.
     std::unique_ptr<platform::ResourceLibrary> resourceModule;
 };

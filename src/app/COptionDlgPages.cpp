@@ -33,6 +33,7 @@
 #include "pages/COptionOverallStyleDlg.h"
 #include "pages/COptionRecentDlg.h"
 #include "pages/COptionThumbDlg.h"
+#include "pages/COptionPreviewDlg.h"
 #include "pages/COptionVersionCheckDlg.h"
 
 namespace {
@@ -60,6 +61,7 @@ const std::vector<PageClass>& PageClasses() {
         {3, &Make<COptionListStyleDlg>},
         {4, &Make<COptionMouseActionDlg>},
         {5, &Make<COptionOtherDlg>},
+        {6, &Make<COptionPreviewDlg>},
         {7, &Make<COptionRecentDlg>},
         {9, &Make<COptionThumbDlg>},
         {13, &Make<COptionListActionDlg>},

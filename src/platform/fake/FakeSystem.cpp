@@ -40,6 +40,40 @@ private:
     std::shared_ptr<int> loaded_;
 };
 
+// An export's address is its place in the list, counted from 1.
+class FakeCodeLibrary : public CodeLibrary {
+public:
+    FakeCodeLibrary(std::wstring path, std::shared_ptr<const CodeContent> content,
+                    std::shared_ptr<std::vector<std::wstring>> events)
+        : path_(std::move(path)), content_(std::move(content)), events_(std::move(events)) {
+        events_->push_back(L"load " + path_);
+    }
+    ~FakeCodeLibrary() override { events_->push_back(L"free " + path_); }
+
+    uintptr_t ExportAddress(const char* name) const override {
+        const auto& names = content_->exports;
+        for (size_t i = 0; i < names.size(); ++i) {
+            if (names[i] == name) return i + 1;
+        }
+        return 0;
+    }
+    std::wstring CallFillingText(uintptr_t function, size_t units) const override {
+        Record(function, units);
+        return content_->filled.substr(0, units ? units - 1 : 0);
+    }
+    void CallWithValue(uintptr_t function, uintptr_t value) const override { Record(function, value); }
+
+private:
+    void Record(uintptr_t function, uintptr_t argument) const {
+        const std::string& name = content_->exports.at(function - 1);
+        events_->push_back(std::wstring(name.begin(), name.end()) + L" " + std::to_wstring(argument));
+    }
+
+    std::wstring path_;
+    std::shared_ptr<const CodeContent> content_;
+    std::shared_ptr<std::vector<std::wstring>> events_;
+};
+
 }  // namespace
 
 std::unique_ptr<SystemObject> FakeSystem::CreatePresenceMutex(const std::wstring& name) {
@@ -52,6 +86,13 @@ std::unique_ptr<ResourceLibrary> FakeSystem::LoadDataLibrary(const std::wstring&
     auto found = libraries_.find(path);
     if (found == libraries_.end()) return nullptr;
     return std::make_unique<FakeLibrary>(found->second, loaded_);
+}
+
+LoadedLibrary FakeSystem::LoadCodeLibrary(const std::wstring& path) {
+    constexpr uint32_t kModuleNotFound = 126;
+    auto found = codeLibraries_.find(UpperCase(path));
+    if (found == codeLibraries_.end()) return {nullptr, kModuleNotFound};
+    return {std::make_unique<FakeCodeLibrary>(path, found->second, codeEvents_), 0};
 }
 
 bool FakeSystem::SetClipboardText(const std::wstring& text) {

@@ -12,6 +12,7 @@
 #include <vector>
 
 #include "platform/System.h"
+#include "platform/fake/CaseFold.h"
 
 namespace platform::fake {
 
@@ -21,10 +22,20 @@ struct LibraryContent {
     std::map<uint32_t, Menu> menus;
 };
 
+// What a fake code library exports, and the text each of its exports writes when it is given a
+// buffer to fill (up to the buffer's size).
+struct CodeContent {
+    std::vector<std::string> exports;
+    std::wstring filled;
+};
+
 class FakeSystem : public System {
 public:
     std::unique_ptr<SystemObject> CreatePresenceMutex(const std::wstring& name) override;
     std::unique_ptr<ResourceLibrary> LoadDataLibrary(const std::wstring& path) override;
+    // A path neither added nor refused fails with 126, the system's "module not found".
+    LoadedLibrary LoadCodeLibrary(const std::wstring& path) override;
+    void FreeUnusedLibraries() override { ++unusedFrees_; }
     bool SetClipboardText(const std::wstring& text) override;
     // Unicode text comes out in Windows-1252, the fake environment's ANSI code page.
     bool ClipboardAnsiText(std::string& text) override;
@@ -33,6 +44,13 @@ public:
     void AddLibrary(const std::wstring& path, LibraryContent content = {}) {
         libraries_[path] = std::make_shared<const LibraryContent>(std::move(content));
     }
+    // Paths of code libraries compare in any letter case, as the file system's do.
+    void AddCodeLibrary(const std::wstring& path, CodeContent content) {
+        codeLibraries_[UpperCase(path)] = std::make_shared<const CodeContent>(std::move(content));
+    }
+    // "load <path>", "free <path>", and each call as "<export> <argument>", in turn.
+    const std::vector<std::wstring>& codeEvents() const { return *codeEvents_; }
+    int unusedFrees() const { return unusedFrees_; }
     bool HoldsMutex(const std::wstring& name) const { return mutexes_->count(name) > 0; }
     const std::vector<std::wstring>& loadAttempts() const { return loadAttempts_; }
     // Libraries loaded and not yet freed.
@@ -53,6 +71,9 @@ private:
     std::map<std::wstring, std::shared_ptr<const LibraryContent>> libraries_;
     std::vector<std::wstring> loadAttempts_;
     std::shared_ptr<int> loaded_ = std::make_shared<int>(0);
+    std::map<std::wstring, std::shared_ptr<const CodeContent>> codeLibraries_;
+    std::shared_ptr<std::vector<std::wstring>> codeEvents_ = std::make_shared<std::vector<std::wstring>>();
+    int unusedFrees_ = 0;
     bool clipboardHeld_ = false;
     std::optional<std::wstring> clipboardUnicode_;
     std::optional<std::string> clipboardAnsi_;

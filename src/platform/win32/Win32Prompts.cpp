@@ -115,7 +115,7 @@ FolderChoice Win32Prompts::ChooseFileToOpen(const std::wstring& title, const std
         box.lpstrFilter = filters.c_str();
         box.lpstrFile = path;
         box.nMaxFile = MAX_PATH;
-        box.lpstrTitle = title.c_str();
+        box.lpstrTitle = title.empty() ? nullptr : title.c_str();  // the system's own "Open"
         box.Flags = OFN_FILEMUSTEXIST | OFN_HIDEREADONLY;
         if (GetOpenFileNameW(&box)) return {true, path};
         // Only a start text the box cannot take is worth a second opening.
@@ -124,6 +124,7 @@ FolderChoice Win32Prompts::ChooseFileToOpen(const std::wstring& title, const std
     return {};
 }
 
+// Our font description is the system's field for field, the face name in 16-bit units as well.
 int Win32Prompts::ChooseOne(const ChoiceRequest& request) {
     constexpr int kFirstChoiceId = 201;
     std::vector<TASKDIALOG_BUTTON> buttons;

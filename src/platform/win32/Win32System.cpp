@@ -2,7 +2,10 @@
 
 #include <windows.h>
 
+#include <objbase.h>
+
 #include <cstring>
+#include <vector>
 
 namespace platform::win32 {
 
@@ -106,6 +109,33 @@ private:
     HMODULE module_;
 };
 
+class Win32CodeLibrary : public CodeLibrary {
+public:
+    explicit Win32CodeLibrary(HMODULE module) : module_(module) {}
+    ~Win32CodeLibrary() override { FreeLibrary(module_); }
+
+    uintptr_t ExportAddress(const char* name) const override {
+        return reinterpret_cast<uintptr_t>(GetProcAddress(module_, name));
+    }
+
+    std::wstring CallFillingText(uintptr_t function, size_t units) const override {
+        using Filler = void(WINAPI*)(wchar_t*);
+        std::vector<wchar_t> buffer(units + 1, L'\0');
+        reinterpret_cast<Filler>(function)(buffer.data());
+        // One unit more than offered, so that a text without its terminator still ends.
+        buffer[units] = L'\0';
+        return buffer.data();
+    }
+
+    void CallWithValue(uintptr_t function, uintptr_t value) const override {
+        using Taker = void(WINAPI*)(void*);
+        reinterpret_cast<Taker>(function)(reinterpret_cast<void*>(value));
+    }
+
+private:
+    HMODULE module_;
+};
+
 }  // namespace
 
 std::unique_ptr<SystemObject> Win32System::CreatePresenceMutex(const std::wstring& name) {
@@ -121,6 +151,17 @@ std::unique_ptr<SystemObject> Win32System::CreatePresenceMutex(const std::wstrin
 std::unique_ptr<ResourceLibrary> Win32System::LoadDataLibrary(const std::wstring& path) {
     HMODULE module = LoadLibraryExW(path.c_str(), nullptr, LOAD_LIBRARY_AS_DATAFILE | LOAD_WITH_ALTERED_SEARCH_PATH);
     return module ? std::make_unique<Win32ResourceLibrary>(module) : nullptr;
+}
+
+LoadedLibrary Win32System::LoadCodeLibrary(const std::wstring& path) {
+    SetLastError(0);
+    HMODULE module = LoadLibraryW(path.c_str());
+    if (!module) return {nullptr, GetLastError()};
+    return {std::make_unique<Win32CodeLibrary>(module), 0};
+}
+
+void Win32System::FreeUnusedLibraries() {
+    CoFreeUnusedLibrariesEx(0, 0);
 }
 
 bool Win32System::SetClipboardText(const std::wstring& text) {

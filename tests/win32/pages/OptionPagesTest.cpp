@@ -28,6 +28,7 @@ constexpr const wchar_t* kListInit = L"Software\\Tarnwick\\QOR\\Main001\\ListIni
 constexpr const wchar_t* kThumb = L"Software\\Tarnwick\\QOR\\Main001\\Thumb";
 constexpr const wchar_t* kRecent = L"Software\\Tarnwick\\QOR\\Main001\\Recent";
 constexpr const wchar_t* kNoUpdate = L"Software\\Tarnwick\\QOR\\Main001\\ListNoUpdate";
+constexpr const wchar_t* kPreView = L"Software\\Tarnwick\\QOR\\Main001\\PreView";
 constexpr platform::WindowRef kHost = 0x1234;
 constexpr int kApply = 1301;
 constexpr const wchar_t* kNotInteger = L"Please enter an integer.";
@@ -86,6 +87,7 @@ TEST_F(OptionPagesTest, DialogAndPagesShowTheirOwnWords) {
         {33, 1257, L"数字の大小を比較する(Windows7以降)"}, {3, 1256, L"リストをシングルセレクトにする"},
         {13, 1202, L"汎用型のシェル実行（個別実行、高速、並列処理のため応答待ちが発生しない）"},
         {29, 1270, L"詳細一覧"}, {9, 1253, L"シェルイメージで描画"},
+        {25, 1203, L"常に前面に表示・タスクバーに表示しない"}, {6, 1301, L"テキスト表示フォント..."},
     };
     // clang-format on
     SetStart(1000);
@@ -236,6 +238,9 @@ TEST_F(OptionPagesTest, ControlsCarryTheirStoredValuesBothWays) {
         {29, 1252, Check, kListInit,   L"TileType",        L"1",      L"0",         49029},
         {29, 1253, Check, kListInit,   L"TileSize",        L"1",      L"0",         49029},
         {29, 1259, Check, kListInit,   L"DetailTypeIsExt", L"0",      L"1",         49029},
+        {6,  1251, Check, kPreView,  L"TestShellImage",   L"0",         L"1",           49003, {1001}},
+        {6,  1252, Check, kPreView,  L"PreviewHandler",   L"0",         L"1",           49003},
+        {6,  1001, Edit,  kPreView,  L"Ext",              L"png,jpg",   L"webp",        49003},
     };
     // clang-format on
     for (const Case& c : cases) {

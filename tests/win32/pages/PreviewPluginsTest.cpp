@@ -1,0 +1,158 @@
+// Preview plug-ins for real and the preview page's list as a user works it.
+#include <gtest/gtest.h>
+#include <windows.h>
+
+#include <string>
+#include <vector>
+
+#include "pages/CPvPluginInfo.h"
+#include "platform/win32/Win32Processes.h"
+#include "platform/win32/Win32System.h"
+#include "ui/ListView.h"
+#include "win32/support/OptionDialogFixture.h"
+
+namespace {
+
+using namespace optiontest;
+
+constexpr const wchar_t* kEditorTitle = L"プレビュープラグイン";
+constexpr const wchar_t* kPluginSection = L"Software\\Tarnwick\\QOR\\Main001\\PvPlugin";
+
+std::wstring SystemText(DWORD error) {
+    wchar_t* text = nullptr;
+    FormatMessageW(FORMAT_MESSAGE_ALLOCATE_BUFFER | FORMAT_MESSAGE_FROM_SYSTEM | FORMAT_MESSAGE_IGNORE_INSERTS, nullptr,
+                   error, 0, reinterpret_cast<wchar_t*>(&text), 0, nullptr);
+    std::wstring result = text ? text : L"";
+    LocalFree(text);
+    return result;
+}
+
+// The sample plug-ins built beside the tests (<build>\tests\win32_tests.exe and <build>\sample\PvPlugIn\),
+// loaded with the system's own loader and error texts: the whole plug-in gives its extensions, the one
+// missing an export goes without a word, and what does not load is told in the system's words.
+TEST(PreviewPlugins, SamplePluginsLoadForRealOrAreRefused) {
+    wchar_t module[MAX_PATH] = {};
+    GetModuleFileNameW(nullptr, module, MAX_PATH);
+    const std::wstring tests(module, wcsrchr(module, L'\\') + 1);
+    platform::fake::FakePlatform fake;
+    platform::win32::Win32System system;
+    platform::win32::Win32Processes processes;
+    platform::Platform mixed{fake.registry(), fake.files(),   fake.environment(),  fake.prompts(),
+                             system,          fake.windows(), fake.sharedMemory(), processes};
+    platform::Installed installed(mixed);
+    // clang-format off
+    struct Case { const wchar_t* name; int index; std::vector<std::wstring> messages; };
+    const Case cases[] = {
+        {L"TextPeek.dll", 0, {}}, {L"HalfPeek.dll", -1, {}},
+        {L"Broken.dll", -1, {SystemText(ERROR_BAD_EXE_FORMAT)}}, {L"Missing.dll", -1, {SystemText(ERROR_MOD_NOT_FOUND)}},
+    };
+    // clang-format on
+    for (const Case& c : cases) {
+        SCOPED_TRACE(testing::PrintToString(std::wstring(c.name)));
+        fake.prompts().Clear();
+        CPvPluginInfo plugins(system, tests + L"..\\sample\\Lang\\");
+        EXPECT_EQ(c.index, plugins.Add(c.name));
+        std::vector<std::wstring> messages;
+        for (const auto& shown : fake.prompts().shown()) messages.push_back(shown.text);
+        EXPECT_EQ(c.messages, messages);
+        if (c.index == 0) {
+            EXPECT_EQ(L"txt,log,ini,csv", plugins[0].DefaultFilter(CPvPluginInfo::kFilterUnits));
+        }
+        plugins.UnloadAll();
+        EXPECT_EQ(nullptr, GetModuleHandleW((tests + L"..\\sample\\PvPlugIn\\" + c.name).c_str()));
+    }
+}
+
+class PreviewPageTest : public OptionDialogFixture {
+protected:
+    void SetUp() override {
+        OptionDialogFixture::SetUp();
+        const std::vector<std::string> all = {"CreateCtrl", "DestroyCtrl",  "LoadFile",        "SendCommand",
+                                              "ShowCtrl",   "ResizeWindow", "GetDefaultFilter"};
+        fake_.system().AddCodeLibrary(L"C:\\Qor\\command\\PvPlugIn\\Peek.dll", {all, L"txt,log"});
+        fake_.system().AddCodeLibrary(L"C:\\Qor\\command\\PvPlugIn\\Half.dll", {{"CreateCtrl"}, L""});
+        fake_.files().AddFile(L"C:\\Qor\\Lang\\Msg.txt",
+                              Utf16Bytes(L"62307\tAlready listed.\r\n62316\tThe list is full.\r\n", true));
+        app_.messages.SetPath(L"C:\\Qor\\Lang\\Msg.txt");
+    }
+
+    // Opens the editor with the page's button and fills it in as the user would; a refused plug-in
+    // keeps the editor open, and it is cancelled then.
+    void Edit(HWND page, int button, const wchar_t* name, const wchar_t* extensions, bool refused) {
+        WhenShown(kEditorTitle, [=](HWND editor) {
+            SetDlgItemTextW(editor, 1001, name);
+            SetDlgItemTextW(editor, 1007, extensions);
+            SendMessageW(editor, WM_COMMAND, IDOK, 0);
+            if (refused) SendMessageW(editor, WM_COMMAND, IDCANCEL, 0);
+        });
+        Click(page, button);
+    }
+
+    std::vector<std::wstring> Rows(HWND page) const {
+        ui::ListView list(GetDlgItem(page, 1601));
+        std::vector<std::wstring> rows;
+        for (int row = 0; row < list.GetItemCount(); ++row)
+            rows.push_back(list.GetItemText(row, 0) + L"=" + list.GetItemText(row, 1));
+        return rows;
+    }
+
+    std::vector<std::wstring> Messages() {
+        std::vector<std::wstring> texts;
+        for (const auto& shown : fake_.prompts().shown()) texts.push_back(shown.text);
+        fake_.prompts().Clear();
+        return texts;
+    }
+};
+
+// Adding checks the plug-in and fills in its own extensions; a name already listed in any letter case
+// is refused, also when editing another row, while editing a row may keep its own name. A DLL that is
+// no plug-in keeps the editor open. Up, down and delete work on the selection; the font box opens on
+// the stored font. Apply registers the rows as they stand.
+TEST_F(PreviewPageTest, TheListIsEditedInMemoryAndRegisteredAtApply) {
+    SetStart(6);
+    COptionDlg dialog(app_);
+    ASSERT_TRUE(dialog.Create(nullptr));
+    HWND page = dialog.Page(6)->hwnd();
+    ASSERT_NE(nullptr, page);
+    // clang-format off
+    struct Step { int button; const wchar_t *name, *extensions; std::vector<std::wstring> rows, messages;
+                  int select = -1; };
+    const wchar_t* const inner = L"..\\PvPlugIn\\Peek.dll";
+    const Step steps[] = {
+        {1302, L"Peek.dll", L"", {L"Peek.dll=txt,log"}, {}},
+        {1302, L"PEEK.dll", L"x", {L"Peek.dll=txt,log"}, {L"Already listed."}},
+        {1302, L"Half.dll", L"x", {L"Peek.dll=txt,log"}, {L"Not plugin file..."}},
+        {1302, L"Gone.dll", L"x", {L"Peek.dll=txt,log"}, {L"Error 126.\r\n", L"Not plugin file..."}},
+        {1302, inner, L"htm", {L"Peek.dll=txt,log", inner + std::wstring(L"=htm")}, {}},
+        {1303, L"peek.dll", L"y", {L"Peek.dll=txt,log", inner + std::wstring(L"=htm")}, {L"Already listed."}, 1},
+        {1303, inner, L"md", {L"Peek.dll=txt,log", inner + std::wstring(L"=md")}, {}},
+        {1305, nullptr, nullptr, {inner + std::wstring(L"=md"), L"Peek.dll=txt,log"}, {}},
+        {1306, nullptr, nullptr, {L"Peek.dll=txt,log", inner + std::wstring(L"=md")}, {}},
+        {1304, nullptr, nullptr, {L"Peek.dll=txt,log"}, {}},
+    };
+    // clang-format on
+    ui::ListView list(GetDlgItem(page, 1601));
+    for (const Step& s : steps) {
+        SCOPED_TRACE(testing::Message() << s.button << " "
+                                        << testing::PrintToString(std::wstring(s.name ? s.name : L"")));
+        if (s.select >= 0) list.SelectRow(s.select);
+        const bool refused = s.messages.size() && s.messages.back() == L"Not plugin file...";
+        s.name ? Edit(page, s.button, s.name, s.extensions, refused) : Click(page, s.button);
+        EXPECT_EQ(s.rows, Rows(page));
+        EXPECT_EQ(s.messages, Messages());
+    }
+    Click(page, 1301);
+    EXPECT_EQ(std::vector<unsigned>{0x1800401}, fake_.prompts().fontOpenings());
+    SendMessageW(dialog.hwnd(), WM_COMMAND, MAKEWPARAM(1301, BN_CLICKED), 0);
+    EXPECT_EQ(L"Peek.dll", DirectReadString(kPluginSection, L"Dll0", L"?"));
+    EXPECT_EQ(L"txt,log", DirectReadString(kPluginSection, L"Ext0", L"?"));
+    EXPECT_EQ(L"", DirectReadString(kPluginSection, L"Dll1", L"?"));
+
+    // A full list takes one row more, then refuses before the editor opens.
+    while (list.GetItemCount() <= 100)
+        list.InsertItem(list.GetItemCount(), L"Row" + std::to_wstring(list.GetItemCount()));
+    Click(page, 1302);
+    EXPECT_EQ((std::vector<std::wstring>{L"The list is full."}), Messages());
+}
+
+}  // namespace
