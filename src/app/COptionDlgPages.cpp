@@ -11,6 +11,8 @@
 #include "definitions/COptionMenuDlg.h"
 #include "pages/COptionAppInfoDlg.h"
 #include "pages/COptionCommonUIDlg.h"
+#include "pages/COptionFolderSettingDlg.h"
+#include "pages/COptionIcon.h"
 #include "pages/COptionMessageDlg.h"
 #include "pages/COptionNetworkDlg.h"
 #include "pages/COptionOtherDlg.h"
@@ -40,6 +42,7 @@ const std::vector<PageClass>& PageClasses() {
     static const std::vector<PageClass> classes = {
         {2, &Make<COptionKeySetDlg>},
         {5, &Make<COptionOtherDlg>},
+        {17, &Make<COptionIcon>},
         {20, &Make<COptionAppInfoDlg>},
         {21, &Make<COptionExToolDlg>},
         {22, &Make<COptionMenuDlg>},
@@ -48,6 +51,7 @@ const std::vector<PageClass>& PageClasses() {
         {25, &Make<COptionExCmdDlg>},
         {30, &Make<COptionNetworkDlg>},
         {34, &Make<COptionVersionCheckDlg>},
+        {36, &Make<COptionFolderSettingDlg>},
         {37, &Make<COptionOverallStyleDlg>},
         {39, &Make<COptionMessageDlg>},
     };

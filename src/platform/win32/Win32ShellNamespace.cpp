@@ -49,6 +49,8 @@ std::optional<std::wstring> Win32ShellNamespace::InFolderName(const std::wstring
         parent->Release();
     }
     ILFree(item);
+    // A name the shell leaves empty shows nothing; the caller shows the path instead.
+    if (name && name->empty()) return std::nullopt;
     return name;
 }
 

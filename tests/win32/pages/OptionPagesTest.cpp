@@ -16,6 +16,7 @@ using namespace optiontest;
 
 constexpr const wchar_t* kAppInfo = L"Software\\Tarnwick\\QOR\\Main001\\AppInfo";
 constexpr const wchar_t* kSettings = L"Software\\Tarnwick\\QOR\\Main001\\Settings";
+constexpr const wchar_t* kListDraw = L"Software\\Tarnwick\\QOR\\Main001\\ListDraw";
 constexpr platform::WindowRef kHost = 0x1234;
 constexpr int kApply = 1301;
 constexpr const wchar_t* kNotInteger = L"Please enter an integer.";
@@ -134,13 +135,21 @@ TEST_F(OptionPagesTest, ControlsCarryTheirStoredValuesBothWays) {
         {25, 1205, Radio, kAppInfo,  L"ExitAction",       L"1",         L"0",           49019},
         {25, 1251, Check, kAppInfo,  L"DivTarget",        L"1",         L"0",           49019},
         {25, 1252, Check, kAppInfo,  L"AllPaneTarget",    L"0",         L"1",           49019},
+        {17, 1201, Radio, kListDraw, L"ListIconMode",     L"0",         L"3",           49034},
+        {17, 1001, Edit,  kListDraw, L"EasyIconEx",       L"exe,lnk",   L"",            49034},
+        {17, 1255, Check, kListDraw, L"OverlayAttr",      L"0",         L"1",           49034},
+        {17, 1205, Radio, kListDraw, L"OverLayMode",      L"2",         L"1",           49034},
+        {17, 1002, Edit,  kListDraw, L"IconTimeOut",      L"5000",      L"0",           49034},
+        {17, 1002, Edit,  kListDraw, L"IconTimeOut",      L"60001",     nullptr,        0, {}, L"0 and 60000"},
+        {17, 1251, Check, kListDraw, L"UseCache_IconIdx", L"1",         L"0",           49034},
     };
     // clang-format on
     for (const Case& c : cases) {
         SCOPED_TRACE(testing::PrintToString(std::wstring(c.name) + L"=" + c.stored));
-        const bool text = c.control == 1051;
+        const bool text = std::wstring(c.name) == L"UserDir" || std::wstring(c.name) == L"EasyIconEx";
         fake_.registry().DeleteKey(kAppInfo);
         fake_.registry().DeleteKey(kSettings);
+        fake_.registry().DeleteKey(kListDraw);
         DirectWriteInt(kAppInfo, L"UsePing", 1);  // the network fields enabled, so a refused one takes the focus
         text ? DirectWriteString(c.section, c.name, c.stored) : DirectWriteInt(c.section, c.name, std::stoi(c.stored));
         AppServices app{96};  // a process of its own: the draft holds what its pages loaded
