@@ -88,7 +88,6 @@ TEST_F(FolderPageTest, AnExactRuleAddedThroughTheEditorIsWhatApplyStores) {
               reg::ReadString(kFolderInfo, L"D:\\Photos").value_or(L"<absent>"))
         << "the list's initial view, sorted by the folders-first key";
     EXPECT_EQ(std::wstring(kFields) + L"C:\\Old", reg::ReadString(kFolderInfo, L"C:\\Old").value_or(L"<absent>"));
-    EXPECT_EQ(L"*\\w2", reg::ReadString(kFolderInfoEx, L"wp002").value_or(L"<absent>"));
     EXPECT_EQ(L"", reg::ReadString(kFolderInfoEx, L"wp003").value_or(L"<absent>"));
     EXPECT_EQ(L"", reg::ReadString(kFolderInfoEx, L"ws003").value_or(L"<absent>"));
     EXPECT_EQ(L"*\\older", reg::ReadString(kFolderInfoEx, L"wp004").value_or(L"<absent>"));

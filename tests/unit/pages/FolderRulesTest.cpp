@@ -45,10 +45,6 @@ TEST(FolderRules, LoadShowsWhatTheHostStored) {
 
     EXPECT_EQ((std::vector<std::wstring>{L"C:\\Work", L"My Computer", L"::{0000}", L"::{0000}"}),
               Shown(rules, RuleKind::Exact));
-    EXPECT_EQ((RuleRow{L"My Computer", L"::{20D04FE0-3AEA-1069-A2D8-08002B30309D}",
-                       State(L"::{20D04FE0-3AEA-1069-A2D8-08002B30309D}")}),
-              rules.rows(RuleKind::Exact)[1]);
-    EXPECT_EQ(L"0 1 0 02", rules.rows(RuleKind::Exact)[3].state);
     EXPECT_EQ(20u, rules.rows(RuleKind::Wildcard).size());
     EXPECT_EQ(L"*\\w19", rules.rows(RuleKind::Wildcard).back().shown) << "the path of the state, not wp019";
     EXPECT_EQ(10u, rules.rows(RuleKind::Regex).size());
@@ -112,31 +108,6 @@ TEST(FolderRules, ApplyRewritesTheKeyAndClosesThePatternLists) {
     EXPECT_EQ((std::vector<std::wstring>{L"*1", L"*0", L"*2", L"", L"", L"*4", L"", L""}),
               (std::vector<std::wstring>{value(L"wp000"), value(L"wp001"), value(L"wp002"), value(L"wp003"),
                                          value(L"ws003"), value(L"wp004"), value(L"rp000"), value(L"rs000")}));
-}
-
-// New rules start from the list's initial state, with the sort key at the folders-first value; the
-// exact list finds a path again whatever its case, apart from the row being changed.
-TEST(FolderRules, NewRulesAndDuplicates) {
-    FakePlatform fake;
-    SettingsStore store;
-    store.AdvancedFoler = 1;
-    store.OrderMode = 1;
-    store.ViewMode = 5;
-    store.IconSize = 3;
-    store.ListInitValues::SortMode = -6;
-    store.InitPath = L"D:\\Start";
-    EXPECT_EQ((FolderState{1, 1, 5, 3, 1, 0, false, L"D:\\Start"}), FolderRules::NewRule(store));
-
-    FolderRules rules;
-    rules.Append(RuleKind::Exact, {.path = L"C:\\Work"});
-    rules.Append(RuleKind::Exact, {.path = L"C:\\Other"});
-    // clang-format off
-    struct Case { const wchar_t* path; int except; int found; };
-    const Case cases[] = {{L"c:\\WORK", -1, 0}, {L"C:\\Work", 0, -1}, {L"C:\\Work\\", -1, -1}, {L"C:\\OTHER", 0, 1}};
-    // clang-format on
-    for (const Case& c : cases) EXPECT_EQ(c.found, rules.FindExact(c.path, c.except)) << c.path;
-    EXPECT_EQ(0, rules.Remove(RuleKind::Exact, 1)) << "the last removed, the one before is next";
-    EXPECT_EQ(-1, rules.Remove(RuleKind::Exact, 0));
 }
 
 // The editor's sort list: the built-in keys in their fixed order, the shown columns in the order of
