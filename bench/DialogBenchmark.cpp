@@ -6,7 +6,8 @@
 // one already open and the wait for the idle dialog with nothing to do. Last, Apply with every page opened: each page
 // takes its controls back and stores its settings (no host runs, so nobody is told). On the key page,
 // switching the modifier, and opening the command picker with its whole tree and 3,000 listed external
-// commands of a user directory of the benchmark's own.
+// commands of a user directory of the benchmark's own. And the folder page opened on as many rules as it
+// takes.
 // Run: wine dialog_benchmark.exe [runs]
 #include <windows.h>
 
@@ -124,6 +125,7 @@ std::vector<double> TimeApplies(const Shown& shown, int count) {
 constexpr int kKeyList = 1601;
 constexpr int kKeyModifierFirst = 1211;
 constexpr int kKeyEdit = 1301;
+constexpr int kKeySetNames = 1403;
 
 // A user directory whose first command list names every external command, 40001 to 43000.
 std::wstring MakeUserDirectory() {
@@ -150,7 +152,8 @@ struct KeyPageTimes {
 // first key until it waits for input, closed again.
 KeyPageTimes TimeKeyPage(const Shown& shown) {
     KeyPageTimes times;
-    HWND page = e2e::PageWith(shown.dialog, kKeyList);
+    // Other pages have lists of that id too; only the key page has the hidden set names.
+    HWND page = e2e::PageWith(shown.dialog, kKeySetNames);
     if (!page) return times;
     for (int modifier : {1, 2, 3, 0}) {
         const double start = Now();
@@ -173,6 +176,42 @@ KeyPageTimes TimeKeyPage(const Shown& shown) {
     PostMessageW(picker, WM_COMMAND, MAKEWPARAM(IDCANCEL, BN_CLICKED), 0);
     e2e::WaitUntilDialogIdle(shown.dialog, shown.process.Handle());
     return times;
+}
+
+constexpr wchar_t kFolderInfo[] = L"Software\\Tarnwick\\Qor\\Main001\\FolderInfo";
+constexpr wchar_t kFolderInfoEx[] = L"Software\\Tarnwick\\Qor\\Main001\\FolderInfoEx";
+constexpr int kFolderPage = 36;
+
+// As many folder rules as the page takes: 500 exact paths, 20 wildcard patterns, 10 expressions.
+void WriteFolderRules() {
+    const std::wstring fields = L"0 1 0 04 00 0 00000100 00000000 00000000 00 00\t";
+    for (int n = 0; n < 500; ++n) {
+        const std::wstring path = L"C:\\Folders\\Folder " + std::to_wstring(n);
+        e2e::registry::WriteString(kFolderInfo, path, fields + path);
+    }
+    for (int n = 0; n < 30; ++n) {
+        const bool wild = n < 20;
+        const std::wstring number = (n % 20 < 10 ? L"00" : L"0") + std::to_wstring(n % 20);
+        const std::wstring pattern = wild ? L"*\\Pattern " + number : L"^C:\\Expression " + number + L"$";
+        e2e::registry::WriteString(kFolderInfoEx, (wild ? L"wp" : L"rp") + number, pattern);
+        e2e::registry::WriteString(kFolderInfoEx, (wild ? L"ws" : L"rs") + number, fields + pattern);
+    }
+}
+
+// The switch to the folder page, full of rules, in a dialog just opened, until the dialog is idle.
+double TimeFolderPage(const Shown& shown) {
+    HWND tree = GetDlgItem(shown.dialog, e2e::kOptionTreeId);
+    std::vector<HTREEITEM> items = e2e::ExpandAllTreeItems(tree);
+    e2e::WaitUntilDialogIdle(shown.dialog, shown.process.Handle());
+    const auto rows = OptionTreeRows();
+    for (size_t i = 0; i < items.size() && i < rows.size(); ++i) {
+        if (rows[i].id != kFolderPage) continue;
+        const double start = Now();
+        SendMessageW(tree, TVM_SELECTITEM, TVGN_CARET, reinterpret_cast<LPARAM>(items[i]));
+        e2e::WaitUntilDialogIdle(shown.dialog, shown.process.Handle());
+        return Now() - start;
+    }
+    return -1;
 }
 
 struct Figures {
@@ -217,6 +256,7 @@ int wmain(int argc, wchar_t** argv) {
     Figures apply{"Apply with every page opened"};
     Figures modifierSwitch{"key page: a switch of modifier"}, picker{"command picker, its first opening in a run"};
     Figures colorPage{"colour page: created, grid built, shown"}, palette{"colour page: a palette, grid rebuilt"};
+    Figures folderPage{"folder page with 500 exact and 30 pattern rules, its first opening"};
     // The first run of each warms the caches and is not counted.
     for (int i = 0; i <= runs; ++i) {
         Shown empty = StartAndTime(floorProgram, L"Empty");
@@ -251,7 +291,17 @@ int wmain(int argc, wchar_t** argv) {
             std::printf("the option dialog did not end on Cancel\n");
             return 1;
         }
+        WriteFolderRules();
+        Shown withRules = StartAndTime(option, L"オプション");
+        const double folderMs = withRules.dialog ? TimeFolderPage(withRules) : -1;
+        if (!Close(withRules) || folderMs < 0) {
+            std::printf("the folder page did not open or the dialog did not end\n");
+            return 1;
+        }
+        e2e::registry::DeleteKey(kFolderInfo);
+        e2e::registry::DeleteKey(kFolderInfoEx);
         if (i == 0) continue;
+        folderPage.times.push_back(folderMs);
         floor.times.push_back(empty.ms);
         controls.times.push_back(withControls.ms);
         required.times.push_back(bare.ms);
@@ -287,6 +337,7 @@ int wmain(int argc, wchar_t** argv) {
     std::printf("command picker opening: median %.1f ms (target under 150 ms)\n", picker.Print());
     std::printf("colour page opening: median %.1f ms (target under 40 ms)\n", colorPage.Print());
     std::printf("colour palette press: median %.1f ms (target under 15 ms)\n", palette.Print());
+    std::printf("folder page opening: median %.1f ms (target under 150 ms)\n", folderPage.Print());
     std::filesystem::remove_all(user);
     return 0;
 }

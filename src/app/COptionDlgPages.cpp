@@ -27,6 +27,8 @@
 #include "pages/COptionListModeStyleDlg.h"
 #include "pages/COptionListStateDlg.h"
 #include "pages/COptionListStyleDlg.h"
+#include "pages/COptionFolderSettingDlg.h"
+#include "pages/COptionIcon.h"
 #include "pages/COptionMessageDlg.h"
 #include "pages/COptionNetworkDlg.h"
 #include "pages/COptionOtherDlg.h"
@@ -66,6 +68,7 @@ const std::vector<PageClass>& PageClasses() {
         {9, &Make<COptionThumbDlg>},
         {13, &Make<COptionListActionDlg>},
         {14, &Make<COptionMouseGestureDlg>},
+        {17, &Make<COptionIcon>},
         {20, &Make<COptionAppInfoDlg>},
         {21, &Make<COptionExToolDlg>},
         {22, &Make<COptionMenuDlg>},
@@ -80,6 +83,7 @@ const std::vector<PageClass>& PageClasses() {
         {32, &Make<COptionInclimentalSerchDlg>},
         {33, &Make<COptionCustomSort>},
         {34, &Make<COptionVersionCheckDlg>},
+        {36, &Make<COptionFolderSettingDlg>},
         {37, &Make<COptionOverallStyleDlg>},
         {38, &Make<COptionListBarDlg>},
         {39, &Make<COptionMessageDlg>},

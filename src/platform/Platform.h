@@ -9,6 +9,7 @@
 #include "platform/Prompts.h"
 #include "platform/Registry.h"
 #include "platform/SharedMemory.h"
+#include "platform/ShellNamespace.h"
 #include "platform/System.h"
 
 namespace platform {
@@ -22,6 +23,7 @@ struct Platform {
     HostWindows& windows;
     SharedMemory& sharedMemory;
     Processes& processes;
+    ShellNamespace& shell;
 };
 
 // The platform in force. Using it before one is installed is a programming error.

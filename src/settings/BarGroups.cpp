@@ -1,5 +1,7 @@
 // The groups of the bars around the file list: sections "TreeInfo", "TabStyle", "UBar", "Bar",
 // "PreView", "Recent", "FolderInfo", "FolderInfoEx", and the skin values of "Settings".
+#include <cstdint>
+
 #include "services/Format.h"
 #include "settings/SettingRows.h"
 
@@ -118,9 +120,11 @@ const SettingRow kRecentRows[] = {
     IntRow(L"RestoreScriptHistoryHB", &S::RestoreScriptHistoryHB, 0),
 };
 
+// The folder page adds 20 and 10 at most, but a rule the host asks for goes in past that and is
+// written like the others; the host then reads the first 20 and 10.
 const SettingRow kFolderInfoExRows[] = {
-    PairListRow(L"wp%03d", L"ws%03d", &S::WildPaths, 20),
-    PairListRow(L"rp%03d", L"rs%03d", &S::RegexPaths, 10),
+    PairListRow(L"wp%03d", L"ws%03d", &S::WildPaths, 20).Limits(20, UINT32_MAX),
+    PairListRow(L"rp%03d", L"rs%03d", &S::RegexPaths, 10).Limits(10, UINT32_MAX),
 };
 
 const SettingRow kSkinRows[] = {

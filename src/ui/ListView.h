@@ -53,6 +53,13 @@ public:
     void SelectRow(int row) const;
     bool EnsureVisible(int row) const { return Send(LVM_ENSUREVISIBLE, static_cast<WPARAM>(row), FALSE) != FALSE; }
 
+    // Group view: rows shown under the headings of their groups.
+    void EnableGroupView(bool enable) const { Send(LVM_ENABLEGROUPVIEW, enable ? TRUE : FALSE); }
+    // The new group's index, -1 on failure.
+    int InsertGroup(int groupId, const std::wstring& heading) const;
+    // As InsertItem, in the group of that id.
+    int InsertGroupedItem(int row, const std::wstring& text, LPARAM data, int groupId) const;
+
     // The tick of LVS_EX_CHECKBOXES, kept as state image 2 (1 is the empty box).
     bool GetCheck(int row) const { return (GetItemState(row, LVIS_STATEIMAGEMASK) >> 12) == 2; }
     bool SetCheck(int row, bool checked) const {

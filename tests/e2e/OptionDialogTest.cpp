@@ -52,7 +52,7 @@ TEST(OptionDialog, OpensOverTheHostInItsOwnOrTranslatedWordsAndOnlyAValidPassSto
     reg::ScopedKey page(reg::kOptionPage);
     reg::ScopedKey appInfo(reg::kAppInfo);
     reg::ScopedKey settings(reg::kSettings);
-    reg::WriteDword(reg::kOptionPage, L"Start", 36);
+    reg::WriteDword(reg::kOptionPage, L"Start", 30);
     reg::WriteString(reg::kOptionPage, L"SetFolder", L"C:\\Work");
     reg::WriteString(reg::kSettings, L"NLS", L".ja-JP");
     reg::WriteDword(reg::kSettings, L"LangOut", 1);
@@ -77,7 +77,7 @@ TEST(OptionDialog, OpensOverTheHostInItsOwnOrTranslatedWordsAndOnlyAValidPassSto
     EXPECT_EQ(L"", reg::ReadString(reg::kOptionPage, L"SetFolder").value_or(L"<absent>"));
     EXPECT_EQ(0u, Close(first, dialog));
     EXPECT_EQ(L"", reg::ReadString(reg::kOptionPage, L"SetFolder").value_or(L"<absent>"));
-    EXPECT_EQ(36u, reg::ReadDword(reg::kOptionPage, L"Start").value_or(0));
+    EXPECT_EQ(30u, reg::ReadDword(reg::kOptionPage, L"Start").value_or(0));
     EXPECT_THAT(host.Commands(), testing::IsEmpty());
     std::wstring text = e2e::ReadUtf16File(translation.Path());
     ASSERT_TRUE(text.starts_with(L"\uFEFFオプション\r\n")) << "no dialog text file written";

@@ -9,6 +9,7 @@
 #include "platform/fake/FakePrompts.h"
 #include "platform/fake/FakeRegistry.h"
 #include "platform/fake/FakeSharedMemory.h"
+#include "platform/fake/FakeShellNamespace.h"
 #include "platform/fake/FakeSystem.h"
 
 namespace platform::fake {
@@ -28,6 +29,7 @@ public:
     FakeHostWindows& windows() { return windows_; }
     FakeSharedMemory& sharedMemory() { return sharedMemory_; }
     FakeProcesses& processes() { return processes_; }
+    FakeShellNamespace& shell() { return shell_; }
     Platform& platform() { return platform_; }
 
 private:
@@ -39,7 +41,8 @@ private:
     FakeHostWindows windows_;
     FakeSharedMemory sharedMemory_;
     FakeProcesses processes_;
-    Platform platform_{registry_, files_, environment_, prompts_, system_, windows_, sharedMemory_, processes_};
+    FakeShellNamespace shell_;
+    Platform platform_{registry_, files_, environment_, prompts_, system_, windows_, sharedMemory_, processes_, shell_};
     Installed installed_{platform_};
 };
 

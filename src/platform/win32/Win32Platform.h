@@ -10,6 +10,7 @@
 #include "platform/win32/Win32Prompts.h"
 #include "platform/win32/Win32Registry.h"
 #include "platform/win32/Win32SharedMemory.h"
+#include "platform/win32/Win32ShellNamespace.h"
 #include "platform/win32/Win32System.h"
 
 namespace platform::win32 {
@@ -32,7 +33,8 @@ private:
     Win32HostWindows windows_;
     Win32SharedMemory sharedMemory_;
     Win32Processes processes_;
-    Platform platform_{registry_, files_, environment_, prompts_, system_, windows_, sharedMemory_, processes_};
+    Win32ShellNamespace shell_;
+    Platform platform_{registry_, files_, environment_, prompts_, system_, windows_, sharedMemory_, processes_, shell_};
     Installed installed_{platform_};
 };
 

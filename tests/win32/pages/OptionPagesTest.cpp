@@ -241,6 +241,13 @@ TEST_F(OptionPagesTest, ControlsCarryTheirStoredValuesBothWays) {
         {6,  1251, Check, kPreView,  L"TestShellImage",   L"0",         L"1",           49003, {1001}},
         {6,  1252, Check, kPreView,  L"PreviewHandler",   L"0",         L"1",           49003},
         {6,  1001, Edit,  kPreView,  L"Ext",              L"png,jpg",   L"webp",        49003},
+        {17, 1201, Radio, kListDraw, L"ListIconMode",     L"0",         L"3",           49034},
+        {17, 1001, Edit,  kListDraw, L"EasyIconEx",       L"exe,lnk",   L"",            49034},
+        {17, 1255, Check, kListDraw, L"OverlayAttr",      L"0",         L"1",           49034},
+        {17, 1205, Radio, kListDraw, L"OverLayMode",      L"2",         L"1",           49034},
+        {17, 1002, Edit,  kListDraw, L"IconTimeOut",      L"5000",      L"0",           49034},
+        {17, 1002, Edit,  kListDraw, L"IconTimeOut",      L"60001",     nullptr,        0, {}, L"0 and 60000"},
+        {17, 1251, Check, kListDraw, L"UseCache_IconIdx", L"1",         L"0",           49034},
     };
     // clang-format on
     for (const Case& c : cases) {

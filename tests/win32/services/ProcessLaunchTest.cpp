@@ -150,7 +150,8 @@ TEST(WaitedLaunchOnWindows, AProgramThatOutlivesTheWaitIsKilledOnlyOnYes) {
         prompts.Answer(answer);
         platform::Platform& real = platform::Current();
         platform::Platform withPrompts{real.registry, real.files,   real.environment,  prompts,
-                                       real.system,   real.windows, real.sharedMemory, real.processes};
+                                       real.system,   real.windows, real.sharedMemory, real.processes,
+                                       real.shell};
         platform::Installed installed(withPrompts);
 
         EXPECT_FALSE(WaitedLaunch(program, L"10000 5", L"", SW_HIDE, 300));

@@ -1,0 +1,98 @@
+#include "pages/CDlgFolderSettingInfo.h"
+
+#include <string>
+#include <vector>
+
+#include "app/AppServices.h"
+#include "pages/CDetailData.h"
+#include "platform/Platform.h"
+#include "resources/pages/PageIds.h"
+#include "services/CheckLabelCount.h"
+#include "services/MessageIds.h"
+#include "ui/ControlText.h"
+#include "ui/DataExchange.h"
+#include "ui/LocaliseDialog.h"
+
+namespace {
+
+constexpr int kSortColumnWidth = 200;
+constexpr int kPathLimit = 255;
+
+}  // namespace
+
+CDlgFolderSettingInfo::CDlgFolderSettingInfo(AppServices& app) : ui::Dialog(IDD_FOLDER_SETTING_INFO), app_(app) {}
+
+bool CDlgFolderSettingInfo::OnInitDialog() {
+    viewRadio_ = ViewRadioOfNumber(rule.viewNumber);
+    const bool focusFirst = ui::Dialog::OnInitDialog();
+    ui::LocaliseDialog(hwnd(), templateId(), app_.dialogLanguage);
+    std::vector<std::wstring> labels;
+    ui::SplitControlText(Item(IDC_FOLDER_RULE_SORT_LABELS), labels);
+    if (!CheckLabelCount(kBuiltInSortKeys, labels, IDC_FOLDER_RULE_SORT_LABELS)) return focusFirst;
+    FillSortList();
+    if (locked) {
+        for (int id = IDC_FOLDER_RULE_KIND; id < IDC_FOLDER_RULE_KIND + 3; ++id) EnableWindow(Item(id), FALSE);
+    }
+    return focusFirst;
+}
+
+// The built-in orders, then the columns the host shows, then the rest, each under its heading; the
+// row of the rule's key is the one selected.
+void CDlgFolderSettingInfo::FillSortList() {
+    std::vector<std::wstring> labels;
+    ui::SplitControlText(Item(IDC_FOLDER_RULE_SORT_LABELS), labels);
+    CDetailData details;
+    details.Load(app_.store);
+    sortList_ = ui::ListView(Item(IDC_FOLDER_RULE_SORT_LIST));
+    sortList_.SetExtendedStyle(LVS_EX_FULLROWSELECT, LVS_EX_FULLROWSELECT);
+    sortList_.InsertColumn(0, L"Sort", kSortColumnWidth);
+    for (SortGroup group : {SortGroup::System, SortGroup::Visible, SortGroup::Hide})
+        sortList_.InsertGroup(static_cast<int>(group), CDetailData::GroupTitle(group));
+    sortList_.EnableGroupView(true);
+    int row = 0;
+    int selected = -1;
+    for (const SortChoice& choice : details.SortChoices(labels)) {
+        if (choice.key == rule.sortKey && selected < 0) selected = row;
+        sortList_.InsertGroupedItem(row++, choice.label, choice.key, static_cast<int>(choice.group));
+    }
+    if (selected >= 0) {
+        sortList_.SelectRow(selected);
+        sortList_.EnsureVisible(selected);
+    }
+}
+
+void CDlgFolderSettingInfo::DoDataExchange(ui::DataExchange& exchange) {
+    DDX_Radio(exchange, IDC_FOLDER_RULE_KIND, kind);
+    DDX_Text(exchange, IDC_FOLDER_RULE_PATH, rule.path);
+    DDV_MaxChars(exchange, rule.path, kPathLimit);
+    DDX_Check(exchange, IDC_FOLDER_RULE_FOLDERS_FIRST, rule.foldersFirst);
+    DDX_Radio(exchange, IDC_FOLDER_RULE_DIRECTION, rule.direction);
+    DDX_Radio(exchange, IDC_FOLDER_RULE_VIEW, viewRadio_);
+    DDX_Radio(exchange, IDC_FOLDER_RULE_ICON_SIZE, rule.iconSize);
+}
+
+// The folder browser answers with the parsing name, so that a virtual folder comes back as "::{...}".
+void CDlgFolderSettingInfo::Browse() {
+    HWND field = Item(IDC_FOLDER_RULE_PATH);
+    const platform::FolderChoice choice = platform::Current().prompts.BrowseForFolderName(
+        app_.messages.Get(kMsgFolderBrowserTitle), ui::ControlText(field));
+    if (choice.confirmed && !choice.path.empty()) SetWindowTextW(field, choice.path.c_str());
+}
+
+bool CDlgFolderSettingInfo::OnCommand(int id, int code) {
+    if (id != IDC_FOLDER_RULE_BROWSE || code != BN_CLICKED) return false;
+    Browse();
+    return true;
+}
+
+void CDlgFolderSettingInfo::OnOK() {
+    if (!UpdateData(true)) return;
+    if (rule.path.empty()) {
+        platform::Current().prompts.ShowMessage(app_.messages.Get(kMsgEmptyPath), platform::kStyleOk);
+        return;
+    }
+    rule.viewNumber = ViewNumberOfRadio(viewRadio_, rule.viewNumber);
+    const int row = sortList_.hwnd() ? sortList_.GetSelectedRow() : -1;
+    rule.sortKey = row >= 0 ? static_cast<int32_t>(sortList_.GetItemData(row)) : 0;
+    EndDialog(IDOK);
+}

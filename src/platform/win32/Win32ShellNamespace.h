@@ -1,0 +1,13 @@
+#pragma once
+
+#include "platform/ShellNamespace.h"
+
+namespace platform::win32 {
+
+class Win32ShellNamespace : public ShellNamespace {
+public:
+    std::vector<ShellColumn> DesktopColumns() override;
+    std::optional<std::wstring> InFolderName(const std::wstring& parsingPath) override;
+};
+
+}  // namespace platform::win32
