@@ -11,10 +11,14 @@
 #include "definitions/COptionMenuDlg.h"
 #include "pages/COptionAppInfoDlg.h"
 #include "pages/COptionCommonUIDlg.h"
+#include "pages/COptionEventDlg.h"
 #include "pages/COptionMessageDlg.h"
 #include "pages/COptionNetworkDlg.h"
 #include "pages/COptionOtherDlg.h"
 #include "pages/COptionOverallStyleDlg.h"
+#include "pages/COptionScreenSaverDlg.h"
+#include "pages/COptionSkinDlg.h"
+#include "pages/COptionSoundDlg.h"
 #include "pages/COptionVersionCheckDlg.h"
 
 namespace {
@@ -40,6 +44,9 @@ const std::vector<PageClass>& PageClasses() {
     static const std::vector<PageClass> classes = {
         {2, &Make<COptionKeySetDlg>},
         {5, &Make<COptionOtherDlg>},
+        {12, &Make<COptionSkinDlg>},
+        {18, &Make<COptionEventDlg>},
+        {19, &Make<COptionSoundDlg>},
         {20, &Make<COptionAppInfoDlg>},
         {21, &Make<COptionExToolDlg>},
         {22, &Make<COptionMenuDlg>},
@@ -50,6 +57,7 @@ const std::vector<PageClass>& PageClasses() {
         {34, &Make<COptionVersionCheckDlg>},
         {37, &Make<COptionOverallStyleDlg>},
         {39, &Make<COptionMessageDlg>},
+        {45, &Make<COptionScreenSaverDlg>},
     };
     // clang-format on
     return classes;

@@ -2,6 +2,7 @@
 // "PreView", "Recent", "FolderInfo", "FolderInfoEx", and the skin values of "Settings".
 #include "services/Format.h"
 #include "settings/SettingRows.h"
+#include "settings/SkinPictures.h"
 
 namespace {
 
@@ -196,8 +197,8 @@ const GroupRows kGroups[] = {
     {SettingsGroup::Recent, kRecentParts},
     {SettingsGroup::FolderInfo, {}, LoadFolderInfo, SaveFolderInfo},
     {SettingsGroup::FolderInfoEx, kFolderInfoExParts},
-    {SettingsGroup::Skin, kSkinParts},
-    {SettingsGroup::StatusAnime, kStatusAnimeParts},
+    {SettingsGroup::Skin, kSkinParts, LoadSkinPictures},
+    {SettingsGroup::StatusAnime, kStatusAnimeParts, LoadStatusAnimePictures},
 };
 
 }  // namespace

@@ -2,9 +2,11 @@
 #pragma once
 
 #include "platform/Platform.h"
+#include "platform/fake/FakeCodePages.h"
 #include "platform/fake/FakeEnvironment.h"
 #include "platform/fake/FakeFileSystem.h"
 #include "platform/fake/FakeHostWindows.h"
+#include "platform/fake/FakeImages.h"
 #include "platform/fake/FakeProcesses.h"
 #include "platform/fake/FakePrompts.h"
 #include "platform/fake/FakeRegistry.h"
@@ -28,6 +30,8 @@ public:
     FakeHostWindows& windows() { return windows_; }
     FakeSharedMemory& sharedMemory() { return sharedMemory_; }
     FakeProcesses& processes() { return processes_; }
+    FakeCodePages& codePages() { return codePages_; }
+    FakeImages& images() { return images_; }
     Platform& platform() { return platform_; }
 
 private:
@@ -39,7 +43,10 @@ private:
     FakeHostWindows windows_;
     FakeSharedMemory sharedMemory_;
     FakeProcesses processes_;
-    Platform platform_{registry_, files_, environment_, prompts_, system_, windows_, sharedMemory_, processes_};
+    FakeCodePages codePages_;
+    FakeImages images_;
+    Platform platform_{registry_, files_,        environment_, prompts_,   system_,
+                       windows_,  sharedMemory_, processes_,   codePages_, images_};
     Installed installed_{platform_};
 };
 

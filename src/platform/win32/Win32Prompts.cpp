@@ -114,7 +114,7 @@ FolderChoice Win32Prompts::ChooseFileToOpen(const std::wstring& title, const std
         box.lpstrFilter = filters.c_str();
         box.lpstrFile = path;
         box.nMaxFile = MAX_PATH;
-        box.lpstrTitle = title.c_str();
+        box.lpstrTitle = title.empty() ? nullptr : title.c_str();  // the system's own "Open"
         box.Flags = OFN_FILEMUSTEXIST | OFN_HIDEREADONLY;
         if (GetOpenFileNameW(&box)) return {true, path};
         // Only a start text the box cannot take is worth a second opening.
