@@ -1,6 +1,7 @@
 #include "pages/CDlgBkImage.h"
 
 #include <algorithm>
+#include <cstdlib>
 
 #include "app/AppServices.h"
 #include "pages/SkinFolders.h"
@@ -16,6 +17,32 @@ namespace {
 
 constexpr int kModes = 6;
 constexpr uint32_t kLargestNumber = 65535;
+
+// A copy of a 32-bit picture whose colours are weighted by its alpha; null for any other picture.
+HBITMAP Premultiplied(HBITMAP source) {
+    DIBSECTION section{};
+    if (GetObjectW(source, sizeof(section), &section) != sizeof(section) || section.dsBm.bmBitsPixel != 32 ||
+        !section.dsBm.bmBits) {
+        return nullptr;
+    }
+    BITMAPINFO info{};
+    info.bmiHeader = section.dsBmih;
+    info.bmiHeader.biCompression = BI_RGB;
+    void* bits = nullptr;
+    HBITMAP copy = CreateDIBSection(nullptr, &info, DIB_RGB_COLORS, &bits, nullptr, 0);
+    if (!copy) return nullptr;
+    const size_t pixels =
+        static_cast<size_t>(section.dsBm.bmWidth) * static_cast<size_t>(std::abs(section.dsBm.bmHeight));
+    const auto* from = static_cast<const uint8_t*>(section.dsBm.bmBits);
+    auto* to = static_cast<uint8_t*>(bits);
+    for (size_t n = 0; n < pixels * 4; n += 4) {
+        const unsigned alpha = from[n + 3];
+        for (int channel = 0; channel < 3; ++channel)
+            to[n + channel] = static_cast<uint8_t>(from[n + channel] * alpha / 255);
+        to[n + 3] = static_cast<uint8_t>(alpha);
+    }
+    return copy;
+}
 
 }  // namespace
 
@@ -85,6 +112,8 @@ void CDlgBkImage::LoadPreview() {
         preview_ = mode == 4 || mode == 5 ? LoadBackgroundPicture(mode, path, box.right, box.bottom)
                                           : platform::Current().images.Load(path);
     }
+    blended_.reset(preview_ && preview_->hasAlpha() ? Premultiplied(reinterpret_cast<HBITMAP>(preview_->bitmap()))
+                                                    : nullptr);
     InvalidateRect(Item(IDC_BK_IMAGE_PREVIEW), nullptr, TRUE);
 }
 
@@ -98,10 +127,11 @@ void CDlgBkImage::DrawPreview(const DRAWITEMSTRUCT& item) const {
     const int width = std::max(1, static_cast<int>(preview_->width() * scale));
     const int height = std::max(1, static_cast<int>(preview_->height() * scale));
     HDC memory = CreateCompatibleDC(item.hDC);
-    HGDIOBJ old = SelectObject(memory, reinterpret_cast<HBITMAP>(preview_->bitmap()));
+    HBITMAP shown = blended_ ? blended_.get() : reinterpret_cast<HBITMAP>(preview_->bitmap());
+    HGDIOBJ old = SelectObject(memory, shown);
     const int left = box.right - width;
     const int top = box.bottom - height;
-    if (preview_->hasAlpha()) {
+    if (blended_) {
         BLENDFUNCTION blend{AC_SRC_OVER, 0, 255, AC_SRC_ALPHA};
         GdiAlphaBlend(item.hDC, left, top, width, height, memory, 0, 0, preview_->width(), preview_->height(), blend);
     } else {

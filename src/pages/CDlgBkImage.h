@@ -5,6 +5,9 @@
 #include <cstdint>
 #include <memory>
 #include <string>
+#include <type_traits>
+
+#include <windows.h>
 
 #include "platform/Images.h"
 #include "ui/BrowseEdit.h"
@@ -34,7 +37,13 @@ private:
     void LoadPreview();
     void DrawPreview(const DRAWITEMSTRUCT& item) const;
 
+    struct BitmapDeleter {
+        void operator()(HBITMAP bitmap) const { DeleteObject(bitmap); }
+    };
+
     AppServices& app_;
     ui::BrowseEdit fileEdit_;
     std::unique_ptr<platform::Picture> preview_;
+    // The picture's pixels with their colours weighted by their alpha, as blending wants them.
+    std::unique_ptr<std::remove_pointer_t<HBITMAP>, BitmapDeleter> blended_;
 };
