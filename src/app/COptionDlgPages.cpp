@@ -29,6 +29,7 @@
 #include "pages/COptionListStyleDlg.h"
 #include "pages/COptionFolderSettingDlg.h"
 #include "pages/COptionIcon.h"
+#include "pages/COptionEventDlg.h"
 #include "pages/COptionMessageDlg.h"
 #include "pages/COptionNetworkDlg.h"
 #include "pages/COptionOtherDlg.h"
@@ -36,6 +37,9 @@
 #include "pages/COptionRecentDlg.h"
 #include "pages/COptionThumbDlg.h"
 #include "pages/COptionPreviewDlg.h"
+#include "pages/COptionScreenSaverDlg.h"
+#include "pages/COptionSkinDlg.h"
+#include "pages/COptionSoundDlg.h"
 #include "pages/COptionVersionCheckDlg.h"
 
 namespace {
@@ -66,9 +70,12 @@ const std::vector<PageClass>& PageClasses() {
         {6, &Make<COptionPreviewDlg>},
         {7, &Make<COptionRecentDlg>},
         {9, &Make<COptionThumbDlg>},
+        {12, &Make<COptionSkinDlg>},
         {13, &Make<COptionListActionDlg>},
         {14, &Make<COptionMouseGestureDlg>},
         {17, &Make<COptionIcon>},
+        {18, &Make<COptionEventDlg>},
+        {19, &Make<COptionSoundDlg>},
         {20, &Make<COptionAppInfoDlg>},
         {21, &Make<COptionExToolDlg>},
         {22, &Make<COptionMenuDlg>},
@@ -92,6 +99,7 @@ const std::vector<PageClass>& PageClasses() {
         {42, &Make<COptionMouseAction2Dlg>},
         {43, &Make<COptionMouseAction3Dlg>},
         {44, &Make<COptionListAddressbarDlg>},
+        {45, &Make<COptionScreenSaverDlg>},
     };
     // clang-format on
     return classes;

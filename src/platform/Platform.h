@@ -2,9 +2,11 @@
 // COptionApp installs the real platform at start; a test installs fakes for its lifetime.
 #pragma once
 
+#include "platform/CodePages.h"
 #include "platform/Environment.h"
 #include "platform/FileSystem.h"
 #include "platform/HostWindows.h"
+#include "platform/Images.h"
 #include "platform/Processes.h"
 #include "platform/Prompts.h"
 #include "platform/Registry.h"
@@ -24,6 +26,8 @@ struct Platform {
     SharedMemory& sharedMemory;
     Processes& processes;
     ShellNamespace& shell;
+    CodePages& codePages;
+    Images& images;
 };
 
 // The platform in force. Using it before one is installed is a programming error.

@@ -52,8 +52,9 @@ public:
     // The same browser, answering with the folder's parsing name as the desktop gives it, so that a
     // virtual folder comes back as "::{...}"; its file-system path when that name is empty.
     virtual FolderChoice BrowseForFolderName(const std::wstring& title, const std::wstring& start) = 0;
-    // The file open box for an existing file, read-only box hidden, start preselected; when the box
-    // refuses the start text it opens once more without it. filter: pairs of texts, each ending in "|".
+    // The file open box for an existing file, read-only box hidden, start preselected, titled by the
+    // system when title is empty; when the box refuses the start text it opens once more without it.
+    // filter: pairs of texts, each ending in "|".
     virtual FolderChoice ChooseFileToOpen(const std::wstring& title, const std::wstring& filter,
                                           const std::wstring& start) = 0;
     // Captioned with the program's name and owned by the active window. The index of the choice

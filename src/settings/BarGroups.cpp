@@ -4,6 +4,7 @@
 
 #include "services/Format.h"
 #include "settings/SettingRows.h"
+#include "settings/SkinPictures.h"
 
 namespace {
 
@@ -200,8 +201,8 @@ const GroupRows kGroups[] = {
     {SettingsGroup::Recent, kRecentParts},
     {SettingsGroup::FolderInfo, {}, LoadFolderInfo, SaveFolderInfo},
     {SettingsGroup::FolderInfoEx, kFolderInfoExParts},
-    {SettingsGroup::Skin, kSkinParts},
-    {SettingsGroup::StatusAnime, kStatusAnimeParts},
+    {SettingsGroup::Skin, kSkinParts, LoadSkinPictures},
+    {SettingsGroup::StatusAnime, kStatusAnimeParts, LoadStatusAnimePictures},
 };
 
 }  // namespace

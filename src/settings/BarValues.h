@@ -7,9 +7,16 @@
 
 #include <array>
 #include <cstdint>
+#include <memory>
 #include <string>
+#include <utility>
+#include <vector>
 
 #include "platform/LogFont.h"
+
+namespace platform {
+class Picture;
+}
 #include "settings/ListValues.h"
 
 // The root the tree shows when none is stored.
@@ -142,4 +149,10 @@ struct SkinValues {
     int32_t StatusAnimeStartTimer = 0;
     int32_t StatusAnimenCount = 0;
     int32_t StatusAnimenDrawPos = 0;
+    // What loading the groups made of them: the background picture (none for modes 0 and 1), the
+    // frames of the progress and animation strips, and a position for each animation sprite.
+    std::shared_ptr<platform::Picture> BkImage;
+    int32_t PrgImageCount = 0;
+    int32_t StatusAnimeImageCount = 0;
+    std::vector<std::pair<int32_t, int32_t>> StatusAnimeSprites;
 };

@@ -33,6 +33,16 @@ public:
             static_cast<size_t>(Send(LB_GETTEXT, static_cast<WPARAM>(index), reinterpret_cast<LPARAM>(text.data()))));
         return text;
     }
+    // Selects the first item after start that begins with text, ignoring case; LB_ERR when none does.
+    int SelectString(int start, const std::wstring& text) const {
+        return static_cast<int>(
+            Send(LB_SELECTSTRING, static_cast<WPARAM>(start), reinterpret_cast<LPARAM>(text.c_str())));
+    }
+    // The selected item's text; empty when nothing is selected.
+    std::wstring SelectedText() const {
+        const int index = GetCurSel();
+        return index == LB_ERR ? std::wstring() : GetText(index);
+    }
 };
 
 }  // namespace ui

@@ -2,9 +2,11 @@
 #pragma once
 
 #include "platform/Platform.h"
+#include "platform/fake/FakeCodePages.h"
 #include "platform/fake/FakeEnvironment.h"
 #include "platform/fake/FakeFileSystem.h"
 #include "platform/fake/FakeHostWindows.h"
+#include "platform/fake/FakeImages.h"
 #include "platform/fake/FakeProcesses.h"
 #include "platform/fake/FakePrompts.h"
 #include "platform/fake/FakeRegistry.h"
@@ -30,6 +32,8 @@ public:
     FakeSharedMemory& sharedMemory() { return sharedMemory_; }
     FakeProcesses& processes() { return processes_; }
     FakeShellNamespace& shell() { return shell_; }
+    FakeCodePages& codePages() { return codePages_; }
+    FakeImages& images() { return images_; }
     Platform& platform() { return platform_; }
 
 private:
@@ -42,7 +46,10 @@ private:
     FakeSharedMemory sharedMemory_;
     FakeProcesses processes_;
     FakeShellNamespace shell_;
-    Platform platform_{registry_, files_, environment_, prompts_, system_, windows_, sharedMemory_, processes_, shell_};
+    FakeCodePages codePages_;
+    FakeImages images_;
+    Platform platform_{registry_,     files_,     environment_, prompts_,   system_, windows_,
+                       sharedMemory_, processes_, shell_,       codePages_, images_};
     Installed installed_{platform_};
 };
 

@@ -3,9 +3,11 @@
 #pragma once
 
 #include "platform/Platform.h"
+#include "platform/win32/Win32CodePages.h"
 #include "platform/win32/Win32Environment.h"
 #include "platform/win32/Win32FileSystem.h"
 #include "platform/win32/Win32HostWindows.h"
+#include "platform/win32/Win32Images.h"
 #include "platform/win32/Win32Processes.h"
 #include "platform/win32/Win32Prompts.h"
 #include "platform/win32/Win32Registry.h"
@@ -34,7 +36,10 @@ private:
     Win32SharedMemory sharedMemory_;
     Win32Processes processes_;
     Win32ShellNamespace shell_;
-    Platform platform_{registry_, files_, environment_, prompts_, system_, windows_, sharedMemory_, processes_, shell_};
+    Win32CodePages codePages_;
+    Win32Images images_;
+    Platform platform_{registry_,     files_,     environment_, prompts_,   system_, windows_,
+                       sharedMemory_, processes_, shell_,       codePages_, images_};
     Installed installed_{platform_};
 };
 

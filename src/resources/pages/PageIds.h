@@ -316,3 +316,31 @@
 #define IDC_ICON_OVERLAY_MODE 1205
 #define IDC_ICON_TIMEOUT 1002
 #define IDC_ICON_USE_CACHE 1251
+// The skin page, the background picture dialog and the animation page.
+#define IDD_BK_IMAGE 182
+#define IDC_SKIN_README 1001
+#define IDC_SKIN_PROGRESS_README 1002
+#define IDC_SKIN_ALPHA 1003
+#define IDC_SKIN_PROGRESS_MODE 1201
+#define IDC_SKIN_BACKGROUND 1301
+#define IDC_SKIN_LIST 1601
+#define IDC_SKIN_PROGRESS_LIST 1602
+#define IDC_BK_IMAGE_X 1001
+#define IDC_BK_IMAGE_Y 1002
+#define IDC_BK_IMAGE_FILE 1051
+#define IDC_BK_IMAGE_MODE 1201
+#define IDC_BK_IMAGE_X_UNIT 1401
+#define IDC_BK_IMAGE_Y_UNIT 1402
+#define IDC_BK_IMAGE_PREVIEW 1501
+#define IDC_ANIME_README 1001
+#define IDC_ANIME_START_TIMER 1002
+#define IDC_ANIME_COUNT 1003
+#define IDC_ANIME_DRAW_POS 1201
+#define IDC_ANIME_LIST 1601
+// The sound and event pages: one list of fixed rows, each bound to a file of one folder.
+#define IDC_EVENT_FILE_CHOOSE 1301
+#define IDC_EVENT_FILE_CLEAR 1302
+#define IDC_EVENT_FILE_OUTSIDE 1401
+#define IDC_EVENT_FILE_HEADERS 1402
+#define IDC_EVENT_FILE_ROWS 1403
+#define IDC_EVENT_FILE_LIST 1601

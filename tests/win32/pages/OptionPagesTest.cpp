@@ -39,6 +39,10 @@ protected:
     void SetUp() override {
         OptionDialogFixture::SetUp();
         fake_.windows().AddHostWindow(kHost);
+        // The skin pages keep their values only with an installed skin chosen.
+        for (const wchar_t* folder :
+             {L"C:\\Qor\\img\\Default", L"C:\\Qor\\StatusImg\\Default", L"C:\\Qor\\StatusAnime\\Default"})
+            fake_.files().AddDirectory(folder);
     }
 
     // The dialog opened on the page, and the page's window.
@@ -248,6 +252,13 @@ TEST_F(OptionPagesTest, ControlsCarryTheirStoredValuesBothWays) {
         {17, 1002, Edit,  kListDraw, L"IconTimeOut",      L"5000",      L"0",           49034},
         {17, 1002, Edit,  kListDraw, L"IconTimeOut",      L"60001",     nullptr,        0, {}, L"0 and 60000"},
         {17, 1251, Check, kListDraw, L"UseCache_IconIdx", L"1",         L"0",           49034},
+        {12, 1003, Edit,  kSettings, L"BkAlpha",          L"128",       L"255",         49013},
+        {12, 1003, Edit,  kSettings, L"BkAlpha",          L"256",       nullptr,        0, {}, L"0 and 255"},
+        {12, 1201, Radio, kSettings, L"PrgDrawMode",      L"1",         L"0",           49013},
+        {45, 1002, Edit,  kSettings, L"StatusAnimeStartTimer", L"0",    L"1440000",     49051},
+        {45, 1003, Edit,  kSettings, L"StatusAnimenCount", L"3",        L"255",         49051},
+        {45, 1003, Edit,  kSettings, L"StatusAnimenCount", L"0",        nullptr,        0, {}, L"1 and 255"},
+        {45, 1201, Radio, kSettings, L"StatusAnimenDrawPos", L"0",      L"2",           49051},
     };
     // clang-format on
     for (const Case& c : cases) {

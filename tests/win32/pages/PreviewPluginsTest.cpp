@@ -37,8 +37,9 @@ TEST(PreviewPlugins, SamplePluginsLoadForRealOrAreRefused) {
     platform::fake::FakePlatform fake;
     platform::win32::Win32System system;
     platform::win32::Win32Processes processes;
-    platform::Platform mixed{fake.registry(), fake.files(),   fake.environment(),  fake.prompts(),
-                             system,          fake.windows(), fake.sharedMemory(), processes};
+    platform::Platform mixed{fake.registry(), fake.files(),     fake.environment(),  fake.prompts(),
+                             system,          fake.windows(),   fake.sharedMemory(), processes,
+                             fake.shell(),    fake.codePages(), fake.images()};
     platform::Installed installed(mixed);
     // clang-format off
     struct Case { const wchar_t* name; int index; std::vector<std::wstring> messages; };

@@ -145,9 +145,9 @@ protected:
     platform::win32::Win32System system_;
     platform::win32::Win32HostWindows windows_;
     platform::win32::Win32Processes processes_;
-    platform::Platform platform_{registry_, files_,   environment_,         fake_.prompts(),
-                                 system_,   windows_, fake_.sharedMemory(), processes_,
-                                 fake_.shell()};
+    platform::Platform platform_{
+        registry_,  files_,        environment_,      fake_.prompts(), system_, windows_, fake_.sharedMemory(),
+        processes_, fake_.shell(), fake_.codePages(), fake_.images()};
     platform::Installed installed_{platform_};
     UserDirectories directories_;
     MessageCatalog messages_;

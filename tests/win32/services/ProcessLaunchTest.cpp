@@ -149,9 +149,9 @@ TEST(WaitedLaunchOnWindows, AProgramThatOutlivesTheWaitIsKilledOnlyOnYes) {
         WatchingPrompts prompts;
         prompts.Answer(answer);
         platform::Platform& real = platform::Current();
-        platform::Platform withPrompts{real.registry, real.files,   real.environment,  prompts,
-                                       real.system,   real.windows, real.sharedMemory, real.processes,
-                                       real.shell};
+        platform::Platform withPrompts{real.registry, real.files,     real.environment,  prompts,
+                                       real.system,   real.windows,   real.sharedMemory, real.processes,
+                                       real.shell,    real.codePages, real.images};
         platform::Installed installed(withPrompts);
 
         EXPECT_FALSE(WaitedLaunch(program, L"10000 5", L"", SW_HIDE, 300));

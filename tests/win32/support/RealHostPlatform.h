@@ -27,8 +27,9 @@ private:
     platform::win32::Win32HostWindows windows_;
     platform::win32::Win32SharedMemory sharedMemory_;
     platform::win32::Win32Processes processes_;
-    platform::Platform platform_{fake_.registry(), fake_.files(), fake_.environment(), fake_.prompts(), fake_.system(),
-                                 windows_,         sharedMemory_, processes_,          fake_.shell()};
+    platform::Platform platform_{fake_.registry(), fake_.files(),     fake_.environment(), fake_.prompts(),
+                                 fake_.system(),   windows_,          sharedMemory_,       processes_,
+                                 fake_.shell(),    fake_.codePages(), fake_.images()};
     platform::Installed installed_{platform_};
 };
 
