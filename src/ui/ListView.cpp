@@ -22,6 +22,25 @@ int ListView::InsertItem(int row, const std::wstring& text, LPARAM data) const {
     return static_cast<int>(Send(LVM_INSERTITEMW, 0, reinterpret_cast<LPARAM>(&item)));
 }
 
+int ListView::InsertItemInGroup(int row, const std::wstring& text, int groupId, LPARAM data) const {
+    LVITEMW item{};
+    item.mask = LVIF_TEXT | LVIF_PARAM | LVIF_GROUPID;
+    item.iItem = row;
+    item.pszText = const_cast<wchar_t*>(text.c_str());
+    item.lParam = data;
+    item.iGroupId = groupId;
+    return static_cast<int>(Send(LVM_INSERTITEMW, 0, reinterpret_cast<LPARAM>(&item)));
+}
+
+int ListView::InsertGroup(int groupId, const std::wstring& header) const {
+    LVGROUP group{};
+    group.cbSize = sizeof group;
+    group.mask = LVGF_HEADER | LVGF_GROUPID;
+    group.pszHeader = const_cast<wchar_t*>(header.c_str());
+    group.iGroupId = groupId;
+    return static_cast<int>(Send(LVM_INSERTGROUP, static_cast<WPARAM>(-1), reinterpret_cast<LPARAM>(&group)));
+}
+
 // The control copies at most the buffer's size and says how much it copied; a full buffer may mean
 // a longer text, so it is asked again with more room.
 std::wstring ListView::GetItemText(int row, int column) const {

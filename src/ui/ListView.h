@@ -30,6 +30,11 @@ public:
 
     // The new row's index, -1 on failure. data: the row's item data.
     int InsertItem(int row, const std::wstring& text, LPARAM data = 0) const;
+    // The same for a row of a group; rows show under their groups once group view is on.
+    int InsertItemInGroup(int row, const std::wstring& text, int groupId, LPARAM data = 0) const;
+    // Appends a group with its header; the group's index, -1 on failure.
+    int InsertGroup(int groupId, const std::wstring& header) const;
+    void EnableGroupView(bool enable) const { Send(LVM_ENABLEGROUPVIEW, enable ? TRUE : FALSE); }
     bool DeleteItem(int row) const { return Send(LVM_DELETEITEM, static_cast<WPARAM>(row)) != FALSE; }
     void DeleteAllItems() const { Send(LVM_DELETEALLITEMS); }
     int GetItemCount() const { return static_cast<int>(Send(LVM_GETITEMCOUNT)); }
