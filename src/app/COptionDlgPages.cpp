@@ -31,6 +31,8 @@
 #include "pages/COptionOtherDlg.h"
 #include "pages/COptionOverallStyleDlg.h"
 #include "pages/COptionRecentDlg.h"
+#include "pages/COptionTabCommonDlg.h"
+#include "pages/COptionTabStyleDlg.h"
 #include "pages/COptionThumbDlg.h"
 #include "pages/COptionVersionCheckDlg.h"
 
@@ -60,6 +62,7 @@ const std::vector<PageClass>& PageClasses() {
         {4, &Make<COptionMouseActionDlg>},
         {5, &Make<COptionOtherDlg>},
         {7, &Make<COptionRecentDlg>},
+        {8, &Make<COptionTabStyleDlg>},
         {9, &Make<COptionThumbDlg>},
         {13, &Make<COptionListActionDlg>},
         {14, &Make<COptionMouseGestureDlg>},
@@ -73,6 +76,7 @@ const std::vector<PageClass>& PageClasses() {
         {28, &Make<COptionListStateDlg>},
         {29, &Make<COptionListModeStyleDlg>},
         {30, &Make<COptionNetworkDlg>},
+        {31, &Make<COptionTabCommonDlg>},
         {32, &Make<COptionInclimentalSerchDlg>},
         {33, &Make<COptionCustomSort>},
         {34, &Make<COptionVersionCheckDlg>},
