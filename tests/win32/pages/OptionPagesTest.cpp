@@ -241,7 +241,6 @@ TEST_F(OptionPagesTest, ControlsCarryTheirStoredValuesBothWays) {
         // The tab pages: the tab bar's look, and what the tab bars share.
         {8,  1001, Edit,  kTabStyle,   L"WindowTabWidth",  L"120",    L"999",       49008},
         {8,  1001, Edit,  kTabStyle,   L"WindowTabWidth",  L"1000",   nullptr,      0, {}, L"0 and 999"},
-        {8,  1002, Edit,  kTabStyle,   L"WindowTabHeight", L"0",      L"480",       49008},
         {8,  1002, Edit,  kTabStyle,   L"WindowTabHeight", L"0",      L"481",       0, {}, L"0 and 480"},
         {8,  1251, Check, kTabStyle,   L"ActiveBold",      L"1",      L"0",         49008},
         {8,  1253, Check, kTabStyle,   L"TabCloseButton",  L"0",      L"1",         49008},
