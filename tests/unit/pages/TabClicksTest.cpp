@@ -27,18 +27,16 @@ std::vector<std::wstring> NumberLabels() {
 // and any command but the sixteen shows and comes back as closing the tab. Unstored: the default.
 TEST(TabClicks, EachGestureShowsItsCommandAndWritesItUnderItsOwnName) {
     struct Case {
-        const wchar_t* name;
-        int32_t stored;  // 1: never stored
-        const wchar_t* row;
-        int32_t written;
+        const wchar_t *name, *row;
+        int32_t stored, written;  // stored 1: never stored
     };
     const Case cases[] = {
-        {L"TabBarClkD", 35112, L"Dbl", 35112},    {L"TabBarClkDC", 1, L"Dbl+C", 35053},
-        {L"TabBarClkDS", 0, L"Dbl+S", 0},         {L"TabBarClkDSC", 36200, L"Dbl+CS", 36200},
-        {L"TabBarClkR", 12345, L"Right", 35112},  {L"TabBarClkRC", 0x10000 + 35850, L"Right+C", 35850},
-        {L"TabBarClkRS", -1, L"Right+S", 35112},  {L"TabBarClkRSC", 57637, L"Right+CS", 57637},
-        {L"TabBarClkM", 1, L"Mid", 35850},        {L"TabBarClkMC", 33301, L"Mid+C", 33301},
-        {L"TabBarClkMS", 57600, L"Mid+S", 57600}, {L"TabBarClkMSC", 35055, L"Mid+CS", 35055},
+        {L"TabBarClkD", L"Dbl", 35112, 35112},    {L"TabBarClkDC", L"Dbl+C", 1, 35053},
+        {L"TabBarClkDS", L"Dbl+S", 0, 0},         {L"TabBarClkDSC", L"Dbl+CS", 36200, 36200},
+        {L"TabBarClkR", L"Right", 12345, 35112},  {L"TabBarClkRC", L"Right+C", 0x10000 + 35850, 35850},
+        {L"TabBarClkRS", L"Right+S", -1, 35112},  {L"TabBarClkRSC", L"Right+CS", 57637, 57637},
+        {L"TabBarClkM", L"Mid", 1, 35850},        {L"TabBarClkMC", L"Mid+C", 33301, 33301},
+        {L"TabBarClkMS", L"Mid+S", 57600, 57600}, {L"TabBarClkMSC", L"Mid+CS", 35055, 35055},
     };
     platform::fake::FakePlatform fake;
     for (const Case& c : cases)
