@@ -35,6 +35,8 @@
 #include "pages/COptionOtherDlg.h"
 #include "pages/COptionOverallStyleDlg.h"
 #include "pages/COptionRecentDlg.h"
+#include "pages/COptionTabCommonDlg.h"
+#include "pages/COptionTabStyleDlg.h"
 #include "pages/COptionThumbDlg.h"
 #include "pages/COptionPreviewDlg.h"
 #include "pages/COptionScreenSaverDlg.h"
@@ -69,6 +71,7 @@ const std::vector<PageClass>& PageClasses() {
         {5, &Make<COptionOtherDlg>},
         {6, &Make<COptionPreviewDlg>},
         {7, &Make<COptionRecentDlg>},
+        {8, &Make<COptionTabStyleDlg>},
         {9, &Make<COptionThumbDlg>},
         {12, &Make<COptionSkinDlg>},
         {13, &Make<COptionListActionDlg>},
@@ -87,6 +90,7 @@ const std::vector<PageClass>& PageClasses() {
         {28, &Make<COptionListStateDlg>},
         {29, &Make<COptionListModeStyleDlg>},
         {30, &Make<COptionNetworkDlg>},
+        {31, &Make<COptionTabCommonDlg>},
         {32, &Make<COptionInclimentalSerchDlg>},
         {33, &Make<COptionCustomSort>},
         {34, &Make<COptionVersionCheckDlg>},

@@ -71,24 +71,11 @@ bool COptionMouseActionDlg::LoadGroups() {
 }
 
 void COptionMouseActionDlg::FillList() {
-    list_.Send(LVM_ENABLEGROUPVIEW, TRUE);
-    for (size_t group = 0; group < groupNames_.size(); ++group) {
-        std::wstring header = groupNames_[group];
-        LVGROUP item{};
-        item.cbSize = sizeof item;
-        item.mask = LVGF_HEADER | LVGF_GROUPID;
-        item.pszHeader = header.data();
-        item.iGroupId = static_cast<int>(group);
-        list_.Send(LVM_INSERTGROUP, static_cast<WPARAM>(-1), reinterpret_cast<LPARAM>(&item));
-    }
+    list_.EnableGroupView(true);
+    for (size_t group = 0; group < groupNames_.size(); ++group)
+        list_.InsertGroup(static_cast<int>(group), groupNames_[group]);
     for (size_t row = 0; row < table_.size(); ++row) {
-        LVITEMW item{};
-        item.mask = LVIF_TEXT | LVIF_GROUPID;
-        item.iItem = static_cast<int>(row);
-        item.iGroupId = static_cast<int>(row / kRowsPerGroup);
-        std::wstring label = table_.Label(row);
-        item.pszText = label.data();
-        list_.Send(LVM_INSERTITEMW, 0, reinterpret_cast<LPARAM>(&item));
+        list_.InsertGroupedItem(static_cast<int>(row), table_.Label(row), 0, static_cast<int>(row / kRowsPerGroup));
         ShowRow(static_cast<int>(row));
     }
 }

@@ -31,9 +31,13 @@ class ClickTable {
 public:
     ClickTable() = default;
     ClickTable(std::vector<ClickRow> rows, std::vector<std::wstring> actions);
+    // A table whose settings hold a code per action (the host's command number) rather than the
+    // action's place in the list; codes and actions pair up by position, and must be as many.
+    ClickTable(std::vector<ClickRow> rows, std::vector<std::wstring> actions, std::vector<int32_t> codes);
 
-    // Takes the stored values. One outside the actions throws std::invalid_argument: such a value
-    // means the table and the host disagree, and the table is not to be shown half right.
+    // Takes the stored values. Without codes, one outside the actions throws std::invalid_argument:
+    // such a value means the table and the host disagree, and the table is not to be shown half right.
+    // With codes, a code the list lacks shows as the first action, which the next Store writes.
     void Load(const SettingsStore& store);
     void Store(SettingsStore& store) const;
 
@@ -52,5 +56,6 @@ private:
 
     std::vector<ClickRow> rows_;
     std::vector<std::wstring> actions_;
+    std::vector<int32_t> codes_;
     std::vector<int32_t> values_;
 };

@@ -29,6 +29,7 @@ constexpr const wchar_t* kThumb = L"Software\\Tarnwick\\QOR\\Main001\\Thumb";
 constexpr const wchar_t* kRecent = L"Software\\Tarnwick\\QOR\\Main001\\Recent";
 constexpr const wchar_t* kNoUpdate = L"Software\\Tarnwick\\QOR\\Main001\\ListNoUpdate";
 constexpr const wchar_t* kPreView = L"Software\\Tarnwick\\QOR\\Main001\\PreView";
+constexpr const wchar_t* kTabStyle = L"Software\\Tarnwick\\QOR\\Main001\\TabStyle";
 constexpr platform::WindowRef kHost = 0x1234;
 constexpr int kApply = 1301;
 constexpr const wchar_t* kNotInteger = L"Please enter an integer.";
@@ -92,6 +93,7 @@ TEST_F(OptionPagesTest, DialogAndPagesShowTheirOwnWords) {
         {13, 1202, L"汎用型のシェル実行（個別実行、高速、並列処理のため応答待ちが発生しない）"},
         {29, 1270, L"詳細一覧"}, {9, 1253, L"シェルイメージで描画"},
         {25, 1203, L"常に前面に表示・タスクバーに表示しない"}, {6, 1301, L"テキスト表示フォント..."},
+        {31, 1262, L"タブの復元に移動履歴を含める（起動速度が低下します）"}, {8, 1203, L"ドライブアイコン上にドライブレター（視認性が低い、速度が遅い）"},
     };
     // clang-format on
     SetStart(1000);
@@ -259,6 +261,27 @@ TEST_F(OptionPagesTest, ControlsCarryTheirStoredValuesBothWays) {
         {45, 1003, Edit,  kSettings, L"StatusAnimenCount", L"3",        L"255",         49051},
         {45, 1003, Edit,  kSettings, L"StatusAnimenCount", L"0",        nullptr,        0, {}, L"1 and 255"},
         {45, 1201, Radio, kSettings, L"StatusAnimenDrawPos", L"0",      L"2",           49051},
+        // The tab pages: the tab bar's look, and what the tab bars share.
+        {8,  1001, Edit,  kTabStyle,   L"WindowTabWidth",  L"120",    L"999",       49008},
+        {8,  1001, Edit,  kTabStyle,   L"WindowTabWidth",  L"1000",   nullptr,      0, {}, L"0 and 999"},
+        {8,  1002, Edit,  kTabStyle,   L"WindowTabHeight", L"0",      L"481",       0, {}, L"0 and 480"},
+        {8,  1251, Check, kTabStyle,   L"ActiveBold",      L"1",      L"0",         49008},
+        {8,  1253, Check, kTabStyle,   L"TabCloseButton",  L"0",      L"1",         49008},
+        {8,  1254, Check, kTabStyle,   L"MultiLine",       L"1",      L"0",         49008},
+        {8,  1255, Check, kTabStyle,   L"ActiveFlash",     L"1",      L"0",         49008},
+        {8,  1201, Radio, kTabStyle,   L"TabIcon",         L"1",      L"2",         49008},
+        {8,  1151, Combo, kTabStyle,   L"InsertPos",       L"1",      L"3",         49008},
+        {8,  1152, Combo, kTabStyle,   L"InsertParentPos", L"0",      L"2",         49008},
+        {8,  1156, Combo, kTabStyle,   L"LastActiveTab",   L"4",      L"0",         49008},
+        {31, 1255, Check, kTabStyle,   L"SamePathIsChange", L"0",     L"1",         49031},
+        {31, 1258, Check, kTabStyle,   L"SamePathIsClose", L"0",      L"1",         49031},
+        {31, 1259, Check, kTabStyle,   L"DragChange",      L"1",      L"0",         49031},
+        {31, 1251, Check, kTabStyle,   L"Flat",            L"1",      L"0",         49031},
+        {31, 1257, Check, kTabStyle,   L"ActiveStrong",    L"0",      L"1",         49031},
+        {31, 1256, Check, kTabStyle,   L"LastTab",         L"1",      L"0",         49031, {1260, 1261, 1262}},
+        {31, 1260, Check, kTabStyle,   L"LastTabNet",      L"1",      L"0",         49031},
+        {31, 1261, Check, kTabStyle,   L"LastTabVir",      L"0",      L"1",         49031},
+        {31, 1262, Check, kTabStyle,   L"RestoreScriptHistoryLT", L"0", L"1",       49031},
     };
     // clang-format on
     for (const Case& c : cases) {
