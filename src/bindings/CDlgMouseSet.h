@@ -8,6 +8,7 @@
 #include "ui/Dialog.h"
 
 struct AppServices;
+class ClickTable;
 
 class CDlgMouseSet : public ui::Dialog {
 public:
@@ -25,3 +26,7 @@ private:
     AppServices& app_;
     const std::vector<std::wstring>& actions_;
 };
+
+// The change button of a click table's page: the chooser opened on the row, its choice set into the
+// table. "Nothing selected" when row is -1. True when the row took a new action.
+bool ChooseRowAction(AppServices& app, HWND owner, ClickTable& table, int row);

@@ -6,10 +6,8 @@
 #include "app/AppServices.h"
 #include "bindings/CDlgMouseSet.h"
 #include "pages/TabClicks.h"
-#include "platform/Platform.h"
 #include "resources/pages/PageIds.h"
 #include "services/CheckLabelCount.h"
-#include "services/MessageIds.h"
 #include "settings/SettingsGroups.h"
 #include "ui/Button.h"
 #include "ui/ControlText.h"
@@ -84,16 +82,7 @@ void COptionTabCommonDlg::EnableRestoreChecks() const {
 
 void COptionTabCommonDlg::ChangeRow() {
     const int row = list_.GetSelectedRow();
-    if (row < 0) {
-        platform::Current().prompts.ShowMessage(app().messages.Get(kMsgNothingSelected), platform::kStyleOk);
-        return;
-    }
-    CDlgMouseSet chooser(app(), table_.actions());
-    chooser.rowText = table_.Label(static_cast<size_t>(row));
-    chooser.action = table_.Value(static_cast<size_t>(row));
-    if (chooser.DoModal(hwnd()) != IDOK || chooser.action < 0) return;
-    table_.Set(static_cast<size_t>(row), chooser.action);
-    ShowRow(row);
+    if (ChooseRowAction(app(), hwnd(), table_, row)) ShowRow(row);
 }
 
 bool COptionTabCommonDlg::OnCommand(int id, int code) {
