@@ -1,5 +1,6 @@
 #include "pages/COptionUserBarDlg.h"
 
+#include <algorithm>
 #include <stdexcept>
 #include <string>
 #include <vector>
@@ -36,6 +37,14 @@ constexpr int kActionColumnWidth = 150;
 constexpr int kCommandColumnWidth = 160;
 constexpr int kClickGroups = 3;
 
+// A column is as wide as its texts need, and never narrower than it was meant to be: a wider font,
+// or a longer translation, does not cut them.
+constexpr int kCellMargin = 16;
+int FittingWidth(const ui::ListView& list, int width, const std::vector<std::wstring>& texts) {
+    for (const std::wstring& text : texts) width = std::max(width, list.GetStringWidth(text) + kCellMargin);
+    return width;
+}
+
 }  // namespace
 
 COptionUserBarDlg::COptionUserBarDlg(AppServices& app) : OptionPage(IDD_OPTION_USER_BAR, app) {}
@@ -66,7 +75,8 @@ void COptionUserBarDlg::FillSlots(const std::vector<std::wstring>& headers) {
     slots_ = ui::ListView(Item(IDC_USER_BAR_SLOTS));
     slots_.SetExtendedStyle(LVS_EX_FULLROWSELECT, LVS_EX_FULLROWSELECT);
     for (int column = 0; column < kSlotColumns; ++column)
-        slots_.InsertColumn(column, headers[static_cast<size_t>(column)], kSlotColumnWidths[column],
+        slots_.InsertColumn(column, headers[static_cast<size_t>(column)],
+                            FittingWidth(slots_, kSlotColumnWidths[column], {headers[static_cast<size_t>(column)]}),
                             column == kWidthColumn ? LVCFMT_RIGHT : LVCFMT_LEFT);
     const auto& bars = app().store.Bars;
     for (size_t slot = 0; slot < bars.size(); ++slot) {
@@ -81,8 +91,10 @@ void COptionUserBarDlg::FillSlots(const std::vector<std::wstring>& headers) {
 void COptionUserBarDlg::FillClicks() {
     clicks_ = ui::ListView(Item(IDC_USER_BAR_CLICKS));
     clicks_.SetExtendedStyle(LVS_EX_FULLROWSELECT, LVS_EX_FULLROWSELECT);
-    clicks_.InsertColumn(0, L"Action", kActionColumnWidth);
-    clicks_.InsertColumn(1, L"Command", kCommandColumnWidth);
+    std::vector<std::wstring> labels;
+    for (size_t row = 0; row < table_.size(); ++row) labels.push_back(table_.Label(row));
+    clicks_.InsertColumn(0, L"Action", FittingWidth(clicks_, kActionColumnWidth, labels));
+    clicks_.InsertColumn(1, L"Command", FittingWidth(clicks_, kCommandColumnWidth, table_.actions()));
     clicks_.EnableGroupView(true);
     const std::vector<ClickGroup> groups = UserBarClickGroups(app().mouseButtonNames);
     for (int group = 0; group < kClickGroups; ++group)

@@ -15,6 +15,7 @@
 #include "support/OptionWindow.h"
 #include "support/Process.h"
 #include "support/Registry.h"
+#include "support/Screenshot.h"
 
 namespace {
 
@@ -53,6 +54,9 @@ TEST(UserBarPageTest, AFolderRegisteredAsTheFirstBarGetsItsIconAndIsStored) {
     e2e::SetText(editor, 1001, L"道具");
     e2e::SetText(editor, 1002, L"Tools");
     e2e::SetText(editor, 1003, L"120");
+    const fs::path pictures = fs::path(e2e::StageRoot()).parent_path() / L"screenshots";
+    fs::create_directories(pictures);
+    e2e::CaptureWindow(editor, (pictures / L"user-bar-slot.bmp").wstring());
     PostMessageW(editor, WM_COMMAND, MAKEWPARAM(IDOK, BN_CLICKED), 0);
     for (int wait = 0; wait < 500 && IsWindow(editor); ++wait) Sleep(10);
     e2e::WaitUntilDialogIdle(dialog, option.Handle());
