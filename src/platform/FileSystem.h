@@ -100,6 +100,9 @@ public:
     virtual uint32_t Replace(const std::wstring& source, const std::wstring& target) = 0;
     // As DeleteFileW: 0, or the system's error code.
     virtual uint32_t Delete(const std::wstring& path) = 0;
+    // As CopyFileW with fail-if-exists set: a file already at target stays as it is. Returns 0, or
+    // the system's error code (80 when target exists).
+    virtual uint32_t CopyWithoutReplacing(const std::wstring& source, const std::wstring& target) = 0;
 };
 
 }  // namespace platform

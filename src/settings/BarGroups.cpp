@@ -165,7 +165,7 @@ void SaveBars(SettingsStore& store) {
         const UserBar& bar = store.Bars[n];
         store.WriteString(crt::Format(L"Name_%02d", n), bar.Name);
         store.WriteString(crt::Format(L"Dir_%02d", n), bar.Dir);
-        store.WriteInt(crt::Format(L"Width_%02d", n), bar.Width);
+        if (bar.Width) store.WriteInt(crt::Format(L"Width_%02d", n), *bar.Width);
     }
 }
 

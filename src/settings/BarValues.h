@@ -8,6 +8,7 @@
 #include <array>
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <string>
 #include <utility>
 #include <vector>
@@ -93,11 +94,12 @@ struct UBarValues {
     int32_t RestoreScriptHistoryUB = 0;
 };
 
-// One user bar of section "Bar": Name_%02d, Dir_%02d and Width_%02d.
+// One user bar of section "Bar": Name_%02d, Dir_%02d and Width_%02d. A bar without a width leaves
+// whatever width was stored before it in place.
 struct UserBar {
     std::wstring Name;
     std::wstring Dir;
-    int32_t Width = 0;
+    std::optional<int32_t> Width;
     bool operator==(const UserBar&) const = default;
 };
 

@@ -27,6 +27,10 @@ public:
     int GetColumnCount() const { return static_cast<int>(SendMessageW(GetHeader(), HDM_GETITEMCOUNT, 0, 0)); }
     HWND GetHeader() const { return reinterpret_cast<HWND>(Send(LVM_GETHEADER)); }
     void SetColumnWidth(int column, int width) const { Send(LVM_SETCOLUMNWIDTH, static_cast<WPARAM>(column), width); }
+    // The width of the text in the list's font, in pixels; 0 on failure.
+    int GetStringWidth(const std::wstring& text) const {
+        return static_cast<int>(Send(LVM_GETSTRINGWIDTHW, 0, reinterpret_cast<LPARAM>(text.c_str())));
+    }
 
     // The new row's index, -1 on failure. data: the row's item data.
     int InsertItem(int row, const std::wstring& text, LPARAM data = 0) const;

@@ -584,4 +584,16 @@ uint32_t FakeFileSystem::Delete(const std::wstring& path) {
     return 0;
 }
 
+uint32_t FakeFileSystem::CopyWithoutReplacing(const std::wstring& source, const std::wstring& target) {
+    uint32_t error = 0;
+    std::shared_ptr<Node> original = FileToOpen(source, false, error);
+    if (!original) return error;
+    if (original->denyAll > 0) return kErrorSharingViolation;
+    if (Lookup(target)) return kErrorFileExists;
+    std::shared_ptr<Node> copy = FileToOpen(target, true, error);
+    if (!copy) return error;
+    copy->bytes = original->bytes;
+    return 0;
+}
+
 }  // namespace platform::fake

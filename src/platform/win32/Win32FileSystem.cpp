@@ -222,4 +222,8 @@ uint32_t Win32FileSystem::Delete(const std::wstring& path) {
     return DeleteFileW(path.c_str()) ? 0 : GetLastError();
 }
 
+uint32_t Win32FileSystem::CopyWithoutReplacing(const std::wstring& source, const std::wstring& target) {
+    return CopyFileW(source.c_str(), target.c_str(), TRUE) ? 0 : GetLastError();
+}
+
 }  // namespace platform::win32

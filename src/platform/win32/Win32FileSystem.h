@@ -43,6 +43,7 @@ public:
     std::unique_ptr<File> OpenDenyAll(const std::wstring& path, FileAccess access, uint32_t& error) override;
     uint32_t Replace(const std::wstring& source, const std::wstring& target) override;
     uint32_t Delete(const std::wstring& path) override;
+    uint32_t CopyWithoutReplacing(const std::wstring& source, const std::wstring& target) override;
 };
 
 }  // namespace platform::win32

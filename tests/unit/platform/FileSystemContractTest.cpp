@@ -4,6 +4,7 @@
 #include <memory>
 #include <set>
 #include <string>
+#include <tuple>
 #include <vector>
 
 #include "platform/fake/FakeFileSystem.h"
@@ -358,6 +359,23 @@ TEST_P(FileSystemContract, ReplaceAndDeleteTakeOnlyWhatIsFree) {
     ASSERT_TRUE(WriteFile(At(L"open.tmp"), "x"));
     auto open = files().Open(At(L"open.tmp"), FileAccess::Read, false);
     EXPECT_EQ(32u, files().Replace(At(L"open.tmp"), At(L"target1"))) << "the source open";
+}
+
+// A copy that never replaces: the first one makes the file, later ones leave what is there.
+TEST_P(FileSystemContract, CopyWithoutReplacingMakesAFileOnlyWhereNoneIs) {
+    // ERROR_FILE_NOT_FOUND 2, ERROR_PATH_NOT_FOUND 3, ERROR_FILE_EXISTS 80; source, target, error, target after
+    // clang-format off
+    const std::tuple<const wchar_t*, const wchar_t*, uint32_t, const char*> cases[] = {
+        {L"icon", L"copy", 0, "picture"}, {L"icon", L"copy", 80, "picture"}, {L"icon", L"mine", 80, "mine"},
+        {L"icon", L"folder", 80, "<cannot open>"}, {L"missing", L"other", 2, "<cannot open>"},
+        {L"icon", L"nowhere\\copy", 3, "<cannot open>"}};
+    // clang-format on
+    ASSERT_TRUE(WriteFile(At(L"icon"), "picture") && WriteFile(At(L"mine"), "mine"));
+    files().CreateDirectoryTree(At(L"folder"));
+    for (const auto& [source, target, error, after] : cases) {
+        EXPECT_EQ(error, files().CopyWithoutReplacing(At(source), At(target))) << testing::PrintToString(target);
+        EXPECT_EQ(after, ReadFile(At(target)));
+    }
 }
 
 // Long path names expand 8.3 names; short path names use them where there are some.

@@ -30,6 +30,7 @@ constexpr const wchar_t* kRecent = L"Software\\Tarnwick\\QOR\\Main001\\Recent";
 constexpr const wchar_t* kNoUpdate = L"Software\\Tarnwick\\QOR\\Main001\\ListNoUpdate";
 constexpr const wchar_t* kPreView = L"Software\\Tarnwick\\QOR\\Main001\\PreView";
 constexpr const wchar_t* kTabStyle = L"Software\\Tarnwick\\QOR\\Main001\\TabStyle";
+constexpr const wchar_t* kUBar = L"Software\\Tarnwick\\QOR\\Main001\\UBar";
 constexpr platform::WindowRef kHost = 0x1234;
 constexpr int kApply = 1301;
 constexpr const wchar_t* kNotInteger = L"Please enter an integer.";
@@ -94,6 +95,7 @@ TEST_F(OptionPagesTest, DialogAndPagesShowTheirOwnWords) {
         {29, 1270, L"詳細一覧"}, {9, 1253, L"シェルイメージで描画"},
         {25, 1203, L"常に前面に表示・タスクバーに表示しない"}, {6, 1301, L"テキスト表示フォント..."},
         {31, 1262, L"タブの復元に移動履歴を含める（起動速度が低下します）"}, {8, 1203, L"ドライブアイコン上にドライブレター（視認性が低い、速度が遅い）"},
+        {11, 1253, L"複数選択を使用する(次回起動時から有効)"},
     };
     // clang-format on
     SetStart(1000);
@@ -282,6 +284,9 @@ TEST_F(OptionPagesTest, ControlsCarryTheirStoredValuesBothWays) {
         {31, 1260, Check, kTabStyle,   L"LastTabNet",      L"1",      L"0",         49031},
         {31, 1261, Check, kTabStyle,   L"LastTabVir",      L"0",      L"1",         49031},
         {31, 1262, Check, kTabStyle,   L"RestoreScriptHistoryLT", L"0", L"1",       49031},
+        // The user bars.
+        {11, 1151, Combo, kUBar,       L"SortMode",        L"1",      L"3",         49006},
+        {11, 1251, Check, kUBar,       L"RestoreScriptHistoryUB", L"0", L"1",       49006},
     };
     // clang-format on
     for (const Case& c : cases) {

@@ -1,0 +1,72 @@
+// The user bar page in the running program: a folder the user made under "Bar", registered as the first
+// bar through the slot editor, gets its icon at Apply, the slot is stored where the host reads it, and
+// every host hears that the user bars changed.
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <windows.h>
+
+#include <filesystem>
+#include <string>
+
+#include "support/FakeHostProcess.h"
+#include "support/Files.h"
+#include "support/OptionTree.h"
+#include "support/OptionWindow.h"
+#include "support/Process.h"
+#include "support/Registry.h"
+
+namespace {
+
+namespace fs = std::filesystem;
+namespace reg = e2e::registry;
+
+const std::wstring kBar = L"Software\\Tarnwick\\Qor\\Main001\\Bar";
+const std::wstring kUBar = L"Software\\Tarnwick\\Qor\\Main001\\UBar";
+constexpr int kApply = 1301;
+constexpr int kSlots = 1601;
+constexpr int kEditSlot = 1302;
+
+TEST(UserBarPageTest, AFolderRegisteredAsTheFirstBarGetsItsIconAndIsStored) {
+    const fs::path user = fs::temp_directory_path() / ("UserBarPageTest" + std::to_string(GetCurrentProcessId()));
+    fs::remove_all(user);
+    fs::create_directories(user / L"Bar" / L"Tools");
+    fs::copy(fs::path(e2e::StageRoot()) / L"User", user, fs::copy_options::recursive);
+    reg::ScopedKey page{reg::kOptionPage}, settings{reg::kSettings}, bars{kBar}, clicks{kUBar};
+    reg::DeleteKey(kBar);
+    reg::WriteDword(reg::kSettings, L"UserDirMode", 2);
+    reg::WriteString(reg::kSettings, L"UserDir", user.wstring() + L"\\");
+    reg::WriteDword(reg::kOptionPage, L"Start", 11);
+    e2e::FakeHost host;
+    ASSERT_TRUE(host.Window());
+    e2e::Process option = e2e::StartOption();
+    ASSERT_TRUE(option);
+    HWND dialog = e2e::FindVisibleWindow(option.Id(), L"オプション");
+    ASSERT_NE(nullptr, dialog);
+    HWND shown = e2e::PageWith(dialog, kSlots);
+    ASSERT_NE(nullptr, shown);
+    PostMessageW(GetDlgItem(shown, kSlots), WM_KEYDOWN, VK_HOME, 0);
+    e2e::WaitUntilDialogIdle(dialog, option.Handle());
+    PostMessageW(shown, WM_COMMAND, MAKEWPARAM(kEditSlot, BN_CLICKED), 0);
+    HWND editor = e2e::FindVisibleWindow(option.Id(), L"ユーザー定義バーの設定");
+    ASSERT_NE(nullptr, editor);
+    e2e::SetText(editor, 1001, L"道具");
+    e2e::SetText(editor, 1002, L"Tools");
+    e2e::SetText(editor, 1003, L"120");
+    PostMessageW(editor, WM_COMMAND, MAKEWPARAM(IDOK, BN_CLICKED), 0);
+    for (int wait = 0; wait < 500 && IsWindow(editor); ++wait) Sleep(10);
+    e2e::WaitUntilDialogIdle(dialog, option.Handle());
+    e2e::Click(dialog, kApply);
+    EXPECT_THAT(host.Commands(), testing::ElementsAre(48999u, 49006u, 49099u));
+    const std::string icon = e2e::ReadFileBytes((user / L"Bar" / L"Tools.ico").wstring());
+    EXPECT_TRUE(!icon.empty() && icon == e2e::ReadFileBytes(e2e::StageRoot() + L"\\InitTemp\\Bar\\Default.ico"));
+    EXPECT_EQ(L"道具", reg::ReadString(kBar, L"Name_00").value_or(L""));
+    EXPECT_EQ(L"Tools", reg::ReadString(kBar, L"Dir_00").value_or(L""));
+    EXPECT_EQ(120u, reg::ReadDword(kBar, L"Width_00").value_or(0));
+    EXPECT_EQ(2u, reg::ReadDword(kUBar, L"MC").value_or(0)) << "the clicks are stored with the bars";
+    PostMessageW(dialog, WM_COMMAND, MAKEWPARAM(IDCANCEL, BN_CLICKED), 0);
+    option.WaitOrKill();
+    fs::remove_all(user);
+}
+
+}  // namespace
