@@ -1,6 +1,8 @@
 #include <gtest/gtest.h>
 
+#include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "pages/CDetailData.h"
@@ -74,6 +76,48 @@ TEST(FolderRules, ListsAreFullAtTheirLimits) {
     EXPECT_EQ(20u, again.rows(RuleKind::Wildcard).size());
     store.SelectSection(L"FolderInfoEx");
     EXPECT_EQ(L"*\\requested", store.ReadString(L"wp020", L""));
+}
+
+// A folder the host asks for is offered once as an exact rule: what the user accepts goes into the
+// list the user chose, past its limit; a cancel leaves the lists as they were; the request is gone
+// either way.
+TEST(FolderRules, AHostRequestIsOfferedOnceAndTakenPastTheLimits) {
+    FakePlatform fake;
+    // clang-format off
+    struct Case { std::wstring request; bool accept; RuleKind chosen; std::optional<RuleKind> taken;
+                  size_t exact, wildcard; };
+    const Case cases[] = {
+        {L"",                      true,  RuleKind::Exact,    std::nullopt,       500, 20},
+        {State(L"C:\\Asked", 4),   true,  RuleKind::Exact,    RuleKind::Exact,    501, 20},
+        {State(L"C:\\Asked", 4),   true,  RuleKind::Wildcard, RuleKind::Wildcard, 500, 21},
+        {State(L"C:\\Asked", 4),   false, RuleKind::Exact,    std::nullopt,       500, 20},
+    };
+    // clang-format on
+    for (const Case& c : cases) {
+        SCOPED_TRACE(testing::Message() << "request " << c.request.size() << ", accept " << c.accept);
+        FolderRules rules;
+        for (size_t n = 0; n < 500; ++n) rules.Append(RuleKind::Exact, {.path = L"C:\\" + std::to_wstring(n)});
+        for (size_t n = 0; n < 20; ++n) rules.Append(RuleKind::Wildcard, {.path = L"*" + std::to_wstring(n)});
+        std::wstring request = c.request;
+        std::vector<std::pair<RuleKind, FolderState>> offered;
+        const auto taken = rules.ServeHostRequest(request, [&](RuleKind& kind, FolderState& rule) {
+            offered.emplace_back(kind, rule);
+            kind = c.chosen;
+            return c.accept;
+        });
+        EXPECT_EQ(c.taken, taken);
+        EXPECT_EQ(L"", request);
+        EXPECT_EQ(c.request.empty() ? 0u : 1u, offered.size());
+        if (!offered.empty()) {
+            EXPECT_EQ(RuleKind::Exact, offered[0].first);
+            EXPECT_EQ((FolderState{.viewNumber = 4, .path = L"C:\\Asked"}), offered[0].second);
+        }
+        EXPECT_EQ(c.exact, rules.rows(RuleKind::Exact).size());
+        EXPECT_EQ(c.wildcard, rules.rows(RuleKind::Wildcard).size());
+        if (taken) {
+            EXPECT_EQ(L"C:\\Asked", rules.rows(*taken).back().path);
+        }
+    }
 }
 
 // Apply writes "FolderInfo" anew, named by each rule's path, and the patterns from index 0 closed by
