@@ -2,7 +2,6 @@
 
 #include <optional>
 #include <string>
-#include <utility>
 #include <vector>
 
 #include "pages/CDetailData.h"
@@ -52,8 +51,9 @@ TEST(FolderRules, LoadShowsWhatTheHostStored) {
     EXPECT_EQ(10u, rules.rows(RuleKind::Regex).size());
 }
 
-// The add buttons stop at 500, 20 and 10 rows; what the host asks for goes in beyond, and Apply
-// writes it too, while the host reads only the first 20.
+// The add buttons stop at 500, 20 and 10 rows. A folder the host asks for is offered once, as an exact
+// rule: cancelled, it is gone; accepted, it goes into the list the user chose beyond its limit, and
+// Apply writes it too, while the host reads only the first 20.
 TEST(FolderRules, ListsAreFullAtTheirLimits) {
     FakePlatform fake;
     SettingsStore store;
@@ -68,7 +68,22 @@ TEST(FolderRules, ListsAreFullAtTheirLimits) {
         rules.Append(c.kind, {.path = L"C:\\last"});
         EXPECT_TRUE(rules.Full(c.kind));
     }
-    rules.Append(RuleKind::Wildcard, {.path = L"*\\requested"});
+    std::vector<RuleKind> offered;
+    const auto answer = [&offered](bool accept) {
+        return [&offered, accept](RuleKind& kind, FolderState& rule) {
+            offered.push_back(kind);
+            kind = RuleKind::Wildcard;
+            return accept && rule == FolderState{.viewNumber = 4, .path = L"*\\requested"};
+        };
+    };
+    std::wstring request = State(L"*\\requested", 4);
+    EXPECT_EQ(std::nullopt, rules.ServeHostRequest(request, answer(false)));
+    EXPECT_EQ(L"", request);
+    request = State(L"*\\requested", 4);
+    EXPECT_EQ(RuleKind::Wildcard, rules.ServeHostRequest(request, answer(true)));
+    EXPECT_EQ(std::nullopt, rules.ServeHostRequest(request, answer(true)));
+    EXPECT_EQ((std::vector{RuleKind::Exact, RuleKind::Exact}), offered);
+    EXPECT_EQ(21u, rules.rows(RuleKind::Wildcard).size());
     rules.Save(store);
     EXPECT_EQ(500u, ValuesOf(L"FolderInfo").size());
     FolderRules again;
@@ -76,48 +91,6 @@ TEST(FolderRules, ListsAreFullAtTheirLimits) {
     EXPECT_EQ(20u, again.rows(RuleKind::Wildcard).size());
     store.SelectSection(L"FolderInfoEx");
     EXPECT_EQ(L"*\\requested", store.ReadString(L"wp020", L""));
-}
-
-// A folder the host asks for is offered once as an exact rule: what the user accepts goes into the
-// list the user chose, past its limit; a cancel leaves the lists as they were; the request is gone
-// either way.
-TEST(FolderRules, AHostRequestIsOfferedOnceAndTakenPastTheLimits) {
-    FakePlatform fake;
-    // clang-format off
-    struct Case { std::wstring request; bool accept; RuleKind chosen; std::optional<RuleKind> taken;
-                  size_t exact, wildcard; };
-    const Case cases[] = {
-        {L"",                      true,  RuleKind::Exact,    std::nullopt,       500, 20},
-        {State(L"C:\\Asked", 4),   true,  RuleKind::Exact,    RuleKind::Exact,    501, 20},
-        {State(L"C:\\Asked", 4),   true,  RuleKind::Wildcard, RuleKind::Wildcard, 500, 21},
-        {State(L"C:\\Asked", 4),   false, RuleKind::Exact,    std::nullopt,       500, 20},
-    };
-    // clang-format on
-    for (const Case& c : cases) {
-        SCOPED_TRACE(testing::Message() << "request " << c.request.size() << ", accept " << c.accept);
-        FolderRules rules;
-        for (size_t n = 0; n < 500; ++n) rules.Append(RuleKind::Exact, {.path = L"C:\\" + std::to_wstring(n)});
-        for (size_t n = 0; n < 20; ++n) rules.Append(RuleKind::Wildcard, {.path = L"*" + std::to_wstring(n)});
-        std::wstring request = c.request;
-        std::vector<std::pair<RuleKind, FolderState>> offered;
-        const auto taken = rules.ServeHostRequest(request, [&](RuleKind& kind, FolderState& rule) {
-            offered.emplace_back(kind, rule);
-            kind = c.chosen;
-            return c.accept;
-        });
-        EXPECT_EQ(c.taken, taken);
-        EXPECT_EQ(L"", request);
-        EXPECT_EQ(c.request.empty() ? 0u : 1u, offered.size());
-        if (!offered.empty()) {
-            EXPECT_EQ(RuleKind::Exact, offered[0].first);
-            EXPECT_EQ((FolderState{.viewNumber = 4, .path = L"C:\\Asked"}), offered[0].second);
-        }
-        EXPECT_EQ(c.exact, rules.rows(RuleKind::Exact).size());
-        EXPECT_EQ(c.wildcard, rules.rows(RuleKind::Wildcard).size());
-        if (taken) {
-            EXPECT_EQ(L"C:\\Asked", rules.rows(*taken).back().path);
-        }
-    }
 }
 
 // Apply writes "FolderInfo" anew, named by each rule's path, and the patterns from index 0 closed by
