@@ -24,6 +24,7 @@
 #include "pages/COptionListAddressbarDlg.h"
 #include "pages/COptionListAutoUpdateDlg.h"
 #include "pages/COptionListBarDlg.h"
+#include "pages/COptionListInitDlg.h"
 #include "pages/COptionListModeStyleDlg.h"
 #include "pages/COptionListStateDlg.h"
 #include "pages/COptionListStyleDlg.h"
@@ -96,6 +97,7 @@ const std::vector<PageClass>& PageClasses() {
         {32, &Make<COptionInclimentalSerchDlg>},
         {33, &Make<COptionCustomSort>},
         {34, &Make<COptionVersionCheckDlg>},
+        {35, &Make<COptionListInitDlg>},
         {36, &Make<COptionFolderSettingDlg>},
         {37, &Make<COptionOverallStyleDlg>},
         {38, &Make<COptionListBarDlg>},

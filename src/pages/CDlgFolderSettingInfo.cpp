@@ -26,39 +26,37 @@ bool CDlgFolderSettingInfo::OnInitDialog() {
     viewRadio_ = ViewRadioOfNumber(rule.viewNumber);
     const bool focusFirst = ui::Dialog::OnInitDialog();
     ui::LocaliseDialog(hwnd(), templateId(), app_.dialogLanguage);
-    std::vector<std::wstring> labels;
-    ui::SplitControlText(Item(IDC_FOLDER_RULE_SORT_LABELS), labels);
-    if (!CheckLabelCount(kBuiltInSortKeys, labels, IDC_FOLDER_RULE_SORT_LABELS)) return focusFirst;
-    FillSortList();
+    const ui::ListView list(Item(IDC_FOLDER_RULE_SORT_LIST));
+    if (!ShowSortList(app_, list, Item(IDC_FOLDER_RULE_SORT_LABELS), rule.sortKey)) return focusFirst;
+    sortList_ = list;
     if (locked) {
         for (int id = IDC_FOLDER_RULE_KIND; id < IDC_FOLDER_RULE_KIND + 3; ++id) EnableWindow(Item(id), FALSE);
     }
     return focusFirst;
 }
 
-// The built-in orders, then the columns the host shows, then the rest, each under its heading; the
-// row of the rule's key is the one selected.
-void CDlgFolderSettingInfo::FillSortList() {
-    std::vector<std::wstring> labels;
-    ui::SplitControlText(Item(IDC_FOLDER_RULE_SORT_LABELS), labels);
+bool CDlgFolderSettingInfo::ShowSortList(AppServices& app, const ui::ListView& list, HWND labels, int32_t key) {
+    std::vector<std::wstring> parts;
+    ui::SplitControlText(labels, parts);
+    if (!CheckLabelCount(kBuiltInSortKeys, parts, GetDlgCtrlID(labels))) return false;
     CDetailData details;
-    details.Load(app_.store);
-    sortList_ = ui::ListView(Item(IDC_FOLDER_RULE_SORT_LIST));
-    sortList_.SetExtendedStyle(LVS_EX_FULLROWSELECT, LVS_EX_FULLROWSELECT);
-    sortList_.InsertColumn(0, L"Sort", kSortColumnWidth);
+    details.Load(app.store);
+    list.SetExtendedStyle(LVS_EX_FULLROWSELECT, LVS_EX_FULLROWSELECT);
+    list.InsertColumn(0, L"Sort", kSortColumnWidth);
     for (SortGroup group : {SortGroup::System, SortGroup::Visible, SortGroup::Hide})
-        sortList_.InsertGroup(static_cast<int>(group), CDetailData::GroupTitle(group));
-    sortList_.EnableGroupView(true);
+        list.InsertGroup(static_cast<int>(group), CDetailData::GroupTitle(group));
+    list.EnableGroupView(true);
     int row = 0;
     int selected = -1;
-    for (const SortChoice& choice : details.SortChoices(labels)) {
-        if (choice.key == rule.sortKey && selected < 0) selected = row;
-        sortList_.InsertGroupedItem(row++, choice.label, choice.key, static_cast<int>(choice.group));
+    for (const SortChoice& choice : details.SortChoices(parts)) {
+        if (choice.key == key && selected < 0) selected = row;
+        list.InsertGroupedItem(row++, choice.label, choice.key, static_cast<int>(choice.group));
     }
     if (selected >= 0) {
-        sortList_.SelectRow(selected);
-        sortList_.EnsureVisible(selected);
+        list.SelectRow(selected);
+        list.EnsureVisible(selected);
     }
+    return true;
 }
 
 void CDlgFolderSettingInfo::DoDataExchange(ui::DataExchange& exchange) {

@@ -19,6 +19,13 @@ public:
     int32_t kind = 0;    // 0 exact path, 1 wildcard, 2 regular expression
     int32_t locked = 0;  // the kind stays as the caller gave it
 
+    // The sort list, which the list's initial page shows too: the built-in orders named by the hidden
+    // label labelsId, then the columns the host shows, then the rest, each under its heading. The row
+    // of key is selected and focused; a key no row has (a column the shell no longer gives) selects
+    // nothing. False when the hidden label has the wrong count: the user is told and the list stays
+    // empty.
+    static bool ShowSortList(AppServices& app, const ui::ListView& list, HWND labels, int32_t key);
+
 protected:
     bool OnInitDialog() override;
     void DoDataExchange(ui::DataExchange& exchange) override;
@@ -26,7 +33,6 @@ protected:
     void OnOK() override;
 
 private:
-    void FillSortList();
     void Browse();
 
     AppServices& app_;

@@ -98,18 +98,11 @@ bool COptionFolderSettingDlg::LoadGroups() {
     return true;
 }
 
-// The host asked for a folder to be registered: the user settles the rule and its kind, and it goes
-// in whatever the limits; asked once, whatever the answer.
+// The host asked for a folder to be registered; the user settles the rule and its kind.
 void COptionFolderSettingDlg::ServeHostRequest() {
-    if (app().setFolder.empty()) return;
-    FolderState rule;
-    ParseFolderState(app().setFolder, rule);
-    RuleKind kind = RuleKind::Exact;
-    if (EditRule(kind, rule, false)) {
-        rules_.Append(kind, rule);
-        ShowRows(kind, static_cast<int>(rules_.rows(kind).size()) - 1);
-    }
-    app().setFolder.clear();
+    const std::optional<RuleKind> kind = rules_.ServeHostRequest(
+        app().setFolder, [this](RuleKind& k, FolderState& rule) { return EditRule(k, rule, false); });
+    if (kind) ShowRows(*kind, static_cast<int>(rules_.rows(*kind).size()) - 1);
 }
 
 bool COptionFolderSettingDlg::EditRule(RuleKind& kind, FolderState& rule, bool locked) {

@@ -74,6 +74,18 @@ FolderState FolderRules::Rule(RuleKind kind, int row) const {
     return rule;
 }
 
+std::optional<RuleKind> FolderRules::ServeHostRequest(std::wstring& request, const RuleEditor& edit) {
+    if (request.empty()) return std::nullopt;
+    FolderState rule;
+    ParseFolderState(request, rule);
+    RuleKind kind = RuleKind::Exact;
+    const bool accepted = edit(kind, rule);
+    request.clear();
+    if (!accepted) return std::nullopt;
+    Append(kind, rule);
+    return kind;
+}
+
 void FolderRules::Append(RuleKind kind, const FolderState& rule) {
     lists_[Index(kind)].push_back(MakeRow(kind, BuildFolderState(rule)));
 }

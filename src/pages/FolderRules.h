@@ -6,6 +6,8 @@
 
 #include <array>
 #include <cstddef>
+#include <functional>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -43,6 +45,13 @@ public:
     static FolderState NewRule(const SettingsStore& store);
     // The rule of a row for editing; fields the row's string does not hold stay at zero.
     FolderState Rule(RuleKind kind, int row) const;
+
+    // Lets the user settle the rule and its kind; false when the user cancelled.
+    using RuleEditor = std::function<bool(RuleKind& kind, FolderState& rule)>;
+    // The host's request to register a folder (a state string), offered as an exact rule. What the
+    // user accepts goes in whatever the limits; the request is emptied either way, so it is asked
+    // once. The kind of list that took the rule, or nullopt.
+    std::optional<RuleKind> ServeHostRequest(std::wstring& request, const RuleEditor& edit);
 
     void Append(RuleKind kind, const FolderState& rule);
     void Update(RuleKind kind, int row, const FolderState& rule);

@@ -9,7 +9,10 @@ namespace crt {
 
 // _wcsicmp(a, b) == 0 in the "C" locale.
 bool EqualNoCase(std::wstring_view a, std::wstring_view b);
-// _wcsicoll(a, b) == 0: unit by unit on the case-insensitive collation ranks.
+// StrCmpIW(a, b) == 0, as _wcsicoll of the user's locale: the case-insensitive collation ranks of
+// whole strings, where units that weigh nothing (a soft hyphen, a joiner) are passed over and a
+// ligature meets the two letters it stands for ("\u00DF" and "ss"). A letter followed by a combining
+// mark is not taken as its precomposed form.
 bool EqualCollatingNoCase(std::wstring_view a, std::wstring_view b);
 
 }  // namespace crt

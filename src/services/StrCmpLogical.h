@@ -24,6 +24,14 @@ struct CollationRun {
 };
 extern const CollationRun kCollationRuns[];
 extern const size_t kCollationRunCount;
+// A unit that collates as two letters, in ascending order of unit.
+struct CollationExpansion {
+    uint16_t unit;
+    char first;
+    char second;
+};
+extern const CollationExpansion kCollationExpansions[];
+extern const size_t kCollationExpansionCount;
 }  // namespace detail
 
 }  // namespace crt

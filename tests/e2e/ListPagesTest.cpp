@@ -24,6 +24,7 @@ constexpr wchar_t kListAction[] = L"Software\\Tarnwick\\Qor\\Main001\\ListAction
 constexpr wchar_t kMouse[] = L"Software\\Tarnwick\\Qor\\Main001\\Mouse";
 constexpr wchar_t kThumb[] = L"Software\\Tarnwick\\Qor\\Main001\\Thumb";
 constexpr wchar_t kRecent[] = L"Software\\Tarnwick\\Qor\\Main001\\Recent";
+constexpr wchar_t kListInit[] = L"Software\\Tarnwick\\Qor\\Main001\\ListInit";
 
 // What the user does on the page: a button pressed (a check or radio changes with it), a field typed,
 // or an item of a combo picked.
@@ -73,6 +74,7 @@ TEST(ListPages, EachPageStoresItsSectionAndTellsTheHostItsCode) {
         {7,  kRecent, {L"WindowHistory", 30}, {{1001, L"99"}}, {L"WindowHistory", 99}, 49004},
         {27, kListAction, {L"UpdateDelay", 500}, {{1004, L"250"}}, {L"UpdateDelay", 250}, 49027},
         {29, kListDraw, {L"DrawRealName", 4}, {{1265}}, {L"DrawRealName", 20}, 49029},
+        {35, kListInit, {L"ViewMode", 8}, {{1202}}, {L"ViewMode", 5}, 49022},
     };
     // clang-format on
     for (const Case& c : cases) {

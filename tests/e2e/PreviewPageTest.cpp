@@ -51,6 +51,8 @@ TEST(PreviewPage, APluginAddedIsRegisteredWithItsOwnExtensionsAndDeletingAllLeav
     e2e::SetText(editor, kDllName, L"TextPeek.dll");
     e2e::Click(editor, IDOK);
     e2e::WaitUntilDialogIdle(dialog, option.Handle());
+    // The editor goes once its modal loop has ended, which may come after the dialog is idle.
+    for (int wait = 0; IsWindow(editor) && wait < 200; ++wait) Sleep(50);
     ASSERT_FALSE(IsWindow(editor));
     e2e::Click(dialog, kApply);
     EXPECT_EQ(L"TextPeek.dll", Stored(L"Dll0"));

@@ -1,5 +1,6 @@
 // Writes src/services/CollationRanks.cpp: the order in which ChrCmpIW (CompareStringW of the
-// thread locale with NORM_IGNORECASE on one UTF-16 unit each) puts all 65,536 units, as runs.
+// thread locale with NORM_IGNORECASE on one UTF-16 unit each) puts all 65,536 units, as runs, and
+// the units that compare equal to two Latin letters (a ligature such as "\u00DF" to "ss").
 // It needs the real system, so it is run by hand, under Wine or Windows; the win64 preset builds it:
 //   wine build/win64/tools/programs/GenerateCollationRanks.exe > src/services/CollationRanks.cpp
 // It checks the order it found against two million random pairs and fails when any disagrees.
@@ -9,12 +10,39 @@
 #include <cstdint>
 #include <cstdio>
 #include <random>
+#include <string>
 #include <vector>
 
 namespace {
 
 int Compare(wchar_t a, wchar_t b) {
     return CompareStringW(GetThreadLocale(), NORM_IGNORECASE, &a, 1, &b, 1) - CSTR_EQUAL;
+}
+
+int Compare(const std::wstring& a, const std::wstring& b) {
+    return CompareStringW(GetThreadLocale(), NORM_IGNORECASE, a.data(), static_cast<int>(a.size()), b.data(),
+                          static_cast<int>(b.size())) -
+           CSTR_EQUAL;
+}
+
+// Every pair of letters a to z in collation order, searched for each unit.
+void PrintExpansions() {
+    std::vector<std::wstring> pairs;
+    for (wchar_t a = L'a'; a <= L'z'; ++a)
+        for (wchar_t b = L'a'; b <= L'z'; ++b) pairs.push_back({a, b});
+    const auto less = [](const std::wstring& a, const std::wstring& b) { return Compare(a, b) < 0; };
+    std::stable_sort(pairs.begin(), pairs.end(), less);
+    size_t count = 0;
+    printf("const CollationExpansion kCollationExpansions[] = {\n");
+    for (uint32_t c = 1; c < 65536; ++c) {
+        const std::wstring unit(1, static_cast<wchar_t>(c));
+        const auto found = std::lower_bound(pairs.begin(), pairs.end(), unit, less);
+        if (found == pairs.end() || Compare(*found, unit) != 0) continue;
+        printf("%s{0x%04X,'%c','%c'},%s", count % 6 == 0 ? "    " : "", c, static_cast<char>((*found)[0]),
+               static_cast<char>((*found)[1]), count % 6 == 5 ? "\n" : "");
+        ++count;
+    }
+    printf("%s};\nconst size_t kCollationExpansionCount = %zu;\n\n", count % 6 ? "\n" : "", count);
 }
 
 struct Run {
@@ -24,7 +52,7 @@ struct Run {
     uint32_t step;
 };
 
-} // namespace
+}  // namespace
 
 int main() {
     std::vector<wchar_t> units(65536);
@@ -55,8 +83,7 @@ int main() {
     for (uint32_t c = 0; c < 65536;) {
         Run run{c, 1, rank[c], 0};
         if (c + 1 < 65536) run.step = rank[c + 1] == rank[c] + 1 ? 1 : 0;
-        while (run.first + run.length < 65536 &&
-               rank[run.first + run.length] == run.rank + run.step * run.length)
+        while (run.first + run.length < 65536 && rank[run.first + run.length] == run.rank + run.step * run.length)
             ++run.length;
         runs.push_back(run);
         c += run.length;
@@ -71,7 +98,9 @@ int main() {
     for (size_t i = 0; i < runs.size(); ++i)
         printf("%s{%u,%u,%u},%s", i % 8 == 0 ? "    " : "", runs[i].length, runs[i].rank, runs[i].step,
                i % 8 == 7 || i + 1 == runs.size() ? "\n" : "");
-    printf("};\nconst size_t kCollationRunCount = %zu;\n\n} // namespace crt::detail\n", runs.size());
+    printf("};\nconst size_t kCollationRunCount = %zu;\n\n", runs.size());
+    PrintExpansions();
+    printf("} // namespace crt::detail\n");
     fprintf(stderr, "%zu runs, %u ranks\n", runs.size(), next + 1);
     return 0;
 }

@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -50,8 +51,9 @@ TEST(FolderRules, LoadShowsWhatTheHostStored) {
     EXPECT_EQ(10u, rules.rows(RuleKind::Regex).size());
 }
 
-// The add buttons stop at 500, 20 and 10 rows; what the host asks for goes in beyond, and Apply
-// writes it too, while the host reads only the first 20.
+// The add buttons stop at 500, 20 and 10 rows. A folder the host asks for is offered once, as an exact
+// rule: cancelled, it is gone; accepted, it goes into the list the user chose beyond its limit, and
+// Apply writes it too, while the host reads only the first 20.
 TEST(FolderRules, ListsAreFullAtTheirLimits) {
     FakePlatform fake;
     SettingsStore store;
@@ -66,7 +68,22 @@ TEST(FolderRules, ListsAreFullAtTheirLimits) {
         rules.Append(c.kind, {.path = L"C:\\last"});
         EXPECT_TRUE(rules.Full(c.kind));
     }
-    rules.Append(RuleKind::Wildcard, {.path = L"*\\requested"});
+    std::vector<RuleKind> offered;
+    const auto answer = [&offered](bool accept) {
+        return [&offered, accept](RuleKind& kind, FolderState& rule) {
+            offered.push_back(kind);
+            kind = RuleKind::Wildcard;
+            return accept && rule == FolderState{.viewNumber = 4, .path = L"*\\requested"};
+        };
+    };
+    std::wstring request = State(L"*\\requested", 4);
+    EXPECT_EQ(std::nullopt, rules.ServeHostRequest(request, answer(false)));
+    EXPECT_EQ(L"", request);
+    request = State(L"*\\requested", 4);
+    EXPECT_EQ(RuleKind::Wildcard, rules.ServeHostRequest(request, answer(true)));
+    EXPECT_EQ(std::nullopt, rules.ServeHostRequest(request, answer(true)));
+    EXPECT_EQ((std::vector{RuleKind::Exact, RuleKind::Exact}), offered);
+    EXPECT_EQ(21u, rules.rows(RuleKind::Wildcard).size());
     rules.Save(store);
     EXPECT_EQ(500u, ValuesOf(L"FolderInfo").size());
     FolderRules again;

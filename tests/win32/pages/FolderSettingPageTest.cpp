@@ -21,6 +21,7 @@ using namespace optiontest;
 constexpr const wchar_t* kEditorTitle = L"フォルダー設定";
 constexpr const wchar_t* kFolderInfo = L"Software\\Tarnwick\\QOR\\Main001\\FolderInfo";
 constexpr const wchar_t* kFolderInfoEx = L"Software\\Tarnwick\\QOR\\Main001\\FolderInfoEx";
+constexpr const wchar_t* kListInit = L"Software\\Tarnwick\\QOR\\Main001\\ListInit";
 
 std::vector<std::wstring> Column(HWND list, int column) {
     const ui::ListView view(list);
@@ -162,6 +163,45 @@ TEST_F(FolderSettingPageTest, TheButtonsEditTheListsWithinTheirLimits) {
     EXPECT_EQ((std::vector<std::wstring>{L"^r0", L"^r1", L"^r2", L"^r3", L"^r4", L"^r5", L"^r6", L"^r7", L"^r8"}),
               Column(regex, 0));
     EXPECT_EQ(8, ui::ListView(regex).GetSelectedRow()) << "the last removed, the one before it is next";
+}
+
+// The list's initial page shows the stored view as the rule editor does (3 and 8 by the radios of 1
+// and 5, saved so) and the row of the stored order selected; Apply takes the order of the row the user
+// focused, and with none keeps the stored one, even of a column the shell no longer gives. The tree's
+// width is read with the group and never written.
+TEST_F(FolderSettingPageTest, TheListsInitialPageMapsTheViewAndTakesTheFocusedOrder) {
+    constexpr LPARAM kNone = 1000;
+    // clang-format off
+    struct Case { int32_t view, sort; int shown; LPARAM selected; int clicked; LPARAM focused; int32_t savedView,
+                  savedSort; };
+    const Case cases[] = {
+        {8, -9, IDC_LIST_INIT_VIEW_TILES,   -9,    0,                             kNone, 5, -9},
+        {3,  7, IDC_LIST_INIT_VIEW_LIST,    kNone, 0,                             kNone, 1,  7},
+        {4,  7, IDC_LIST_INIT_VIEW_DETAILS, kNone, IDC_LIST_INIT_VIEW_ICONS_ONLY, -5,    7, -5},
+        {0,  2, IDC_LIST_INIT_VIEW_ICONS,   2,     IDC_LIST_INIT_VIEW,            1,     2,  1},
+    };
+    // clang-format on
+    for (const Case& c : cases) {
+        SCOPED_TRACE(testing::Message() << "view " << c.view << ", sort " << c.sort);
+        DirectWriteInt(kListInit, L"ViewMode", c.view);
+        DirectWriteInt(kListInit, L"SortMode", c.sort);
+        SetStart(35);
+        COptionDlg dialog(app_);
+        ASSERT_TRUE(dialog.Create(nullptr));
+        const HWND page = dialog.Page(35)->hwnd();
+        EXPECT_EQ(BST_CHECKED, IsDlgButtonChecked(page, c.shown));
+        const ui::ListView list(GetDlgItem(page, IDC_LIST_INIT_SORT_LIST));
+        const int selected = list.GetSelectedRow();
+        EXPECT_EQ(c.selected, selected < 0 ? kNone : list.GetItemData(selected));
+        if (c.clicked) Click(page, c.clicked);
+        for (int row = 0; row < list.GetItemCount(); ++row) {
+            if (list.GetItemData(row) == c.focused) list.SelectRow(row);
+        }
+        SendMessageW(dialog.hwnd(), WM_COMMAND, MAKEWPARAM(IDC_OPTION_APPLY, BN_CLICKED), 0);
+        EXPECT_EQ(c.savedView, DirectReadInt(kListInit, L"ViewMode", -100));
+        EXPECT_EQ(c.savedSort, DirectReadInt(kListInit, L"SortMode", -100));
+        EXPECT_EQ(-1, DirectReadInt(L"Software\\Tarnwick\\QOR\\Main001\\TreeInfo", L"InsideTreeWidth", -1));
+    }
 }
 
 }  // namespace

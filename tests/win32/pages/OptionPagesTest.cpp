@@ -26,6 +26,7 @@ constexpr const wchar_t* kMouse = L"Software\\Tarnwick\\QOR\\Main001\\Mouse";
 constexpr const wchar_t* kListMouse = L"Software\\Tarnwick\\QOR\\Main001\\ListMouse";
 constexpr const wchar_t* kListInit = L"Software\\Tarnwick\\QOR\\Main001\\ListInit";
 constexpr const wchar_t* kThumb = L"Software\\Tarnwick\\QOR\\Main001\\Thumb";
+constexpr const wchar_t* kTreeInfo = L"Software\\Tarnwick\\QOR\\Main001\\TreeInfo";
 constexpr const wchar_t* kRecent = L"Software\\Tarnwick\\QOR\\Main001\\Recent";
 constexpr const wchar_t* kNoUpdate = L"Software\\Tarnwick\\QOR\\Main001\\ListNoUpdate";
 constexpr const wchar_t* kPreView = L"Software\\Tarnwick\\QOR\\Main001\\PreView";
@@ -246,6 +247,11 @@ TEST_F(OptionPagesTest, ControlsCarryTheirStoredValuesBothWays) {
         {29, 1252, Check, kListInit,   L"TileType",        L"1",      L"0",         49029},
         {29, 1253, Check, kListInit,   L"TileSize",        L"1",      L"0",         49029},
         {29, 1259, Check, kListInit,   L"DetailTypeIsExt", L"0",      L"1",         49029},
+        {35, 1203, Radio, kListInit,   L"IconSize",        L"0",      L"5",         49022},
+        {35, 1201, Radio, kListInit,   L"OrderMode",       L"0",      L"1",         49022},
+        {35, 1251, Check, kListInit,   L"AdvancedFoler",   L"1",      L"0",         49022},
+        {35, 1252, Check, kTreeInfo,   L"InitShowInsideTree", L"0",   L"1",         49022},
+        {35, 1051, Edit,  kListInit,   L"InitPath",        L"C:\\Start", L"D:\\Typed", 49022},
         {6,  1251, Check, kPreView,  L"TestShellImage",   L"0",         L"1",           49003, {1001}},
         {6,  1252, Check, kPreView,  L"PreviewHandler",   L"0",         L"1",           49003},
         {6,  1001, Edit,  kPreView,  L"Ext",              L"png,jpg",   L"webp",        49003},
