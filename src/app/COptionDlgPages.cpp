@@ -38,6 +38,7 @@
 #include "pages/COptionTabCommonDlg.h"
 #include "pages/COptionTabStyleDlg.h"
 #include "pages/COptionThumbDlg.h"
+#include "pages/COptionTreeInfoDlg.h"
 #include "pages/COptionPreviewDlg.h"
 #include "pages/COptionScreenSaverDlg.h"
 #include "pages/COptionSkinDlg.h"
@@ -73,6 +74,7 @@ const std::vector<PageClass>& PageClasses() {
         {7, &Make<COptionRecentDlg>},
         {8, &Make<COptionTabStyleDlg>},
         {9, &Make<COptionThumbDlg>},
+        {10, &Make<COptionTreeInfoDlg>},
         {12, &Make<COptionSkinDlg>},
         {13, &Make<COptionListActionDlg>},
         {14, &Make<COptionMouseGestureDlg>},

@@ -30,6 +30,7 @@ constexpr const wchar_t* kRecent = L"Software\\Tarnwick\\QOR\\Main001\\Recent";
 constexpr const wchar_t* kNoUpdate = L"Software\\Tarnwick\\QOR\\Main001\\ListNoUpdate";
 constexpr const wchar_t* kPreView = L"Software\\Tarnwick\\QOR\\Main001\\PreView";
 constexpr const wchar_t* kTabStyle = L"Software\\Tarnwick\\QOR\\Main001\\TabStyle";
+constexpr const wchar_t* kTreeInfo = L"Software\\Tarnwick\\QOR\\Main001\\TreeInfo";
 constexpr platform::WindowRef kHost = 0x1234;
 constexpr int kApply = 1301;
 constexpr const wchar_t* kNotInteger = L"Please enter an integer.";
@@ -282,6 +283,23 @@ TEST_F(OptionPagesTest, ControlsCarryTheirStoredValuesBothWays) {
         {31, 1260, Check, kTabStyle,   L"LastTabNet",      L"1",      L"0",         49031},
         {31, 1261, Check, kTabStyle,   L"LastTabVir",      L"0",      L"1",         49031},
         {31, 1262, Check, kTabStyle,   L"RestoreScriptHistoryLT", L"0", L"1",       49031},
+        // The folder tree page.
+        {10, 1254, Check, kTreeInfo,   L"TreeAutoScroll",  L"1",      L"0",         49007},
+        {10, 1251, Check, kTreeInfo,   L"NoLine",          L"1",      L"0",         49007, {1252}},
+        {10, 1252, Check, kTreeInfo,   L"LineSel",         L"0",      L"1",         49007},
+        {10, 1259, Check, kTreeInfo,   L"SingleOpen",      L"0",      L"1",         49007},
+        {10, 1260, Check, kTreeInfo,   L"FadeBtn",         L"1",      L"0",         49007},
+        {10, 1253, Check, kTreeInfo,   L"ClassicStyle",    L"0",      L"1",         49007},
+        {10, 1255, Check, kTreeInfo,   L"HiddenItem",      L"1",      L"0",         49007},
+        {10, 1002, Edit,  kTreeInfo,   L"LineSpace",       L"6",      L"100",       49007},
+        {10, 1002, Edit,  kTreeInfo,   L"LineSpace",       L"6",      L"101",       0, {}, L"0 and 100"},
+        {10, 1258, Check, kTreeInfo,   L"CursorOpen",      L"1",      L"0",         49007, {1001}},
+        {10, 1001, Edit,  kTreeInfo,   L"DelayTime",       L"500",    L"3000",      49007},
+        {10, 1001, Edit,  kTreeInfo,   L"DelayTime",       L"500",    L"49",        0, {}, L"50 and 3000"},
+        {10, 1261, Check, kTreeInfo,   L"TreeSync",        L"1",      L"0",         49007, {1262, 1263, 1264}},
+        {10, 1262, Check, kTreeInfo,   L"TreeTabSync",     L"0",      L"1",         49007},
+        {10, 1263, Check, kTreeInfo,   L"TreeVirSync",     L"1",      L"0",         49007},
+        {10, 1264, Check, kTreeInfo,   L"TreeNetSync",     L"0",      L"1",         49007},
     };
     // clang-format on
     for (const Case& c : cases) {
