@@ -39,6 +39,7 @@
 #include "pages/COptionTabCommonDlg.h"
 #include "pages/COptionTabStyleDlg.h"
 #include "pages/COptionThumbDlg.h"
+#include "pages/COptionTreeInfoDlg.h"
 #include "pages/COptionUserBarDlg.h"
 #include "pages/COptionPreviewDlg.h"
 #include "pages/COptionScreenSaverDlg.h"
@@ -75,6 +76,7 @@ const std::vector<PageClass>& PageClasses() {
         {7, &Make<COptionRecentDlg>},
         {8, &Make<COptionTabStyleDlg>},
         {9, &Make<COptionThumbDlg>},
+        {10, &Make<COptionTreeInfoDlg>},
         {11, &Make<COptionUserBarDlg>},
         {12, &Make<COptionSkinDlg>},
         {13, &Make<COptionListActionDlg>},

@@ -1,5 +1,5 @@
-// The shell namespace as the folder pages need it: the detail columns of the desktop folder and the
-// names of virtual folders.
+// The shell namespace as the folder pages need it: the detail columns of the desktop folder, the
+// names of virtual folders and the system's known folders.
 #pragma once
 
 #include <cstdint>
@@ -16,6 +16,14 @@ struct ShellColumn {
     bool operator==(const ShellColumn&) const = default;
 };
 
+// One of the system's known folders: its identifier in hexadecimal groups without braces, and its
+// canonical name.
+struct KnownFolder {
+    std::wstring id;
+    std::wstring name;
+    bool operator==(const KnownFolder&) const = default;
+};
+
 class ShellNamespace {
 public:
     ShellNamespace() = default;
@@ -29,6 +37,12 @@ public:
     // The name a parsing path ("::{...}" and the like) shows in its folder (SHGDN_INFOLDER); nullopt
     // when the shell does not know the path.
     virtual std::optional<std::wstring> InFolderName(const std::wstring& parsingPath) = 0;
+    // The name the address bar shows for a path (SHGDN_FORADDRESSBAR); nullopt when the shell cannot
+    // make an item of it.
+    virtual std::optional<std::wstring> AddressBarName(const std::wstring& path) = 0;
+    // Every known folder the known-folder manager lists, in its order. One it cannot describe is left
+    // out; without a manager the list is empty.
+    virtual std::vector<KnownFolder> KnownFolders() = 0;
 };
 
 }  // namespace platform

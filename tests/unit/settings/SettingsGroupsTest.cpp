@@ -136,6 +136,8 @@ TEST(SettingsGroups, ApplyWritesWhatTheHostReads) {
          {{L"TopNode0", L"B4BFCC3A-DB2C-424C-B029-7FE99A87C641"}, {L"TopNode1", L""}, {L"Caption", std::nullopt}}},
         {"31 roots: 30 are read and the end mark covers the last", G::Tree, L"TreeInfo", roots(31), nothing,
          {{L"TopNode29", L"root 29"}, {L"TopNode30", L""}}},
+        {"an emptied root list: an empty first root", G::Tree, L"TreeInfo", roots(2), [](S& s) { s.TopNode.clear(); },
+         {{L"TopNode0", L""}, {L"TopNode1", L"root 1"}}},
         {"a shorter list hides its old tail", G::AutoUpdate, L"ListNoUpdate",
          {{L"0", L"a"}, {L"1", L"b"}, {L"2", L"c"}, {L"3", L"d"}}, [](S& s) { s.ListNoUpdate = {L"x"}; },
          {{L"0", L"x"}, {L"1", L""}, {L"2", L"c"}, {L"3", L"d"}}},
