@@ -22,8 +22,7 @@ struct AppServices;
 // Answered with 1 and otherwise ignored, whatever the host means by it.
 constexpr UINT kHostProbeMessage = 0x8030;
 
-// The page object that serves a page of the table: its own class once it has one, else a generic
-// page with the page's template.
+// The page object of its own class that serves a page of the table; null for an id of no page.
 std::unique_ptr<OptionPage> MakeOptionPage(const OptionPageInfo& page, AppServices& app);
 
 class COptionDlg : public ui::Dialog, private ApplyPages {

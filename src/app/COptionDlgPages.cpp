@@ -1,5 +1,4 @@
-// Which class serves which page of the option dialog. A page class takes its place by a row here;
-// every page without a row is a generic page with its own (empty) template.
+// Which class serves which page of the option dialog: one row each.
 #include <memory>
 #include <vector>
 
@@ -20,6 +19,7 @@
 #include "pages/COptionCustomSort.h"
 #include "pages/COptionDivListDlg.h"
 #include "pages/COptionInclimentalSerchDlg.h"
+#include "pages/COptionItemClip.h"
 #include "pages/COptionListActionDlg.h"
 #include "pages/COptionListAddressbarDlg.h"
 #include "pages/COptionListAutoUpdateDlg.h"
@@ -37,6 +37,7 @@
 #include "pages/COptionOverallStyleDlg.h"
 #include "pages/COptionRecentDlg.h"
 #include "pages/COptionTabCommonDlg.h"
+#include "pages/COptionTabManage.h"
 #include "pages/COptionTabStyleDlg.h"
 #include "pages/COptionThumbDlg.h"
 #include "pages/COptionTreeInfoDlg.h"
@@ -61,10 +62,6 @@ std::unique_ptr<OptionPage> Make(AppServices& app) {
     return std::make_unique<Page>(app);
 }
 
-std::unique_ptr<OptionPage> MakeGeneric(const OptionPageInfo& page, AppServices& app) {
-    return std::make_unique<OptionPage>(page.templateId, app);
-}
-
 const std::vector<PageClass>& PageClasses() {
     // clang-format off
     static const std::vector<PageClass> classes = {
@@ -81,6 +78,8 @@ const std::vector<PageClass>& PageClasses() {
         {12, &Make<COptionSkinDlg>},
         {13, &Make<COptionListActionDlg>},
         {14, &Make<COptionMouseGestureDlg>},
+        {15, &Make<COptionTabManage>},
+        {16, &Make<COptionItemClip>},
         {17, &Make<COptionIcon>},
         {18, &Make<COptionEventDlg>},
         {19, &Make<COptionSoundDlg>},
@@ -121,5 +120,5 @@ std::unique_ptr<OptionPage> MakeOptionPage(const OptionPageInfo& page, AppServic
     for (const PageClass& row : PageClasses()) {
         if (row.id == page.id) return row.make(app);
     }
-    return MakeGeneric(page, app);
+    return nullptr;
 }

@@ -405,6 +405,7 @@
 #define IDC_LIST_INIT_INSIDE_TREE 1252
 #define IDC_LIST_INIT_SORT_LABELS 1404
 #define IDC_LIST_INIT_SORT_LIST 1601
+
 // The folder tree page: its look, clicks, how it follows the list, and its roots; the root dialog.
 #define IDC_TREE_DELAY_TIME 1001
 #define IDC_TREE_LINE_SPACE 1002

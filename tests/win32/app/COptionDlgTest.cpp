@@ -5,6 +5,7 @@
 #include <functional>
 #include <optional>
 #include <string>
+#include <typeinfo>
 #include <vector>
 
 #include "win32/support/OptionDialogFixture.h"
@@ -69,6 +70,33 @@ TEST_F(COptionDlgTest, OpensOnTheStartItemAndCreatesOnlyWhatItShows) {
             }
         }
         EXPECT_EQ(fake_.windows().MainWindow(), reinterpret_cast<platform::WindowRef>(dialog.hwnd()));
+    }
+}
+
+// Every page is served by its own class, and every tree item of a page opens that page with controls
+// of its own; no item leads to an empty page.
+TEST_F(COptionDlgTest, EveryTreeItemOpensItsOwnPage) {
+    auto className = [](const OptionPage& page) {
+        const std::string name = typeid(page).name();
+        return name.substr(name.find_first_not_of("0123456789"));
+    };
+    SetStart(std::nullopt);
+    COptionDlg dialog(app_);
+    ASSERT_TRUE(dialog.Create(nullptr));
+    for (const OptionPageInfo& info : OptionPages()) {
+        SCOPED_TRACE(info.id);
+        OptionPage* page = dialog.Page(info.id);
+        ASSERT_NE(nullptr, page);
+        const std::wstring expected = info.pageClass;
+        EXPECT_EQ(std::string(expected.begin(), expected.end()), className(*page));
+    }
+    for (const OptionTreeRow& row : OptionTreeRows()) {
+        if (!row.pageClass) continue;
+        SCOPED_TRACE(row.id);
+        Select(dialog, row.id);
+        ASSERT_EQ(dialog.Page(row.id), dialog.CurrentPage());
+        EXPECT_EQ(1, dialog.CurrentPage()->opened);
+        EXPECT_NE(nullptr, FindWindowExW(dialog.CurrentPage()->hwnd(), nullptr, nullptr, nullptr));
     }
 }
 
