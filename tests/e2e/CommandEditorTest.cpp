@@ -80,8 +80,7 @@ TEST_F(CommandEditorTest, CancelKeepsTheListAndOkWritesTheEditedRows) {
     ASSERT_NE(nullptr, editor);
     EXPECT_EQ(3, Rows(editor));
     Edit(editor);
-    PostMessageW(editor, WM_COMMAND, MAKEWPARAM(IDCANCEL, BN_CLICKED), 0);
-    EXPECT_EQ(0u, option.WaitOrKill());
+    EXPECT_EQ(0u, option.CloseDialog(editor));
     EXPECT_EQ(before, e2e::ReadFileBytes(list.wstring()));
 
     option = e2e::StartOption({L"/D", list.wstring()});
@@ -126,13 +125,10 @@ TEST_F(CommandEditorTest, ThePageOpensTheEditorAndApplyTellsTheHost) {
     ASSERT_NE(nullptr, editor);
     EXPECT_NE(std::wstring::npos, e2e::DialogText(editor).find(list.wstring()));
     EXPECT_EQ(3, Rows(editor));
-    // A picture of the editor for people to look at, beside the stage.
-    const fs::path pictures = fs::path(e2e::StageRoot()).parent_path() / L"screenshots";
-    fs::create_directories(pictures);
+    // A picture of the editor for people to look at.
     e2e::WaitUntilDialogIdle(editor, option.Handle());
-    e2e::CaptureWindow(editor, (pictures / L"command-editor.bmp").wstring());
-    PostMessageW(editor, WM_COMMAND, MAKEWPARAM(IDCANCEL, BN_CLICKED), 0);
-    for (int wait = 0; wait < 500 && IsWindow(editor); ++wait) Sleep(10);
+    e2e::CaptureWindow(editor, e2e::PicturePath(L"command-editor.bmp"));
+    e2e::Answer(editor, IDCANCEL);
     e2e::WaitUntilDialogIdle(dialog, option.Handle());
 
     ASSERT_TRUE(e2e::SelectTreeItem(dialog, 25));
@@ -144,8 +140,7 @@ TEST_F(CommandEditorTest, ThePageOpensTheEditorAndApplyTellsTheHost) {
     EXPECT_THAT(host.Commands(), testing::ElementsAre(48999u, 49018u, 49019u, 49099u));
     EXPECT_EQ(3u, reg::ReadDword(reg::kAppInfo, L"StyleMode"));
     EXPECT_EQ(2u, reg::ReadDword(reg::kOptionPage, L"CmdDefMode"));
-    PostMessageW(dialog, WM_COMMAND, MAKEWPARAM(IDCANCEL, BN_CLICKED), 0);
-    option.WaitOrKill();
+    option.CloseDialog(dialog);
 }
 
 }  // namespace

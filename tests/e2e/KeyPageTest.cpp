@@ -33,8 +33,7 @@ const wchar_t* const kKeyFiles[] = {L"CommandMode.key", L"SerchMode.key", L"Mode
 
 // Closes the picker with the button and waits until its modal loop has handed back to the page.
 void ClosePicker(HWND picker, int button, HWND dialog, HANDLE process) {
-    PostMessageW(picker, WM_COMMAND, MAKEWPARAM(button, BN_CLICKED), 0);
-    for (int wait = 0; wait < 500 && IsWindow(picker); ++wait) Sleep(10);
+    e2e::Answer(picker, button);
     e2e::WaitUntilDialogIdle(dialog, process);
 }
 
@@ -97,8 +96,7 @@ TEST_F(KeyPageTest, ABindingFromThePickerReachesTheKeyFilesAndCancelKeepsThem) {
     const std::string mode0 = e2e::ReadFileBytes((user / L"CommandMode.key").wstring());
     EXPECT_EQ(kRefresh, static_cast<unsigned char>(mode0[0]) | static_cast<unsigned char>(mode0[1]) << 8)
         << "key A of the command mode";
-    PostMessageW(dialog, WM_COMMAND, MAKEWPARAM(IDCANCEL, BN_CLICKED), 0);
-    option.WaitOrKill();
+    option.CloseDialog(dialog);
 
     // Clearing a key and cancelling changes no file.
     page = OpenKeyPage();
@@ -108,8 +106,7 @@ TEST_F(KeyPageTest, ABindingFromThePickerReachesTheKeyFilesAndCancelKeepsThem) {
     ASSERT_NE(nullptr, question);
     e2e::Answer(question, IDYES);
     e2e::WaitUntilDialogIdle(dialog, option.Handle());
-    PostMessageW(dialog, WM_COMMAND, MAKEWPARAM(IDCANCEL, BN_CLICKED), 0);
-    option.WaitOrKill();
+    option.CloseDialog(dialog);
     EXPECT_EQ(saved, KeyFiles());
 }
 
@@ -130,8 +127,7 @@ TEST_F(KeyPageTest, CtrlHeldWhileThePickerOpensListsEveryCommand) {
     SendInput(1, &ctrl, sizeof ctrl);
     ASSERT_NE(nullptr, picker);
     ClosePicker(picker, IDCANCEL, dialog, option.Handle());
-    PostMessageW(dialog, WM_COMMAND, MAKEWPARAM(IDCANCEL, BN_CLICKED), 0);
-    option.WaitOrKill();
+    option.CloseDialog(dialog);
     const std::wstring text = e2e::ReadUtf16File(dump.Path());
     EXPECT_TRUE(text.starts_with(L"\uFEFF")) << "no AllCommand.txt";
     EXPECT_NE(std::wstring::npos, text.find(L"33301\t"));

@@ -52,29 +52,10 @@ std::optional<std::map<std::wstring, DWORD>> Numbers(const std::wstring& path) {
     return values;
 }
 
-// Selects a row of another process's list view: the item lives in that process's memory.
-bool SelectRow(HANDLE process, HWND list, int row) {
-    LVITEMW item{};
-    item.stateMask = item.state = LVIS_SELECTED | LVIS_FOCUSED;
-    void* remote = VirtualAllocEx(process, nullptr, sizeof item, MEM_COMMIT, PAGE_READWRITE);
-    if (!remote) return false;
-    const bool done = WriteProcessMemory(process, remote, &item, sizeof item, nullptr) &&
-                      SendMessageW(list, LVM_SETITEMSTATE, row, reinterpret_cast<LPARAM>(remote));
-    VirtualFreeEx(process, remote, 0, MEM_RELEASE);
-    return done;
-}
-
 // Posts a press of a button that may open a modal window, and waits for the window titled so.
 HWND PressFor(HWND window, int id, const e2e::Process& option, const wchar_t* title) {
     PostMessageW(window, WM_COMMAND, MAKEWPARAM(id, BN_CLICKED), 0);
     return e2e::FindVisibleWindow(option.Id(), title);
-}
-
-// Closes a modal window with a button and waits until it has gone.
-bool CloseWith(HWND window, int id) {
-    PostMessageW(window, WM_COMMAND, MAKEWPARAM(id, BN_CLICKED), 0);
-    for (int wait = 0; wait < 500 && IsWindow(window); ++wait) Sleep(10);
-    return !IsWindow(window);
 }
 
 class MousePagesTest : public testing::Test {
@@ -119,8 +100,8 @@ TEST_F(MousePagesTest, AGestureFromTheTrailDialogReachesTheKeyAndDeletingAllLeav
     ASSERT_NE(nullptr, picker);
     e2e::SetText(picker, kPickerId, L"33301");
     e2e::Click(picker, kPickerSearch);
-    ASSERT_TRUE(CloseWith(picker, IDOK));
-    ASSERT_TRUE(CloseWith(trail, IDOK));
+    ASSERT_TRUE(e2e::Answer(picker, IDOK));
+    ASSERT_TRUE(e2e::Answer(trail, IDOK));
     Idle();
     EXPECT_EQ(3, SendMessageW(list, LVM_GETITEMCOUNT, 0, 0));
     e2e::Click(dialog, kApply);
@@ -128,12 +109,11 @@ TEST_F(MousePagesTest, AGestureFromTheTrailDialogReachesTheKeyAndDeletingAllLeav
     EXPECT_EQ((std::map<std::wstring, DWORD>{{L"UD", 33301}, {L"UR", 33301}, {L"Lx", 7}}), Numbers(kGesture));
 
     for (int row = 0; row < 3; ++row) {
-        ASSERT_TRUE(SelectRow(option.Handle(), list, 0));
+        ASSERT_TRUE(e2e::SelectListRow(option.Handle(), list, 0));
         e2e::Click(page, kDelete);
     }
     EXPECT_EQ(0, SendMessageW(list, LVM_GETITEMCOUNT, 0, 0));
-    PostMessageW(dialog, WM_COMMAND, MAKEWPARAM(IDOK, BN_CLICKED), 0);
-    EXPECT_EQ(0u, option.WaitOrKill());
+    EXPECT_EQ(0u, option.CloseDialog(dialog, IDOK));
     EXPECT_EQ((std::map<std::wstring, DWORD>{}), Numbers(kGesture));
 }
 
@@ -171,8 +151,7 @@ TEST_F(MousePagesTest, TheWheelValuesLandWhereTheBlankAreaPageLeftTheStore) {
     EXPECT_EQ(L"", reg::ReadString(kListMouse, L"SpaceDblClk").value_or(L"<absent>"));
     EXPECT_EQ(1u, reg::ReadDword(kListMouse, L"UseWheelCmd").value_or(0));
     EXPECT_EQ(1u, reg::ReadDword(kListMouse, L"AltWheel").value_or(0));
-    PostMessageW(dialog, WM_COMMAND, MAKEWPARAM(IDCANCEL, BN_CLICKED), 0);
-    option.WaitOrKill();
+    option.CloseDialog(dialog);
 }
 
 }  // namespace

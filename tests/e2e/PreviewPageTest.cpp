@@ -65,8 +65,7 @@ TEST(PreviewPage, APluginAddedIsRegisteredWithItsOwnExtensionsAndDeletingAllLeav
     e2e::WaitUntilDialogIdle(dialog, option.Handle());
     e2e::Click(pagePane, kDelete);
     EXPECT_EQ(0, SendMessageW(list, LVM_GETITEMCOUNT, 0, 0));
-    PostMessageW(dialog, WM_COMMAND, MAKEWPARAM(IDOK, BN_CLICKED), 0);
-    EXPECT_EQ(0u, option.WaitOrKill());
+    EXPECT_EQ(0u, option.CloseDialog(dialog, IDOK));
     EXPECT_EQ(L"", Stored(L"Dll0"));
 }
 

@@ -58,23 +58,14 @@ protected:
 
     // Picks the file in the system's open box that the page's button brings up for the row.
     void PickFile(HWND page, int row, const fs::path& file) {
-        LVITEMW item{};
-        item.stateMask = item.state = LVIS_SELECTED | LVIS_FOCUSED;
-        HWND list = GetDlgItem(page, kRows);
-        // The list lives in the other process: the item goes there through memory of its own.
-        HANDLE process = option.Handle();
-        void* remote = VirtualAllocEx(process, nullptr, sizeof(item), MEM_COMMIT, PAGE_READWRITE);
-        WriteProcessMemory(process, remote, &item, sizeof(item), nullptr);
-        SendMessageW(list, LVM_SETITEMSTATE, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(remote));
-        VirtualFreeEx(process, remote, 0, MEM_RELEASE);
+        e2e::SelectListRow(option.Handle(), GetDlgItem(page, kRows), row);
         PostMessageW(page, WM_COMMAND, MAKEWPARAM(kChoose, BN_CLICKED), 0);
         HWND box = e2e::FindWindowOf(option.Id(), [](HWND window) {
             return IsWindowVisible(window) && GetDlgItem(window, kFileBoxName) != nullptr;
         });
         ASSERT_NE(nullptr, box) << "no file box";
         e2e::SetText(box, kFileBoxName, file.wstring().c_str());
-        PostMessageW(box, WM_COMMAND, MAKEWPARAM(IDOK, BN_CLICKED), 0);
-        for (int wait = 0; wait < 500 && IsWindow(box); ++wait) Sleep(10);
+        e2e::Answer(box, IDOK);
         e2e::WaitUntilDialogIdle(dialog, option.Handle());
     }
 
@@ -98,11 +89,8 @@ TEST_F(SkinAndEventPagesTest, ABackgroundChosenThenCancelledLeavesTheRegistryAlo
     SendMessageW(GetDlgItem(background, kPlacedMode), BM_CLICK, 0, 0);
     e2e::SetText(background, kBackgroundX, L"50");
     e2e::SetText(background, kBackgroundY, L"25");
-    PostMessageW(background, WM_COMMAND, MAKEWPARAM(IDOK, BN_CLICKED), 0);
-    for (int wait = 0; wait < 500 && IsWindow(background); ++wait) Sleep(10);
-    EXPECT_FALSE(IsWindow(background)) << "OK refused the background";
-    PostMessageW(dialog, WM_COMMAND, MAKEWPARAM(IDCANCEL, BN_CLICKED), 0);
-    option.WaitOrKill();
+    EXPECT_TRUE(e2e::Answer(background, IDOK)) << "OK refused the background";
+    option.CloseDialog(dialog);
     for (const wchar_t* name : {L"BkImgName", L"SkinName", L"PrgSkin"}) {
         EXPECT_EQ(std::nullopt, reg::ReadString(reg::kSettings, name)) << fs::path(name).string();
     }
@@ -128,8 +116,7 @@ TEST_F(SkinAndEventPagesTest, SoundAndEventFilesAreStoredByTheirBareNames) {
         PickFile(page, c.row, c.file);
         const size_t heard = host.Commands().size();
         e2e::Click(dialog, kApply);
-        PostMessageW(dialog, WM_COMMAND, MAKEWPARAM(IDCANCEL, BN_CLICKED), 0);
-        option.WaitOrKill();
+        option.CloseDialog(dialog);
         EXPECT_EQ(c.file.filename().wstring(), reg::ReadString(c.section, c.value).value_or(L"<none>"));
         // Every row is written, the empty ones too.
         EXPECT_EQ(L"", reg::ReadString(c.section, c.page == 19 ? L"SoundBooting" : L"CmdInitInstance").value_or(L"-"));

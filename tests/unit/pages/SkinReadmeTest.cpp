@@ -1,8 +1,6 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <fstream>
-#include <iterator>
 #include <optional>
 #include <string>
 #include <vector>
@@ -158,29 +156,6 @@ TEST(SkinFolders, LoadingTheGroupsLoadsTheirPictures) {
         EXPECT_EQ(8, store.PrgImageCount);
         EXPECT_EQ(c.animeFrames, store.StatusAnimeImageCount);
         EXPECT_EQ(3u, store.StatusAnimeSprites.size());
-    }
-}
-
-}  // namespace
-
-namespace {
-
-// The sample installation's readmes are written in the encodings skin authors use.
-TEST(SkinReadme, SampleReadmesShowTheirEncodings) {
-    // clang-format off
-    struct Case { const char* folder; uint32_t codePage; };
-    const Case cases[] = {
-        {"img/Default", kCodePageUtf16}, {"img/Sakura", kCodePageShiftJis}, {"img/Mint", kCodePageUtf8},
-        {"StatusImg/Default", kCodePageUtf8}, {"StatusImg/Dots", kCodePageShiftJis},
-        {"StatusAnime/Firefly", kCodePageUtf16}, {"StatusAnime/Leaves", kCodePageShiftJis},
-    };
-    // clang-format on
-    for (const Case& c : cases) {
-        std::ifstream file(std::string(OPTION_SOURCE_DIR) + "/sample/" + c.folder + "/Readme.txt", std::ios::binary);
-        const Bytes bytes((std::istreambuf_iterator<char>(file)), std::istreambuf_iterator<char>());
-        ASSERT_FALSE(bytes.empty()) << c.folder;
-        const std::wstring units = RawUnits(bytes);
-        EXPECT_EQ(c.codePage, DetectCodePage(Utf16Bytes(units))) << c.folder;
     }
 }
 

@@ -33,7 +33,6 @@ constexpr const wchar_t* kPreView = L"Software\\Tarnwick\\QOR\\Main001\\PreView"
 constexpr const wchar_t* kTabStyle = L"Software\\Tarnwick\\QOR\\Main001\\TabStyle";
 constexpr const wchar_t* kUBar = L"Software\\Tarnwick\\QOR\\Main001\\UBar";
 constexpr platform::WindowRef kHost = 0x1234;
-constexpr int kApply = 1301;
 constexpr const wchar_t* kNotInteger = L"Please enter an integer.";
 constexpr const wchar_t* kNotPositive = L"Please enter a positive integer.";
 
@@ -48,34 +47,8 @@ protected:
             fake_.files().AddDirectory(folder);
     }
 
-    // The dialog opened on the page, and the page's window.
-    HWND Open(COptionDlg& dialog, int page) {
-        SetStart(page);
-        if (!dialog.Create(nullptr)) return nullptr;
-        return dialog.Page(page) ? dialog.Page(page)->hwnd() : nullptr;
-    }
-
-    // What the host heard from the given point on, without the brackets of each series.
-    std::vector<uint16_t> Codes(size_t from = 0) {
-        std::vector<uint16_t> codes;
-        const auto& sent = fake_.windows().commands();
-        for (size_t i = from; i < sent.size(); ++i)
-            if (sent[i].id != 48999 && sent[i].id != 49099) codes.push_back(sent[i].id);
-        return codes;
-    }
-
-    std::vector<std::wstring> Messages(size_t from = 0) {
-        std::vector<std::wstring> texts;
-        const auto& shown = fake_.prompts().shown();
-        for (size_t i = from; i < shown.size(); ++i) texts.push_back(shown[i].text);
-        return texts;
-    }
-
     std::wstring Field(HWND page, int id) const { return TextOf(GetDlgItem(page, id)); }
     void Type(HWND page, int id, const wchar_t* text) const { SetWindowTextW(GetDlgItem(page, id), text); }
-    // As the user's click arrives: the check changes, then the page hears of it.
-    void Click(HWND page, int id) const { SendMessageW(GetDlgItem(page, id), BM_CLICK, 0, 0); }
-    void Apply(COptionDlg& dialog) const { SendMessageW(dialog.hwnd(), WM_COMMAND, MAKEWPARAM(kApply, BN_CLICKED), 0); }
 };
 
 // Each page opens from the tree with the words that translators and the manual go by, a few of each.
