@@ -5,7 +5,6 @@
 
 #include <windows.h>
 
-#include <string>
 
 #include "support/FakeHostProcess.h"
 #include "support/OptionTree.h"

@@ -6,7 +6,6 @@
 #include <optional>
 #include <source_location>
 #include <string>
-#include <utility>
 #include <vector>
 
 #include "Handles.h"

@@ -2,7 +2,6 @@
 #include <gtest/gtest.h>
 #include <windows.h>
 
-#include <functional>
 
 #include "bindings/COptionKeySetting.h"
 #include "bindings/DefaultKeyTables.h"

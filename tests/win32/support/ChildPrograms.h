@@ -5,7 +5,6 @@
 #include <windows.h>
 
 #include <string>
-#include <vector>
 
 #include "e2e/support/FakeHostProcess.h"
 #include "e2e/support/Files.h"
