@@ -153,14 +153,4 @@ bool SelectFolder(HANDLE process, HWND browser, const std::wstring& path) {
     return SendSelection(process, browser, TRUE, path.c_str(), (path.size() + 1) * sizeof(wchar_t), name);
 }
 
-bool SelectMyComputer(HANDLE process, HWND browser) {
-    PIDLIST_ABSOLUTE computer = nullptr;
-    if (FAILED(SHGetSpecialFolderLocation(nullptr, CSIDL_DRIVES, &computer))) return false;
-    SHFILEINFOW info = {};
-    SHGetFileInfoW(reinterpret_cast<const wchar_t*>(computer), 0, &info, sizeof info, SHGFI_PIDL | SHGFI_DISPLAYNAME);
-    bool sent = SendSelection(process, browser, FALSE, computer, ILGetSize(computer), info.szDisplayName);
-    CoTaskMemFree(computer);
-    return sent;
-}
-
 }  // namespace e2e
