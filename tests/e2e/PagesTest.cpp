@@ -1,5 +1,7 @@
 // Pages in the running program: each opens as the page to start on, takes one change as a user makes
-// it, and Apply stores it in the page's section and tells the host what to reread.
+// it, and Apply stores it in the page's section of the real registry and tells a running host what to
+// reread. The pages' own rules are the in-process page tests'; the rows here are those whose values
+// take a way of their own (bits, a text, a combo, values the page rewrites).
 #include <gtest/gtest.h>
 
 #include <windows.h>
@@ -19,11 +21,7 @@ namespace reg = e2e::registry;
 
 constexpr int kApply = 1301;
 constexpr wchar_t kListDraw[] = L"Software\\Tarnwick\\Qor\\Main001\\ListDraw";
-constexpr wchar_t kListAction[] = L"Software\\Tarnwick\\Qor\\Main001\\ListAction";
 constexpr wchar_t kMouse[] = L"Software\\Tarnwick\\Qor\\Main001\\Mouse";
-constexpr wchar_t kThumb[] = L"Software\\Tarnwick\\Qor\\Main001\\Thumb";
-constexpr wchar_t kRecent[] = L"Software\\Tarnwick\\Qor\\Main001\\Recent";
-constexpr wchar_t kListInit[] = L"Software\\Tarnwick\\Qor\\Main001\\ListInit";
 constexpr wchar_t kTabStyle[] = L"Software\\Tarnwick\\Qor\\Main001\\TabStyle";
 constexpr wchar_t kColor[] = L"Software\\Tarnwick\\Qor\\Main001\\Color";
 
@@ -52,30 +50,14 @@ std::wstring Read(const wchar_t* section, const Value& value) {
     return number ? std::to_wstring(*number) : L"<absent>";
 }
 
-TEST(ListPages, EachPageStoresItsSectionAndTellsTheHostItsCode) {
+TEST(Pages, EachPageStoresItsSectionAndTellsTheHostItsCode) {
     // clang-format off
     struct Case { int page; const wchar_t* section; Value stored; std::vector<Change> changes; Value applied;
                   unsigned code; };
     const Case cases[] = {
-        {28, kListDraw, {L"ListCtrls", 0xFFFFFFFF}, {{1306}}, {L"StNoSel", 0, L"%AllCount% Objects%AllSize% %DiskInfo%"}, 49028},
         {28, kListDraw, {L"ListCtrls", 0xFFFFFFFF}, {{1260}}, {L"ListCtrls", 5}, 49028},
-        {32, reg::kAppInfo, {L"IncliMentTime", 1000}, {{1001, L"2500"}}, {L"IncliMentTime", 2500}, 49032},
-        {38, kListAction, {L"SpcIsOR", 1}, {{1251}}, {L"SpcIsOR", 0}, 49035},
-        {40, kMouse, {L"ContextMenu", 0xFFFFFFFF}, {}, {L"ContextMenu", 0x33333FFF}, 49037},
         {40, kMouse, {L"ContextMenu", 0x33333333}, {{1252}}, {L"ContextMenu", 0x33333331}, 49037},
-        {41, kListAction, {L"DivCompare", 0}, {{1255}}, {L"DivCompare", 1}, 49038},
-        {44, kListDraw, {L"AddressBarDblClk", 4}, {{1202}}, {L"AddressBarDblClk", 1}, 49034},
-        {3,  kListDraw, {L"FastOnly", 0}, {{1257}}, {L"FastOnly", 1}, 49000},
-        {3,  kListDraw, {L"ListViewOtherStyle", 6}, {}, {L"ListViewOtherStyle", 4}, 49000},
         {3,  kListDraw, {L"TimeFmt", 0, L"yyyy"}, {{1152, L"H:mm d/M"}}, {L"TimeFmt", 0, L"H:mm d/M"}, 49000},
-        {13, kListAction, {L"NaviLockOpenMode", 2}, {{1155, nullptr, 3}}, {L"NaviLockOpenMode", 3}, 49000},
-        {33, kListDraw, {L"CustomSortFlag", 0x31034}, {{1257}}, {L"CustomSortFlag", 0x3103C}, 49000},
-        {9,  kThumb, {L"ImgSize0", 40}, {}, {L"ImgSize0", 32}, 49002},
-        {9,  kThumb, {L"ImgSize1", 64}, {{1152, nullptr, 0}}, {L"ImgSize1", 16}, 49002},
-        {7,  kRecent, {L"WindowHistory", 30}, {{1001, L"99"}}, {L"WindowHistory", 99}, 49004},
-        {27, kListAction, {L"UpdateDelay", 500}, {{1004, L"250"}}, {L"UpdateDelay", 250}, 49027},
-        {29, kListDraw, {L"DrawRealName", 4}, {{1265}}, {L"DrawRealName", 20}, 49029},
-        {35, kListInit, {L"ViewMode", 8}, {{1202}}, {L"ViewMode", 5}, 49022},
         // A right click command the page does not offer is written back as closing the tab.
         {31, kTabStyle, {L"TabBarClkR", 12345}, {}, {L"TabBarClkR", 35112}, 49031},
         // A skin the colour page does not know is stored as the first one.
