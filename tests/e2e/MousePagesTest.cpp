@@ -28,7 +28,6 @@ const std::wstring kListMouse = std::wstring(kMain) + L"ListMouse";
 constexpr int kApply = 1301;
 constexpr int kGestureList = 1601;
 constexpr int kAdd = 1302;
-constexpr int kDelete = 1304;
 constexpr int kUp = 1301;
 constexpr int kRight = 1303;
 constexpr int kPick = 1307;
@@ -76,7 +75,7 @@ protected:
     HWND dialog = nullptr;
 };
 
-TEST_F(MousePagesTest, AGestureFromTheTrailDialogReachesTheKeyAndDeletingAllLeavesItEmpty) {
+TEST_F(MousePagesTest, AGestureFromTheTrailDialogReachesTheKey) {
     reg::DeleteKey(kGesture);
     reg::WriteDword(kGesture, L"UD", 33301);
     reg::WriteDword(kGesture, L"Lx", 7);
@@ -107,14 +106,7 @@ TEST_F(MousePagesTest, AGestureFromTheTrailDialogReachesTheKeyAndDeletingAllLeav
     e2e::Click(dialog, kApply);
     EXPECT_THAT(host.Commands(), testing::ElementsAre(48999u, 49016u, 49099u));
     EXPECT_EQ((std::map<std::wstring, DWORD>{{L"UD", 33301}, {L"UR", 33301}, {L"Lx", 7}}), Numbers(kGesture));
-
-    for (int row = 0; row < 3; ++row) {
-        ASSERT_TRUE(e2e::SelectListRow(option.Handle(), list, 0));
-        e2e::Click(page, kDelete);
-    }
-    EXPECT_EQ(0, SendMessageW(list, LVM_GETITEMCOUNT, 0, 0));
-    EXPECT_EQ(0u, option.CloseDialog(dialog, IDOK));
-    EXPECT_EQ((std::map<std::wstring, DWORD>{}), Numbers(kGesture));
+    option.CloseDialog(dialog);
 }
 
 // The wheel page stores its two values wherever the blank-area page left the store: both applied,
