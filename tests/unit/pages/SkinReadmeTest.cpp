@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <optional>
 #include <string>
+#include <tuple>
 #include <vector>
 
 #include "pages/SkinFolders.h"
@@ -151,11 +152,9 @@ TEST(SkinFolders, LoadingTheGroupsLoadsTheirPictures) {
         store.WriteString(L"StatusAnimeSkin", c.anime);
         LoadGroup(store, SettingsGroup::Skin);
         LoadGroup(store, SettingsGroup::StatusAnime);
-        EXPECT_EQ(c.picture, store.BkImage != nullptr);
-        EXPECT_EQ(c.thumbnails, static_cast<int>(fake.images().thumbnails().size()));
-        EXPECT_EQ(8, store.PrgImageCount);
-        EXPECT_EQ(c.animeFrames, store.StatusAnimeImageCount);
-        EXPECT_EQ(3u, store.StatusAnimeSprites.size());
+        EXPECT_EQ(std::tuple(c.picture, c.thumbnails, 8, c.animeFrames, size_t{3}),
+                  std::tuple(store.BkImage != nullptr, static_cast<int>(fake.images().thumbnails().size()),
+                             store.PrgImageCount, store.StatusAnimeImageCount, store.StatusAnimeSprites.size()));
     }
 }
 
