@@ -92,7 +92,7 @@ TEST(Pages, EachPageStoresItsSectionAndTellsTheHostItsCode) {
         }
         e2e::Click(dialog, kApply);
         EXPECT_EQ(Read(c.section, c.applied), c.applied.text ? c.applied.text : std::to_wstring(c.applied.number));
-        EXPECT_EQ(c.code ? std::vector<unsigned>{48999, c.code, 49099} : std::vector<unsigned>{48999, 49099},
+        EXPECT_EQ((c.code ? std::vector<unsigned>{48999, c.code, 49099} : std::vector<unsigned>{48999, 49099}),
                   host.Commands());
         EXPECT_EQ(0u, option.CloseDialog(dialog));
     }

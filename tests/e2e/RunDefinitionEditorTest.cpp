@@ -29,7 +29,8 @@ TEST(RunDefinitionEditor, ASavedChangeIsWhatTheHostReadsAndCancelWritesNothing) 
     e2e::FakeHost host;
     ASSERT_TRUE(host.Window());
     const fs::path folder = fs::temp_directory_path() / ("RunDefinitionEditor" + std::to_string(GetCurrentProcessId()));
-    for (const wchar_t* switchText : {L"/R", L"/r", L"/E", L"/e"}) {
+    // Each editor once, one saved and one cancelled; the switch in either case.
+    for (const wchar_t* switchText : {L"/R", L"/e"}) {
         SCOPED_TRACE(switchText);
         const bool run = std::towupper(switchText[1]) == L'R';
         const bool save = std::iswupper(switchText[1]);
