@@ -103,7 +103,7 @@ TEST_F(CommandPickerTest, TheKeyPageBindsARowThroughThePicker) {
     EXPECT_EQ((std::pair<std::wstring, LPARAM>{L"詳細表示", 32811}),
               (std::pair{list.GetItemText(1, 1), list.GetItemData(1)}));
 
-    SendMessageW(dialog.hwnd(), WM_COMMAND, MAKEWPARAM(1301, BN_CLICKED), 0);
+    Apply(dialog);
     KeyTableSet saved;
     LoadKeyTables(app_.directories.UserDirectory(), saved);
     EXPECT_EQ(32811, saved.Word(0, kModifierNone, 1));
@@ -163,7 +163,7 @@ TEST_F(CommandPickerTest, AKeyPageWithoutItsNineSetNamesStaysOutOfApply) {
     COptionDlg dialog(app_);
     ASSERT_TRUE(dialog.Create(nullptr));
     EXPECT_EQ(0, dialog.Page(2)->opened);
-    SendMessageW(dialog.hwnd(), WM_COMMAND, MAKEWPARAM(1301, BN_CLICKED), 0);
+    Apply(dialog);
     EXPECT_EQ((std::vector<ShownMessage>{{L"String of 2 is required ID:1403, but it has become 9", 0}}),
               fake_.prompts().shown());
     std::vector<uint8_t> keys;

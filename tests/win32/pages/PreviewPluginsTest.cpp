@@ -144,7 +144,7 @@ TEST_F(PreviewPageTest, TheListIsEditedInMemoryAndRegisteredAtApply) {
     }
     Click(page, 1301);
     EXPECT_EQ(std::vector<unsigned>{0x1800401}, fake_.prompts().fontOpenings());
-    SendMessageW(dialog.hwnd(), WM_COMMAND, MAKEWPARAM(1301, BN_CLICKED), 0);
+    Apply(dialog);
     EXPECT_EQ(L"Peek.dll", DirectReadString(kPluginSection, L"Dll0", L"?"));
     EXPECT_EQ(L"txt,log", DirectReadString(kPluginSection, L"Ext0", L"?"));
     EXPECT_EQ(L"", DirectReadString(kPluginSection, L"Dll1", L"?"));
