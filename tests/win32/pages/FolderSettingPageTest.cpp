@@ -119,10 +119,9 @@ TEST_F(FolderSettingPageTest, TheButtonsEditTheListsWithinTheirLimits) {
                           BuildFolderState({.path = L"^r" + std::to_wstring(n)}));
     }
     DirectWriteInt(L"Software\\Tarnwick\\QOR\\Main001\\ListInit", L"AdvancedFoler", 0);
-    SetStart(36);
     COptionDlg dialog(app_);
-    ASSERT_TRUE(dialog.Create(nullptr));
-    const HWND page = dialog.Page(36)->hwnd();
+    const HWND page = Open(dialog, 36);
+    ASSERT_NE(nullptr, page);
     const HWND exact = GetDlgItem(page, IDC_FOLDER_EXACT_LIST), regex = GetDlgItem(page, IDC_FOLDER_REGEX_LIST);
 
     Click(page, IDC_FOLDER_REGEX_ADD);
@@ -173,10 +172,9 @@ TEST_F(FolderSettingPageTest, TheListsInitialPageMapsTheViewAndTakesTheFocusedOr
         SCOPED_TRACE(testing::Message() << "view " << c.view << ", sort " << c.sort);
         DirectWriteInt(kListInit, L"ViewMode", c.view);
         DirectWriteInt(kListInit, L"SortMode", c.sort);
-        SetStart(35);
         COptionDlg dialog(app_);
-        ASSERT_TRUE(dialog.Create(nullptr));
-        const HWND page = dialog.Page(35)->hwnd();
+        const HWND page = Open(dialog, 35);
+        ASSERT_NE(nullptr, page);
         EXPECT_EQ(BST_CHECKED, IsDlgButtonChecked(page, c.shown));
         const ui::ListView list(GetDlgItem(page, IDC_LIST_INIT_SORT_LIST));
         const int selected = list.GetSelectedRow();
