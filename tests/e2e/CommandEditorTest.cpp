@@ -1,7 +1,7 @@
 // The command definition editor in the running program: "/D" on a copy of a sample command list,
 // where Cancel leaves the file as it was and OK, once the user agrees, writes the edited rows; and
-// the command definition page, which opens the same editor in its own mode, and whose Apply, with the
-// external commands page, tells the host what to reread.
+// the command definition page, which opens the same editor in its own mode, and whose Apply tells the
+// host what to reread.
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -31,11 +31,6 @@ constexpr int kDragAndDrop = 1202;
 constexpr int kSelectedItems = 1252;
 constexpr int kAdd = 1302;
 constexpr int kScriptCommands = 1304;
-constexpr int kModal = 1204;
-
-void Send(HWND dialog, int id, UINT message, WPARAM wParam = 0, LPARAM lParam = 0) {
-    SendMessageW(GetDlgItem(dialog, id), message, wParam, lParam);
-}
 
 int Rows(HWND editor) {
     return static_cast<int>(SendMessageW(GetDlgItem(editor, kList), LVM_GETITEMCOUNT, 0, 0));
@@ -58,9 +53,9 @@ protected:
         HWND rows = GetDlgItem(editor, kList);
         PostMessageW(rows, WM_KEYDOWN, VK_HOME, 0);
         for (int wait = 0; wait < 500 && SendMessageW(rows, LVM_GETNEXTITEM, -1, LVNI_SELECTED) != 0; ++wait) Sleep(10);
-        Send(editor, kComment, WM_SETTEXT, 0, reinterpret_cast<LPARAM>(L"Copy names"));
-        Send(editor, kDragAndDrop, BM_CLICK);
-        Send(editor, kSelectedItems, BM_CLICK);
+        e2e::SetText(editor, kComment, L"Copy names");
+        SendDlgItemMessageW(editor, kDragAndDrop, BM_CLICK, 0, 0);
+        SendDlgItemMessageW(editor, kSelectedItems, BM_CLICK, 0, 0);
         e2e::Click(editor, kAdd);
         EXPECT_EQ(4, Rows(editor));
     }
@@ -80,8 +75,7 @@ TEST_F(CommandEditorTest, CancelKeepsTheListAndOkWritesTheEditedRows) {
     ASSERT_NE(nullptr, editor);
     EXPECT_EQ(3, Rows(editor));
     Edit(editor);
-    PostMessageW(editor, WM_COMMAND, MAKEWPARAM(IDCANCEL, BN_CLICKED), 0);
-    EXPECT_EQ(0u, option.WaitOrKill());
+    EXPECT_EQ(0u, option.CloseDialog(editor));
     EXPECT_EQ(before, e2e::ReadFileBytes(list.wstring()));
 
     option = e2e::StartOption({L"/D", list.wstring()});
@@ -113,7 +107,6 @@ TEST_F(CommandEditorTest, ThePageOpensTheEditorAndApplyTellsTheHost) {
     reg::WriteString(reg::kSettings, L"UserDir", user.wstring() + L"\\");
     reg::WriteDword(reg::kOptionPage, L"Start", 23);
     reg::WriteDword(reg::kOptionPage, L"CmdDefMode", 2);
-    reg::WriteDword(reg::kAppInfo, L"StyleMode", 0);
     e2e::FakeHost host;
     ASSERT_TRUE(host.Window());
     option = e2e::StartOption();
@@ -126,26 +119,16 @@ TEST_F(CommandEditorTest, ThePageOpensTheEditorAndApplyTellsTheHost) {
     ASSERT_NE(nullptr, editor);
     EXPECT_NE(std::wstring::npos, e2e::DialogText(editor).find(list.wstring()));
     EXPECT_EQ(3, Rows(editor));
-    // A picture of the editor for people to look at, beside the stage.
-    const fs::path pictures = fs::path(e2e::StageRoot()).parent_path() / L"screenshots";
-    fs::create_directories(pictures);
+    // A picture of the editor for people to look at.
     e2e::WaitUntilDialogIdle(editor, option.Handle());
-    e2e::CaptureWindow(editor, (pictures / L"command-editor.bmp").wstring());
-    PostMessageW(editor, WM_COMMAND, MAKEWPARAM(IDCANCEL, BN_CLICKED), 0);
-    for (int wait = 0; wait < 500 && IsWindow(editor); ++wait) Sleep(10);
+    e2e::CaptureWindow(editor, e2e::PicturePath(L"command-editor.bmp"));
+    e2e::Answer(editor, IDCANCEL);
     e2e::WaitUntilDialogIdle(dialog, option.Handle());
 
-    ASSERT_TRUE(e2e::SelectTreeItem(dialog, 25));
-    e2e::WaitUntilDialogIdle(dialog, option.Handle());
-    HWND external = e2e::PageWith(dialog, kModal);
-    ASSERT_NE(nullptr, external);
-    Send(external, kModal, BM_CLICK);
     e2e::Click(dialog, kApply);
-    EXPECT_THAT(host.Commands(), testing::ElementsAre(48999u, 49018u, 49019u, 49099u));
-    EXPECT_EQ(3u, reg::ReadDword(reg::kAppInfo, L"StyleMode"));
+    EXPECT_THAT(host.Commands(), testing::ElementsAre(48999u, 49018u, 49099u));
     EXPECT_EQ(2u, reg::ReadDword(reg::kOptionPage, L"CmdDefMode"));
-    PostMessageW(dialog, WM_COMMAND, MAKEWPARAM(IDCANCEL, BN_CLICKED), 0);
-    option.WaitOrKill();
+    option.CloseDialog(dialog);
 }
 
 }  // namespace

@@ -42,15 +42,9 @@ protected:
         HWND editor = e2e::FindVisibleWindow(option.Id(), kEditorTitle);
         if (!editor) return false;
         e2e::SetText(editor, kRulePath, path);
-        PostMessageW(editor, WM_COMMAND, MAKEWPARAM(IDOK, BN_CLICKED), 0);
-        for (int wait = 0; wait < 500 && IsWindow(editor); ++wait) Sleep(10);
-        return !IsWindow(editor);
+        return e2e::Answer(editor, IDOK);
     }
     HWND OptionDialog() { return e2e::FindVisibleWindow(option.Id(), L"オプション"); }
-    void Close(HWND dialog) {
-        PostMessageW(dialog, WM_COMMAND, MAKEWPARAM(IDCANCEL, BN_CLICKED), 0);
-        option.WaitOrKill();
-    }
 
     reg::ScopedKey page_{reg::kOptionPage};
     reg::ScopedKey folders_{kFolderInfo};
@@ -82,7 +76,7 @@ TEST_F(FolderPageTest, AnExactRuleAddedThroughTheEditorIsWhatApplyStores) {
     e2e::WaitUntilDialogIdle(dialog, option.Handle());
     e2e::Click(dialog, kApply);
     EXPECT_THAT(host.Commands(), testing::ElementsAre(48999u, 49033u, 49099u));
-    Close(dialog);
+    option.CloseDialog(dialog);
 
     EXPECT_EQ(std::wstring(L"0 1 0 06 00 0 00000101 00000000 00000000 00 00\tD:\\Photos"),
               reg::ReadString(kFolderInfo, L"D:\\Photos").value_or(L"<absent>"))
@@ -105,7 +99,7 @@ TEST_F(FolderPageTest, AFolderTheHostAsksForIsRegisteredOnOpening) {
     HWND dialog = OptionDialog();
     ASSERT_NE(nullptr, dialog);
     e2e::Click(dialog, kApply);
-    Close(dialog);
+    option.CloseDialog(dialog);
     EXPECT_EQ(L"", reg::ReadString(reg::kOptionPage, L"SetFolder").value_or(L"<absent>"));
     EXPECT_EQ(std::wstring(L"0 1 0 04 00 0 00000100 00000000 00000000 00 00\tC:\\Asked"),
               reg::ReadString(kFolderInfo, L"C:\\Asked").value_or(L"<absent>"));

@@ -35,13 +35,6 @@ std::string Units(const std::string& text) {
     return bytes;
 }
 
-// Where the tests leave pictures of what they showed: build/screenshots beside the stage.
-std::wstring PicturePath(const wchar_t* name) {
-    const fs::path pictures = fs::path(e2e::StageRoot()).parent_path() / L"screenshots";
-    fs::create_directories(pictures);
-    return (pictures / name).wstring();
-}
-
 int Rows(HWND editor) {
     return static_cast<int>(SendMessageW(GetDlgItem(editor, kList), LVM_GETITEMCOUNT, 0, 0));
 }
@@ -98,12 +91,11 @@ TEST_F(MenuEditorTest, ALineAddedThroughTheLineDialogIsSavedAsTheHostReadsIt) {
     e2e::SetText(line, kTarget, L"33301");
     e2e::WaitUntilDialogIdle(line, option.Handle());
     Sleep(100);
-    e2e::CaptureWindow(line, PicturePath(L"menu-command.bmp"));
-    PostMessageW(line, WM_COMMAND, MAKEWPARAM(IDOK, BN_CLICKED), 0);
-    for (int wait = 0; wait < 500 && IsWindow(line); ++wait) Sleep(10);
+    e2e::CaptureWindow(line, e2e::PicturePath(L"menu-command.bmp"));
+    e2e::Answer(line, IDOK);
     e2e::WaitUntilDialogIdle(editor, option.Handle());
     EXPECT_EQ(lines + 1, Rows(editor));
-    e2e::CaptureWindow(editor, PicturePath(L"menu-editor.bmp"));
+    e2e::CaptureWindow(editor, e2e::PicturePath(L"menu-editor.bmp"));
 
     EXPECT_EQ(L"I have saved the file.\n" + file.wstring(), ClickForMessage(kSave));
     Close();
@@ -143,7 +135,7 @@ TEST_F(MenuEditorTest, TheLoadTestShowsThePopupWhereTheFileAsksOrRefusesAWildcar
     // The menu draws itself in its own loop; the screen is read once it has.
     Sleep(300);
     RECT around = {shown.left - 40, shown.top - 20, shown.right + 40, shown.bottom + 20};
-    EXPECT_TRUE(e2e::CaptureRect(around, PicturePath(L"menu-load-test.bmp")));
+    EXPECT_TRUE(e2e::CaptureRect(around, e2e::PicturePath(L"menu-load-test.bmp")));
     PostMessageW(popup, WM_KEYDOWN, VK_ESCAPE, 0);
     e2e::WaitUntilDialogIdle(editor, option.Handle());
 

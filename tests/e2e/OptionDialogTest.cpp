@@ -30,12 +30,6 @@ constexpr LRESULT kTreeItems = 51;
 constexpr unsigned kSeriesStart = 48999;
 constexpr unsigned kSeriesEnd = 49099;
 
-// Closes the dialog as its button would and gives the exit code.
-DWORD Close(e2e::Process& option, HWND dialog, int button = IDCANCEL) {
-    PostMessageW(dialog, WM_COMMAND, MAKEWPARAM(button, BN_CLICKED), 0);
-    return option.WaitOrKill();
-}
-
 // The framework's message box over the dialog: its text, closed with OK. Empty when none came.
 std::wstring TakeMessageBox(const e2e::Process& option) {
     HWND box = e2e::FindMessageBox(option.Id(), 5000);
@@ -75,7 +69,7 @@ TEST(OptionDialog, OpensOverTheHostInItsOwnOrTranslatedWordsAndOnlyAValidPassSto
     }
     EXPECT_EQ(1, SendMessageW(dialog, 0x8030, 0, 0)) << "the host's probe is answered";
     EXPECT_EQ(L"", reg::ReadString(reg::kOptionPage, L"SetFolder").value_or(L"<absent>"));
-    EXPECT_EQ(0u, Close(first, dialog));
+    EXPECT_EQ(0u, first.CloseDialog(dialog));
     EXPECT_EQ(L"", reg::ReadString(reg::kOptionPage, L"SetFolder").value_or(L"<absent>"));
     EXPECT_EQ(30u, reg::ReadDword(reg::kOptionPage, L"Start").value_or(0));
     EXPECT_THAT(host.Commands(), testing::IsEmpty());
@@ -162,7 +156,7 @@ TEST(OptionDialog, ApplyStoresEveryPageAndEveryHostHearsWhatToReread) {
 
     // A group item selected, OK: its own Apply says it all again.
     ASSERT_TRUE(e2e::SelectTreeItem(dialog, 1003));
-    EXPECT_EQ(0u, Close(option, dialog, IDOK));
+    EXPECT_EQ(0u, option.CloseDialog(dialog, IDOK));
     EXPECT_EQ(1003u, reg::ReadDword(reg::kOptionPage, L"Start").value_or(0));
     expectHeard({kSeriesStart, 49036, kSeriesEnd});
 }

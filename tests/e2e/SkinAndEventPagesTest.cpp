@@ -1,6 +1,5 @@
-// The skin, sound and event pages in the running program: a background chosen and then cancelled
-// with the whole dialog stores nothing; files picked in the system's file box are kept by their bare
-// names and the host hears of each page.
+// The sound and event pages in the running program: files picked in the system's file box are kept by
+// their bare names and the host hears of each page.
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -9,7 +8,6 @@
 #include <commctrl.h>
 
 #include <filesystem>
-#include <optional>
 #include <string>
 #include <vector>
 
@@ -25,11 +23,6 @@ namespace fs = std::filesystem;
 namespace reg = e2e::registry;
 
 constexpr int kApply = 1301;
-constexpr int kBackground = 1301;
-constexpr int kBackgroundFile = 1051;
-constexpr int kPlacedMode = 1201;
-constexpr int kBackgroundX = 1001;
-constexpr int kBackgroundY = 1002;
 constexpr int kRows = 1601;
 constexpr int kChoose = 1301;
 constexpr int kFileBoxName = 1148;  // the file name field of the system's open box
@@ -58,23 +51,14 @@ protected:
 
     // Picks the file in the system's open box that the page's button brings up for the row.
     void PickFile(HWND page, int row, const fs::path& file) {
-        LVITEMW item{};
-        item.stateMask = item.state = LVIS_SELECTED | LVIS_FOCUSED;
-        HWND list = GetDlgItem(page, kRows);
-        // The list lives in the other process: the item goes there through memory of its own.
-        HANDLE process = option.Handle();
-        void* remote = VirtualAllocEx(process, nullptr, sizeof(item), MEM_COMMIT, PAGE_READWRITE);
-        WriteProcessMemory(process, remote, &item, sizeof(item), nullptr);
-        SendMessageW(list, LVM_SETITEMSTATE, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(remote));
-        VirtualFreeEx(process, remote, 0, MEM_RELEASE);
+        e2e::SelectListRow(option.Handle(), GetDlgItem(page, kRows), row);
         PostMessageW(page, WM_COMMAND, MAKEWPARAM(kChoose, BN_CLICKED), 0);
         HWND box = e2e::FindWindowOf(option.Id(), [](HWND window) {
             return IsWindowVisible(window) && GetDlgItem(window, kFileBoxName) != nullptr;
         });
         ASSERT_NE(nullptr, box) << "no file box";
         e2e::SetText(box, kFileBoxName, file.wstring().c_str());
-        PostMessageW(box, WM_COMMAND, MAKEWPARAM(IDOK, BN_CLICKED), 0);
-        for (int wait = 0; wait < 500 && IsWindow(box); ++wait) Sleep(10);
+        e2e::Answer(box, IDOK);
         e2e::WaitUntilDialogIdle(dialog, option.Handle());
     }
 
@@ -86,30 +70,6 @@ protected:
     e2e::Process option;
     HWND dialog = nullptr;
 };
-
-TEST_F(SkinAndEventPagesTest, ABackgroundChosenThenCancelledLeavesTheRegistryAlone) {
-    HWND page = Open(12, kBackground);
-    ASSERT_NE(nullptr, page);
-    PostMessageW(page, WM_COMMAND, MAKEWPARAM(kBackground, BN_CLICKED), 0);
-    HWND background = e2e::FindVisibleWindow(option.Id(), L"背景画像");
-    ASSERT_NE(nullptr, background);
-    const std::wstring picture = e2e::StageRoot() + L"\\Background\\leaf.png";
-    e2e::SetText(background, kBackgroundFile, picture.c_str());
-    SendMessageW(GetDlgItem(background, kPlacedMode), BM_CLICK, 0, 0);
-    e2e::SetText(background, kBackgroundX, L"50");
-    e2e::SetText(background, kBackgroundY, L"25");
-    PostMessageW(background, WM_COMMAND, MAKEWPARAM(IDOK, BN_CLICKED), 0);
-    for (int wait = 0; wait < 500 && IsWindow(background); ++wait) Sleep(10);
-    EXPECT_FALSE(IsWindow(background)) << "OK refused the background";
-    PostMessageW(dialog, WM_COMMAND, MAKEWPARAM(IDCANCEL, BN_CLICKED), 0);
-    option.WaitOrKill();
-    for (const wchar_t* name : {L"BkImgName", L"SkinName", L"PrgSkin"}) {
-        EXPECT_EQ(std::nullopt, reg::ReadString(reg::kSettings, name)) << fs::path(name).string();
-    }
-    for (const wchar_t* name : {L"BkMode", L"BkPosX", L"BkPosY", L"BkAlpha"}) {
-        EXPECT_EQ(std::nullopt, reg::ReadDword(reg::kSettings, name)) << fs::path(name).string();
-    }
-}
 
 TEST_F(SkinAndEventPagesTest, SoundAndEventFilesAreStoredByTheirBareNames) {
     e2e::FakeHost host;
@@ -128,8 +88,7 @@ TEST_F(SkinAndEventPagesTest, SoundAndEventFilesAreStoredByTheirBareNames) {
         PickFile(page, c.row, c.file);
         const size_t heard = host.Commands().size();
         e2e::Click(dialog, kApply);
-        PostMessageW(dialog, WM_COMMAND, MAKEWPARAM(IDCANCEL, BN_CLICKED), 0);
-        option.WaitOrKill();
+        option.CloseDialog(dialog);
         EXPECT_EQ(c.file.filename().wstring(), reg::ReadString(c.section, c.value).value_or(L"<none>"));
         // Every row is written, the empty ones too.
         EXPECT_EQ(L"", reg::ReadString(c.section, c.page == 19 ? L"SoundBooting" : L"CmdInitInstance").value_or(L"-"));

@@ -54,10 +54,8 @@ TEST(Startup, ARunThatEndsAtOnceReadsTheBlockAndHandsBackOnlyWhenAsked) {
     // clang-format on
     const Case cases[] = {
         {"Share, reactivate 1", {L"/T", L"C:\\none.txt"}, NamingTheBlock(0, 1, L"Share"), true, true},
-        {"share in other case, reactivate 1", {L"/T", L"x"}, NamingTheBlock(2, 1, L"share"), false, true},
         {"another word, reactivate 2", {L"/T", L"x"}, NamingTheBlock(0, 2, L"None"), false, false},
         {"Share, no such block", {L"/T", L"x"}, NamingTheBlock(3, 0, L"Share", 424242), false, false},
-        {"switches ignore case; nine fields", {L"/t", L"x"}, L"0:1:1:2:64:0:0:0:None", false, false},
     };
     // The mark a first copy leaves; every run here must start and end as usual beside it.
     e2e::UniqueHandle otherCopy(CreateMutexW(nullptr, FALSE, L"ExCommand.Option.exe"));

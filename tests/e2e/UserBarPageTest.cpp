@@ -8,6 +8,7 @@
 
 #include <filesystem>
 #include <string>
+#include <tuple>
 
 #include "support/FakeHostProcess.h"
 #include "support/Files.h"
@@ -53,19 +54,18 @@ TEST(UserBarPageTest, AFolderRegisteredAsTheFirstBarGetsItsIconAndIsStored) {
     e2e::SetText(editor, 1001, L"道具");
     e2e::SetText(editor, 1002, L"Tools");
     e2e::SetText(editor, 1003, L"120");
-    PostMessageW(editor, WM_COMMAND, MAKEWPARAM(IDOK, BN_CLICKED), 0);
-    for (int wait = 0; wait < 500 && IsWindow(editor); ++wait) Sleep(10);
+    e2e::Answer(editor, IDOK);
     e2e::WaitUntilDialogIdle(dialog, option.Handle());
     e2e::Click(dialog, kApply);
     EXPECT_THAT(host.Commands(), testing::ElementsAre(48999u, 49006u, 49099u));
     const std::string icon = e2e::ReadFileBytes((user / L"Bar" / L"Tools.ico").wstring());
     EXPECT_TRUE(!icon.empty() && icon == e2e::ReadFileBytes(e2e::StageRoot() + L"\\InitTemp\\Bar\\Default.ico"));
-    EXPECT_EQ(L"道具", reg::ReadString(kBar, L"Name_00").value_or(L""));
-    EXPECT_EQ(L"Tools", reg::ReadString(kBar, L"Dir_00").value_or(L""));
-    EXPECT_EQ(120u, reg::ReadDword(kBar, L"Width_00").value_or(0));
-    EXPECT_EQ(2u, reg::ReadDword(kUBar, L"MC").value_or(0)) << "the clicks are stored with the bars";
-    PostMessageW(dialog, WM_COMMAND, MAKEWPARAM(IDCANCEL, BN_CLICKED), 0);
-    option.WaitOrKill();
+    EXPECT_EQ(
+        std::tuple(std::wstring(L"道具"), std::wstring(L"Tools"), 120u, 2u),
+        std::tuple(reg::ReadString(kBar, L"Name_00").value_or(L""), reg::ReadString(kBar, L"Dir_00").value_or(L""),
+                   reg::ReadDword(kBar, L"Width_00").value_or(0), reg::ReadDword(kUBar, L"MC").value_or(0)))
+        << "the slot, and the clicks stored with the bars";
+    option.CloseDialog(dialog);
     fs::remove_all(user);
 }
 

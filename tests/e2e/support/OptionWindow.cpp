@@ -3,7 +3,6 @@
 #include <commctrl.h>
 #include <shlobj.h>
 
-#include <vector>
 
 namespace e2e {
 
@@ -138,19 +137,20 @@ bool Answer(HWND dialog, int button, DWORD timeoutMs) {
     return false;
 }
 
+bool SelectListRow(HANDLE process, HWND list, int row) {
+    LVITEMW item{};
+    item.stateMask = item.state = LVIS_SELECTED | LVIS_FOCUSED;
+    void* remote = VirtualAllocEx(process, nullptr, sizeof item, MEM_COMMIT, PAGE_READWRITE);
+    if (!remote) return false;
+    const bool done = WriteProcessMemory(process, remote, &item, sizeof item, nullptr) &&
+                      SendMessageW(list, LVM_SETITEMSTATE, row, reinterpret_cast<LPARAM>(remote));
+    VirtualFreeEx(process, remote, 0, MEM_RELEASE);
+    return done;
+}
+
 bool SelectFolder(HANDLE process, HWND browser, const std::wstring& path) {
     std::wstring name = path.substr(path.find_last_of(L'\\') + 1);
     return SendSelection(process, browser, TRUE, path.c_str(), (path.size() + 1) * sizeof(wchar_t), name);
-}
-
-bool SelectMyComputer(HANDLE process, HWND browser) {
-    PIDLIST_ABSOLUTE computer = nullptr;
-    if (FAILED(SHGetSpecialFolderLocation(nullptr, CSIDL_DRIVES, &computer))) return false;
-    SHFILEINFOW info = {};
-    SHGetFileInfoW(reinterpret_cast<const wchar_t*>(computer), 0, &info, sizeof info, SHGFI_PIDL | SHGFI_DISPLAYNAME);
-    bool sent = SendSelection(process, browser, FALSE, computer, ILGetSize(computer), info.szDisplayName);
-    CoTaskMemFree(computer);
-    return sent;
 }
 
 }  // namespace e2e

@@ -107,6 +107,11 @@ DWORD Process::WaitOrKill(DWORD timeoutMs, std::source_location where) {
     return kKilledExitCode;
 }
 
+DWORD Process::CloseDialog(HWND dialog, int button, std::source_location where) {
+    PostMessageW(dialog, WM_COMMAND, MAKEWPARAM(button, BN_CLICKED), 0);
+    return WaitOrKill(kDefaultTimeoutMs, where);
+}
+
 void Process::Kill() {
     if (!Running()) return;
     TerminateProcess(process_.get(), kKilledExitCode);

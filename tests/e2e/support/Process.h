@@ -6,7 +6,6 @@
 #include <optional>
 #include <source_location>
 #include <string>
-#include <utility>
 #include <vector>
 
 #include "Handles.h"
@@ -53,6 +52,8 @@ public:
     std::optional<DWORD> Wait(DWORD timeoutMs) const;
     // The exit code; on time-out the test fails, the process is killed and kKilledExitCode comes back.
     DWORD WaitOrKill(DWORD timeoutMs = kDefaultTimeoutMs, std::source_location where = std::source_location::current());
+    // Closes the program's dialog with a button as the user would, then waits as WaitOrKill does.
+    DWORD CloseDialog(HWND dialog, int button = IDCANCEL, std::source_location where = std::source_location::current());
     void Kill();
 
 private:

@@ -1,5 +1,9 @@
 #include "support/Screenshot.h"
 
+#include <filesystem>
+
+#include "support/Process.h"
+
 namespace e2e {
 
 namespace {
@@ -55,6 +59,12 @@ bool CaptureRect(const RECT& rect, const std::wstring& path) {
 bool CaptureWindow(HWND window, const std::wstring& path) {
     RECT rect;
     return GetWindowRect(window, &rect) && CaptureRect(rect, path);
+}
+
+std::wstring PicturePath(const wchar_t* name) {
+    const std::filesystem::path pictures = std::filesystem::path(StageRoot()).parent_path() / L"screenshots";
+    std::filesystem::create_directories(pictures);
+    return (pictures / name).wstring();
 }
 
 }  // namespace e2e

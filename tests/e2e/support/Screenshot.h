@@ -11,5 +11,7 @@ namespace e2e {
 bool CaptureRect(const RECT& rect, const std::wstring& path);
 // The window's rectangle as the screen shows it.
 bool CaptureWindow(HWND window, const std::wstring& path);
+// Where the tests leave their pictures, build/screenshots beside the stage, made when missing.
+std::wstring PicturePath(const wchar_t* name);
 
 }  // namespace e2e

@@ -1,9 +1,6 @@
 #include <gtest/gtest.h>
 
-#include <filesystem>
-#include <fstream>
 #include <functional>
-#include <iterator>
 
 #include "definitions/CommandCatalog.h"
 #include "definitions/MenuDefinition.h"
@@ -132,19 +129,6 @@ TEST_F(MenuDefinitionTest, EditorLoadsEveryLineAndSavesWithIndentation) {
     EXPECT_TRUE(ReadMenuLines(L"C:\\nowhere\\Menu.txt").empty());
     EXPECT_FALSE(SaveMenuRows(VectorMenuRows({{L"x"}}), L"C:\\nowhere\\Menu.txt"));
     EXPECT_TRUE(fake.prompts().shown().empty());
-}
-
-TEST_F(MenuDefinitionTest, SampleMenusSurviveLoadAndSave) {
-    int files = 0;
-    for (const auto& entry : std::filesystem::directory_iterator(OPTION_SOURCE_DIR "/sample/User/Menu")) {
-        SCOPED_TRACE(entry.path().filename().string());
-        std::ifstream stream(entry.path(), std::ios::binary);
-        const std::vector<uint8_t> bytes(std::istreambuf_iterator<char>(stream), {});
-        fake.files().AddFile(kMenuFile, bytes);
-        EXPECT_EQ(bytes, MenuFileBytes(ReadMenuLines(kMenuFile)));
-        ++files;
-    }
-    EXPECT_GE(files, 3);
 }
 
 TEST(MenuRowActions, ActOnTheSelection) {

@@ -1,10 +1,9 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <fstream>
-#include <iterator>
 #include <optional>
 #include <string>
+#include <tuple>
 #include <vector>
 
 #include "pages/SkinFolders.h"
@@ -153,34 +152,9 @@ TEST(SkinFolders, LoadingTheGroupsLoadsTheirPictures) {
         store.WriteString(L"StatusAnimeSkin", c.anime);
         LoadGroup(store, SettingsGroup::Skin);
         LoadGroup(store, SettingsGroup::StatusAnime);
-        EXPECT_EQ(c.picture, store.BkImage != nullptr);
-        EXPECT_EQ(c.thumbnails, static_cast<int>(fake.images().thumbnails().size()));
-        EXPECT_EQ(8, store.PrgImageCount);
-        EXPECT_EQ(c.animeFrames, store.StatusAnimeImageCount);
-        EXPECT_EQ(3u, store.StatusAnimeSprites.size());
-    }
-}
-
-}  // namespace
-
-namespace {
-
-// The sample installation's readmes are written in the encodings skin authors use.
-TEST(SkinReadme, SampleReadmesShowTheirEncodings) {
-    // clang-format off
-    struct Case { const char* folder; uint32_t codePage; };
-    const Case cases[] = {
-        {"img/Default", kCodePageUtf16}, {"img/Sakura", kCodePageShiftJis}, {"img/Mint", kCodePageUtf8},
-        {"StatusImg/Default", kCodePageUtf8}, {"StatusImg/Dots", kCodePageShiftJis},
-        {"StatusAnime/Firefly", kCodePageUtf16}, {"StatusAnime/Leaves", kCodePageShiftJis},
-    };
-    // clang-format on
-    for (const Case& c : cases) {
-        std::ifstream file(std::string(OPTION_SOURCE_DIR) + "/sample/" + c.folder + "/Readme.txt", std::ios::binary);
-        const Bytes bytes((std::istreambuf_iterator<char>(file)), std::istreambuf_iterator<char>());
-        ASSERT_FALSE(bytes.empty()) << c.folder;
-        const std::wstring units = RawUnits(bytes);
-        EXPECT_EQ(c.codePage, DetectCodePage(Utf16Bytes(units))) << c.folder;
+        EXPECT_EQ(std::tuple(c.picture, c.thumbnails, 8, c.animeFrames, size_t{3}),
+                  std::tuple(store.BkImage != nullptr, static_cast<int>(fake.images().thumbnails().size()),
+                             store.PrgImageCount, store.StatusAnimeImageCount, store.StatusAnimeSprites.size()));
     }
 }
 

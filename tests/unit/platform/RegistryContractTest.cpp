@@ -1,7 +1,6 @@
 // One set of expectations for the fake registry and, in the Windows build, the real one.
 #include <gtest/gtest.h>
 
-#include <cstring>
 #include <functional>
 #include <memory>
 #include <set>

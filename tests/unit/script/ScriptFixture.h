@@ -18,19 +18,11 @@
 struct ScriptCase {
     using Values = std::vector<std::pair<std::wstring, std::wstring>>;
 
-    ScriptCase(const char* label, std::vector<std::wstring> lines, Values values = {},
-               std::vector<std::wstring> messages = {}, int32_t result = 0)
-        : label(label),
-          lines(std::move(lines)),
-          values(std::move(values)),
-          messages(std::move(messages)),
-          result(result) {}
-
     const char* label;
     std::vector<std::wstring> lines;
-    Values values;
-    std::vector<std::wstring> messages;
-    int32_t result;
+    Values values = {};
+    std::vector<std::wstring> messages = {};
+    int32_t result = 0;
 };
 
 class ScriptFixture : public testing::Test {

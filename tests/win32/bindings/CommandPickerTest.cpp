@@ -2,8 +2,6 @@
 #include <gtest/gtest.h>
 #include <windows.h>
 
-#include <functional>
-
 #include "bindings/COptionKeySetting.h"
 #include "bindings/DefaultKeyTables.h"
 #include "bindings/KeyListCsv.h"
@@ -88,10 +86,9 @@ TEST_F(CommandPickerTest, OkNeedsACommandAndSearchFindsOneByNumber) {
 // The key page's Edit opens the picker on the row's command; what is chosen there is the row's, and
 // Apply writes it into the key file of its mode.
 TEST_F(CommandPickerTest, TheKeyPageBindsARowThroughThePicker) {
-    SetStart(2);
     COptionDlg dialog(app_);
-    ASSERT_TRUE(dialog.Create(nullptr));
-    HWND page = dialog.Page(2)->hwnd();
+    HWND page = Open(dialog, 2);
+    ASSERT_NE(nullptr, page);
     ui::ListView list(GetDlgItem(page, IDC_KEYSET_LIST));
     ASSERT_EQ(76, list.GetItemCount());
     list.SelectRow(1);
@@ -104,7 +101,7 @@ TEST_F(CommandPickerTest, TheKeyPageBindsARowThroughThePicker) {
     EXPECT_EQ((std::pair<std::wstring, LPARAM>{L"詳細表示", 32811}),
               (std::pair{list.GetItemText(1, 1), list.GetItemData(1)}));
 
-    SendMessageW(dialog.hwnd(), WM_COMMAND, MAKEWPARAM(1301, BN_CLICKED), 0);
+    Apply(dialog);
     KeyTableSet saved;
     LoadKeyTables(app_.directories.UserDirectory(), saved);
     EXPECT_EQ(32811, saved.Word(0, kModifierNone, 1));
@@ -114,10 +111,9 @@ TEST_F(CommandPickerTest, TheKeyPageBindsARowThroughThePicker) {
 // The key page's other buttons on the block of a modifier: Edit and Clear want a row, Clear and each
 // reset ask first and a No changes nothing, the list goes into the folder chosen under its block's name.
 TEST_F(CommandPickerTest, TheKeyPageClearsResetsAndListsTheBlockShown) {
-    SetStart(2);
     COptionDlg dialog(app_);
-    ASSERT_TRUE(dialog.Create(nullptr));
-    HWND page = dialog.Page(2)->hwnd();
+    HWND page = Open(dialog, 2);
+    ASSERT_NE(nullptr, page);
     ui::ListView list(GetDlgItem(page, IDC_KEYSET_LIST));
     SendDlgItemMessageW(page, IDC_KEYSET_MODIFIER_FIRST + kModifierShift, BM_CLICK, 0, 0);
     // The first key that Shift binds by default.
@@ -164,7 +160,7 @@ TEST_F(CommandPickerTest, AKeyPageWithoutItsNineSetNamesStaysOutOfApply) {
     COptionDlg dialog(app_);
     ASSERT_TRUE(dialog.Create(nullptr));
     EXPECT_EQ(0, dialog.Page(2)->opened);
-    SendMessageW(dialog.hwnd(), WM_COMMAND, MAKEWPARAM(1301, BN_CLICKED), 0);
+    Apply(dialog);
     EXPECT_EQ((std::vector<ShownMessage>{{L"String of 2 is required ID:1403, but it has become 9", 0}}),
               fake_.prompts().shown());
     std::vector<uint8_t> keys;

@@ -20,28 +20,8 @@ using namespace optiontest;
 constexpr const wchar_t* kListMouse = L"Software\\Tarnwick\\QOR\\Main001\\ListMouse";
 constexpr const wchar_t* kMouse = L"Software\\Tarnwick\\QOR\\Main001\\Mouse";
 constexpr const wchar_t* kGesture = L"Software\\Tarnwick\\QOR\\Main001\\Gesture";
-constexpr int kApply = 1301;
 
-class MousePagesTest : public OptionDialogFixture {
-protected:
-    HWND Open(COptionDlg& dialog, int page) {
-        SetStart(page);
-        if (!dialog.Create(nullptr)) return nullptr;
-        return dialog.Page(page) && dialog.Page(page)->opened ? dialog.Page(page)->hwnd() : nullptr;
-    }
-    std::vector<std::wstring> Column(HWND page, int column) const {
-        const ui::ListView list(GetDlgItem(page, 1601));
-        std::vector<std::wstring> texts;
-        for (int row = 0; row < list.GetItemCount(); ++row) texts.push_back(list.GetItemText(row, column));
-        return texts;
-    }
-    std::vector<std::wstring> Messages() {
-        std::vector<std::wstring> texts;
-        for (const auto& shown : fake_.prompts().shown()) texts.push_back(shown.text);
-        return texts;
-    }
-    void Apply(COptionDlg& dialog) const { SendMessageW(dialog.hwnd(), WM_COMMAND, MAKEWPARAM(kApply, BN_CLICKED), 0); }
-};
+using MousePagesTest = OptionDialogFixture;
 
 TEST_F(MousePagesTest, ClickActionsAreChosenSwappedAndStoredAndAnUnknownOneKeepsThePageOut) {
     {
@@ -54,21 +34,21 @@ TEST_F(MousePagesTest, ClickActionsAreChosenSwappedAndStoredAndAnUnknownOneKeeps
     COptionDlg dialog(app_);
     HWND page = Open(dialog, 4);
     ASSERT_NE(nullptr, page);
-    const std::vector<std::wstring> rows = Column(page, 0);
+    const std::vector<std::wstring> rows = Column(GetDlgItem(page, 1601), 0);
     ASSERT_EQ(12u, rows.size());
     EXPECT_EQ(L"ダブルクリック(組み合わせなし)", rows[0]);
     EXPECT_EQ(L"中クリック+Ctrl+Shift", rows[11]);
-    EXPECT_EQ(L"フォルダーは移動・ファイルはシェル起動", Column(page, 1)[0]);
+    EXPECT_EQ(L"フォルダーは移動・ファイルはシェル起動", Column(GetDlgItem(page, 1601), 1)[0]);
     Click(page, 1301);
-    EXPECT_EQ(L"シェル起動", Column(page, 1)[0]);
-    EXPECT_EQ(L"フォルダーは新しいタブで開く・ファイルはシェル起動", Column(page, 1)[5]);
+    EXPECT_EQ(L"シェル起動", Column(GetDlgItem(page, 1601), 1)[0]);
+    EXPECT_EQ(L"フォルダーは新しいタブで開く・ファイルはシェル起動", Column(GetDlgItem(page, 1601), 1)[5]);
     ui::ListView(GetDlgItem(page, 1601)).SelectRow(11);
     WhenShown(L"操作の選択", [](HWND chooser) {
         ui::ComboBox(GetDlgItem(chooser, 1151)).SetCurSel(4);
         Click(chooser, IDOK);
     });
     Click(page, 1304);
-    EXPECT_EQ(L"未設定", Column(page, 1)[11]);
+    EXPECT_EQ(L"未設定", Column(GetDlgItem(page, 1601), 1)[11]);
     Apply(dialog);
     EXPECT_EQ((std::vector<int32_t>{0, 4, 1, 2, 4}),
               (std::vector<int32_t>{DirectReadInt(kListMouse, L"En", -1), DirectReadInt(kListMouse, L"EnCS", -1),
@@ -88,7 +68,7 @@ TEST_F(MousePagesTest, GestureRowsKeepTheirTrailsUniqueAndTheDefaultsReplaceThem
     COptionDlg dialog(app_);
     HWND page = Open(dialog, 14);
     ASSERT_NE(nullptr, page);
-    EXPECT_EQ((std::vector<std::wstring>{L"\u2191", L"\u2193"}), Column(page, 0));
+    EXPECT_EQ((std::vector<std::wstring>{L"\u2191", L"\u2193"}), Column(GetDlgItem(page, 1601), 0));
     Click(page, 1304);
     EXPECT_EQ(std::vector<std::wstring>{L"none"}, Messages());
     const ui::ListView list(GetDlgItem(page, 1601));

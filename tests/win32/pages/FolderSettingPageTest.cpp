@@ -23,20 +23,8 @@ constexpr const wchar_t* kFolderInfo = L"Software\\Tarnwick\\QOR\\Main001\\Folde
 constexpr const wchar_t* kFolderInfoEx = L"Software\\Tarnwick\\QOR\\Main001\\FolderInfoEx";
 constexpr const wchar_t* kListInit = L"Software\\Tarnwick\\QOR\\Main001\\ListInit";
 
-std::vector<std::wstring> Column(HWND list, int column) {
-    const ui::ListView view(list);
-    std::vector<std::wstring> texts;
-    for (int row = 0; row < view.GetItemCount(); ++row) texts.push_back(view.GetItemText(row, column));
-    return texts;
-}
-
 class FolderSettingPageTest : public OptionDialogFixture {
 protected:
-    std::vector<std::wstring> Shown(size_t from = 0) {
-        std::vector<std::wstring> texts;
-        for (size_t i = from; i < fake_.prompts().shown().size(); ++i) texts.push_back(fake_.prompts().shown()[i].text);
-        return texts;
-    }
     void SetUp() override {
         OptionDialogFixture::SetUp();
         fake_.files().AddFile(L"C:\\Qor\\Lang\\Msg.txt", Utf16Bytes(L"62301\tNone\r\n62302\tEmpty\r\n62307\tListed\r\n"
@@ -116,7 +104,7 @@ TEST_F(FolderSettingPageTest, TheEditorGroupsTheSortKeysAndGivesBackTheRule) {
               std::vector<std::wstring>(labels.begin(), labels.begin() + 2));
     EXPECT_EQ(-9, selectedKey);
     EXPECT_FALSE(kindEnabled);
-    EXPECT_EQ(std::vector<std::wstring>{L"Empty"}, Shown());
+    EXPECT_EQ(std::vector<std::wstring>{L"Empty"}, Messages());
     EXPECT_EQ((FolderState{.viewNumber = 5, .sortKey = -10, .path = L"*\\Music"}), editor.rule);
     EXPECT_EQ(1, editor.kind);
 }
@@ -131,20 +119,19 @@ TEST_F(FolderSettingPageTest, TheButtonsEditTheListsWithinTheirLimits) {
                           BuildFolderState({.path = L"^r" + std::to_wstring(n)}));
     }
     DirectWriteInt(L"Software\\Tarnwick\\QOR\\Main001\\ListInit", L"AdvancedFoler", 0);
-    SetStart(36);
     COptionDlg dialog(app_);
-    ASSERT_TRUE(dialog.Create(nullptr));
-    const HWND page = dialog.Page(36)->hwnd();
+    const HWND page = Open(dialog, 36);
+    ASSERT_NE(nullptr, page);
     const HWND exact = GetDlgItem(page, IDC_FOLDER_EXACT_LIST), regex = GetDlgItem(page, IDC_FOLDER_REGEX_LIST);
 
     Click(page, IDC_FOLDER_REGEX_ADD);
     Click(page, IDC_FOLDER_EXACT_CHANGE);
-    EXPECT_EQ((std::vector<std::wstring>{L"Full", L"None"}), Shown());
+    EXPECT_EQ((std::vector<std::wstring>{L"Full", L"None"}), Messages());
 
     fake_.prompts().Answer(platform::kAnswerNo);
     EditorAnswers(L"c:\\work");
     Click(page, IDC_FOLDER_EXACT_ADD);
-    EXPECT_EQ(L"Listed\nReplace?", Shown().back());
+    EXPECT_EQ(L"Listed\nReplace?", Messages().back());
     EXPECT_EQ(std::vector<std::wstring>{L"C:\\Work"}, Column(exact, 1));
     fake_.prompts().Answer(platform::kAnswerYes);
     EditorAnswers(L"c:\\work");
@@ -154,7 +141,7 @@ TEST_F(FolderSettingPageTest, TheButtonsEditTheListsWithinTheirLimits) {
     Click(page, IDC_FOLDER_EXACT_ADD);
     EditorAnswers(L"C:\\WORK");
     Click(page, IDC_FOLDER_EXACT_CHANGE);
-    EXPECT_EQ(L"Listed", Shown().back());
+    EXPECT_EQ(L"Listed", Messages().back());
     EXPECT_EQ((std::vector<std::wstring>{L"c:\\work", L"D:\\Other"}), Column(exact, 1));
 
     ui::ListView(regex).SelectRow(9);
@@ -185,10 +172,9 @@ TEST_F(FolderSettingPageTest, TheListsInitialPageMapsTheViewAndTakesTheFocusedOr
         SCOPED_TRACE(testing::Message() << "view " << c.view << ", sort " << c.sort);
         DirectWriteInt(kListInit, L"ViewMode", c.view);
         DirectWriteInt(kListInit, L"SortMode", c.sort);
-        SetStart(35);
         COptionDlg dialog(app_);
-        ASSERT_TRUE(dialog.Create(nullptr));
-        const HWND page = dialog.Page(35)->hwnd();
+        const HWND page = Open(dialog, 35);
+        ASSERT_NE(nullptr, page);
         EXPECT_EQ(BST_CHECKED, IsDlgButtonChecked(page, c.shown));
         const ui::ListView list(GetDlgItem(page, IDC_LIST_INIT_SORT_LIST));
         const int selected = list.GetSelectedRow();

@@ -33,7 +33,6 @@ constexpr const wchar_t* kPreView = L"Software\\Tarnwick\\QOR\\Main001\\PreView"
 constexpr const wchar_t* kTabStyle = L"Software\\Tarnwick\\QOR\\Main001\\TabStyle";
 constexpr const wchar_t* kUBar = L"Software\\Tarnwick\\QOR\\Main001\\UBar";
 constexpr platform::WindowRef kHost = 0x1234;
-constexpr int kApply = 1301;
 constexpr const wchar_t* kNotInteger = L"Please enter an integer.";
 constexpr const wchar_t* kNotPositive = L"Please enter a positive integer.";
 
@@ -48,34 +47,8 @@ protected:
             fake_.files().AddDirectory(folder);
     }
 
-    // The dialog opened on the page, and the page's window.
-    HWND Open(COptionDlg& dialog, int page) {
-        SetStart(page);
-        if (!dialog.Create(nullptr)) return nullptr;
-        return dialog.Page(page) ? dialog.Page(page)->hwnd() : nullptr;
-    }
-
-    // What the host heard from the given point on, without the brackets of each series.
-    std::vector<uint16_t> Codes(size_t from = 0) {
-        std::vector<uint16_t> codes;
-        const auto& sent = fake_.windows().commands();
-        for (size_t i = from; i < sent.size(); ++i)
-            if (sent[i].id != 48999 && sent[i].id != 49099) codes.push_back(sent[i].id);
-        return codes;
-    }
-
-    std::vector<std::wstring> Messages(size_t from = 0) {
-        std::vector<std::wstring> texts;
-        const auto& shown = fake_.prompts().shown();
-        for (size_t i = from; i < shown.size(); ++i) texts.push_back(shown[i].text);
-        return texts;
-    }
-
     std::wstring Field(HWND page, int id) const { return TextOf(GetDlgItem(page, id)); }
     void Type(HWND page, int id, const wchar_t* text) const { SetWindowTextW(GetDlgItem(page, id), text); }
-    // As the user's click arrives: the check changes, then the page hears of it.
-    void Click(HWND page, int id) const { SendMessageW(GetDlgItem(page, id), BM_CLICK, 0, 0); }
-    void Apply(COptionDlg& dialog) const { SendMessageW(dialog.hwnd(), WM_COMMAND, MAKEWPARAM(kApply, BN_CLICKED), 0); }
 };
 
 // Each page opens from the tree with the words that translators and the manual go by, a few of each.
@@ -94,7 +67,7 @@ TEST_F(OptionPagesTest, DialogAndPagesShowTheirOwnWords) {
         {33, 1257, L"数字の大小を比較する(Windows7以降)"}, {3, 1256, L"リストをシングルセレクトにする"},
         {13, 1202, L"汎用型のシェル実行（個別実行、高速、並列処理のため応答待ちが発生しない）"},
         {29, 1270, L"詳細一覧"}, {9, 1253, L"シェルイメージで描画"},
-        {25, 1203, L"常に前面に表示・タスクバーに表示しない"}, {6, 1301, L"テキスト表示フォント..."},
+        {6, 1301, L"テキスト表示フォント..."},
         {31, 1262, L"タブの復元に移動履歴を含める（起動速度が低下します）"}, {8, 1203, L"ドライブアイコン上にドライブレター（視認性が低い、速度が遅い）"},
         {11, 1253, L"複数選択を使用する(次回起動時から有効)"},
     };

@@ -110,10 +110,8 @@ protected:
 // no plug-in keeps the editor open. Up, down and delete work on the selection; the font box opens on
 // the stored font. Apply registers the rows as they stand.
 TEST_F(PreviewPageTest, TheListIsEditedInMemoryAndRegisteredAtApply) {
-    SetStart(6);
     COptionDlg dialog(app_);
-    ASSERT_TRUE(dialog.Create(nullptr));
-    HWND page = dialog.Page(6)->hwnd();
+    HWND page = Open(dialog, 6);
     ASSERT_NE(nullptr, page);
     // clang-format off
     struct Step { int button; const wchar_t *name, *extensions; std::vector<std::wstring> rows, messages;
@@ -144,7 +142,7 @@ TEST_F(PreviewPageTest, TheListIsEditedInMemoryAndRegisteredAtApply) {
     }
     Click(page, 1301);
     EXPECT_EQ(std::vector<unsigned>{0x1800401}, fake_.prompts().fontOpenings());
-    SendMessageW(dialog.hwnd(), WM_COMMAND, MAKEWPARAM(1301, BN_CLICKED), 0);
+    Apply(dialog);
     EXPECT_EQ(L"Peek.dll", DirectReadString(kPluginSection, L"Dll0", L"?"));
     EXPECT_EQ(L"txt,log", DirectReadString(kPluginSection, L"Ext0", L"?"));
     EXPECT_EQ(L"", DirectReadString(kPluginSection, L"Dll1", L"?"));

@@ -17,7 +17,6 @@ using namespace optiontest;
 
 constexpr const wchar_t* kSettings = L"Software\\Tarnwick\\QOR\\Main001\\Settings";
 constexpr platform::WindowRef kHost = 0x1234;
-constexpr int kApply = 1301;
 
 class SkinAndEventPagesTest : public OptionDialogFixture {
 protected:
@@ -34,20 +33,6 @@ protected:
             fake_.files().AddFile(user_ + cache, std::string_view("cache"));
     }
 
-    HWND Open(COptionDlg& dialog, int page) {
-        SetStart(page);
-        if (!dialog.Create(nullptr)) return nullptr;
-        return dialog.Page(page) ? dialog.Page(page)->hwnd() : nullptr;
-    }
-    void Apply(COptionDlg& dialog) const { SendMessageW(dialog.hwnd(), WM_COMMAND, MAKEWPARAM(kApply, BN_CLICKED), 0); }
-    // What the host heard from the given point on, without the brackets of each series.
-    std::vector<uint16_t> Codes(size_t from) {
-        std::vector<uint16_t> codes;
-        const auto& sent = fake_.windows().commands();
-        for (size_t i = from; i < sent.size(); ++i)
-            if (sent[i].id != 48999 && sent[i].id != 49099) codes.push_back(sent[i].id);
-        return codes;
-    }
     std::wstring LastMessage() { return fake_.prompts().shown().empty() ? L"" : fake_.prompts().shown().back().text; }
     bool CachesKept() {
         return fake_.files().GetAttributes(user_ + L"imgChache.iconimg") != platform::kInvalidAttributes;

@@ -20,14 +20,7 @@ using namespace optiontest;
 constexpr const wchar_t* kTabStyle = L"Software\\Tarnwick\\QOR\\Main001\\TabStyle";
 constexpr int kPage = 31;
 
-class TabPagesTest : public OptionDialogFixture {
-protected:
-    HWND Open(COptionDlg& dialog) {
-        SetStart(kPage);
-        if (!dialog.Create(nullptr)) return nullptr;
-        return dialog.Page(kPage) && dialog.Page(kPage)->opened ? dialog.Page(kPage)->hwnd() : nullptr;
-    }
-};
+using TabPagesTest = OptionDialogFixture;
 
 // Nothing selected is refused; the chooser offers the sixteen commands for the row's gesture. With the
 // tabs not restored, the restore checks are disabled but still saved as they stand.
@@ -35,7 +28,7 @@ TEST_F(TabPagesTest, TheChooserChangesAGestureAndDisabledChecksAreStillSaved) {
     DirectWriteInt(kTabStyle, L"LastTab", 0);
     DirectWriteInt(kTabStyle, L"LastTabVir", 0);
     COptionDlg dialog(app_);
-    HWND page = Open(dialog);
+    HWND page = Open(dialog, kPage);
     ASSERT_NE(nullptr, page);
     EXPECT_FALSE(IsWindowEnabled(GetDlgItem(page, 1261)));
     Click(page, 1304);
@@ -52,7 +45,7 @@ TEST_F(TabPagesTest, TheChooserChangesAGestureAndDisabledChecksAreStillSaved) {
     });
     Click(page, 1304);
     EXPECT_EQ(L"新しく開く", list.GetItemText(11, 1));
-    SendMessageW(dialog.hwnd(), WM_COMMAND, MAKEWPARAM(1301, BN_CLICKED), 0);
+    Apply(dialog);
     EXPECT_EQ((std::vector<int32_t>{57600, 1, 0}), (std::vector<int32_t>{DirectReadInt(kTabStyle, L"TabBarClkMSC", -1),
                                                                          DirectReadInt(kTabStyle, L"LastTabNet", -1),
                                                                          DirectReadInt(kTabStyle, L"LastTabVir", -1)}));
@@ -65,7 +58,7 @@ TEST_F(TabPagesTest, ATranslationWithTheWrongNumberOfCommandsKeepsThePageOut) {
     fake_.files().AddFile(L"C:\\Qor\\command\\Option\\.en-US\\Option\\127.txt",
                           Utf16Bytes(L"Tabs\r\n1401\tStatic\tClose/Open\r\n", true));
     COptionDlg dialog(app_);
-    EXPECT_EQ(nullptr, Open(dialog));
+    EXPECT_EQ(nullptr, Open(dialog, kPage));
     ASSERT_EQ(1u, fake_.prompts().shown().size());
     EXPECT_EQ(L"String of 2 is required ID:1401, but it has become 16", fake_.prompts().shown()[0].text);
 }

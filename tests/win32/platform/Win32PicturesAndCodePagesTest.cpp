@@ -5,6 +5,7 @@
 #include <fstream>
 #include <iterator>
 #include <string>
+#include <tuple>
 #include <vector>
 
 #include "pages/SkinReadme.h"
@@ -19,11 +20,10 @@ std::wstring Sample(const char* path) {
     return std::wstring(full.begin(), full.end());
 }
 
-// The readme's bytes as the page hands them over: the units read, two bytes each.
-std::vector<uint8_t> ReadmeBytes(const char* folder) {
+// A readme's units as the page reads them.
+std::wstring ReadmeUnits(const char* folder) {
     std::ifstream file(std::string(OPTION_SOURCE_DIR) + "/sample/" + folder + "/Readme.txt", std::ios::binary);
-    const std::vector<uint8_t> bytes((std::istreambuf_iterator<char>(file)), std::istreambuf_iterator<char>());
-    return Utf16Bytes(RawUnits(bytes));
+    return RawUnits(std::vector<uint8_t>(std::istreambuf_iterator<char>(file), {}));
 }
 
 class Com : public testing::Test {
@@ -37,7 +37,7 @@ TEST_F(Com, ReadmesAreConvertedFromTheirCodePages) {
     // Windows tells Shift-JIS by itself; Wine's multi-language object has no detection at all, so
     // there the page shows the units as read whenever its own rules cannot decide.
     const bool detects = !GetProcAddress(GetModuleHandleW(L"ntdll.dll"), "wine_get_version");
-    const std::vector<uint8_t> sakura = ReadmeBytes("img/Sakura");
+    const std::vector<uint8_t> sakura = Utf16Bytes(ReadmeUnits("img/Sakura"));
     EXPECT_EQ(detects ? std::optional<uint32_t>(kCodePageShiftJis) : std::nullopt,
               codePages.DetectInputCodepage(sakura));
     const std::optional<std::wstring> text = codePages.ConvertToUnicode(kCodePageShiftJis, sakura, sakura.size() * 4);
@@ -51,9 +51,7 @@ TEST_F(Com, ReadmesAreConvertedFromTheirCodePages) {
     };
     // clang-format on
     for (const Case& c : cases) {
-        std::ifstream file(std::string(OPTION_SOURCE_DIR) + "/sample/" + c.folder + "/Readme.txt", std::ios::binary);
-        const std::vector<uint8_t> bytes((std::istreambuf_iterator<char>(file)), std::istreambuf_iterator<char>());
-        const std::wstring shown = DecodeReadme(RawUnits(bytes), codePages);
+        const std::wstring shown = DecodeReadme(ReadmeUnits(c.folder), codePages);
         EXPECT_TRUE(shown.starts_with(c.start)) << c.folder << ": " << testing::PrintToString(shown);
     }
     // Text that neither marks nor scores tell apart is the system's to guess.
@@ -74,17 +72,16 @@ TEST_F(Com, PicturesKeepTheirAlphaAndStripsCountTheirFrames) {
         SCOPED_TRACE(c.file);
         std::unique_ptr<platform::Picture> picture = images.Load(Sample(c.file));
         ASSERT_NE(nullptr, picture);
-        EXPECT_EQ(c.width, picture->width());
-        EXPECT_EQ(c.height, picture->height());
-        EXPECT_EQ(c.bits, picture->bitsPerPixel());
-        EXPECT_EQ(c.alpha, picture->hasAlpha());
-        EXPECT_NE(0u, picture->bitmap());
+        EXPECT_EQ(std::tuple(c.width, c.height, c.bits, c.alpha, true),
+                  std::tuple(picture->width(), picture->height(), picture->bitsPerPixel(), picture->hasAlpha(),
+                             picture->bitmap() != 0));
     }
     EXPECT_EQ(nullptr, images.Load(Sample("img/Sakura/Readme.txt")));
     EXPECT_EQ(nullptr, images.Load(Sample("img/None.png")));
-    EXPECT_EQ(4, images.StripFrameCount(Sample("img/Sakura/img.bmp")));
-    EXPECT_EQ(3, images.StripFrameCount(Sample("StatusAnime/Leaves/img.bmp")));
-    EXPECT_EQ(0, images.StripFrameCount(Sample("img/None/img.bmp")));
+    EXPECT_EQ((std::vector<int>{4, 3, 0}),
+              (std::vector<int>{images.StripFrameCount(Sample("img/Sakura/img.bmp")),
+                                images.StripFrameCount(Sample("StatusAnime/Leaves/img.bmp")),
+                                images.StripFrameCount(Sample("img/None/img.bmp"))}));
 }
 
 }  // namespace

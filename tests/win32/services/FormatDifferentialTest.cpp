@@ -5,7 +5,7 @@
 #include <bit>
 #include <cmath>
 #include <cstdarg>
-#include <limits>
+#include <variant>
 
 #include "services/Format.h"
 #include "win32/services/Differential.h"
@@ -34,30 +34,20 @@ std::wstring ReferenceFormat(const wchar_t* format, ...) {
     return buffer;
 }
 
-struct Value {
-    enum Kind { Integer, Double, String } kind;
-    long long integer = 0;
-    double number = 0;
-    const wchar_t* text = nullptr;
-};
+// The argument of the conversion: an integer, a double or a text.
+enum Kind { Integer, Double, String };
+using Value = std::variant<long long, double, const wchar_t*>;
 
 // Both sides get the same C++ arguments: up to two ints for the stars, then the value.
-template <typename... Stars>
-std::pair<std::wstring, std::wstring> BothWith(const wchar_t* format, const Value& value, Stars... stars) {
-    switch (value.kind) {
-        case Value::Integer:
-            return {ReferenceFormat(format, stars..., value.integer), crt::Format(format, stars..., value.integer)};
-        case Value::Double:
-            return {ReferenceFormat(format, stars..., value.number), crt::Format(format, stars..., value.number)};
-        default:
-            return {ReferenceFormat(format, stars..., value.text), crt::Format(format, stars..., value.text)};
-    }
-}
-
 std::pair<std::wstring, std::wstring> Both(const wchar_t* format, const std::vector<int>& stars, const Value& value) {
-    if (stars.size() == 2) return BothWith(format, value, stars[0], stars[1]);
-    if (stars.size() == 1) return BothWith(format, value, stars[0]);
-    return BothWith(format, value);
+    return std::visit(
+        [&](auto v) {
+            auto with = [&](auto... star) {
+                return std::pair{ReferenceFormat(format, star..., v), crt::Format(format, star..., v)};
+            };
+            return stars.size() == 2 ? with(stars[0], stars[1]) : stars.size() == 1 ? with(stars[0]) : with();
+        },
+        value);
 }
 
 long long InterestingInteger(Generator& g) {
@@ -111,15 +101,14 @@ const wchar_t* InterestingText(Generator& g) {
 // One conversion with random flags, width and precision, each possibly from the arguments.
 TEST(FormatDifferential, SingleConversionsMatchOnGeneratedSpecs) {
     // clang-format off
-    struct Conversion { const wchar_t* letters; const wchar_t* const* sizes; size_t sizeCount; Value::Kind kind; };
+    struct Conversion { const wchar_t* letters; const wchar_t* const* sizes; size_t sizeCount; Kind kind; };
     // clang-format on
     static const wchar_t* const integerSizes[] = {L"", L"l", L"ll", L"h", L"I64", L"I32"};
     static const wchar_t* const floatSizes[] = {L"", L"l", L"L"};
     static const wchar_t* const charSizes[] = {L"", L"l", L"w"};
     static const Conversion conversions[] = {
-        {L"diuxXo", integerSizes, 6, Value::Integer}, {L"feEgG", floatSizes, 3, Value::Double},
-        {L"FaA", floatSizes, 1, Value::Double},       {L"c", charSizes, 3, Value::Integer},
-        {L"s", charSizes, 3, Value::String},
+        {L"diuxXo", integerSizes, 6, Integer}, {L"feEgG", floatSizes, 3, Double}, {L"FaA", floatSizes, 1, Double},
+        {L"c", charSizes, 3, Integer},         {L"s", charSizes, 3, String},
     };
     Generator g(20240611);
     Mismatches mismatches;
@@ -130,7 +119,7 @@ TEST(FormatDifferential, SingleConversionsMatchOnGeneratedSpecs) {
         for (wchar_t flag : std::wstring(L"-+ #0"))
             if (g.Chance(20)) format += flag;
         // The reference crashes on "#" with "0" for a hexadecimal number that gets its prefix.
-        if (conversion.kind == Value::Integer && format.find(L'#') != std::wstring::npos && format.back() == L'0')
+        if (conversion.kind == Integer && format.find(L'#') != std::wstring::npos && format.back() == L'0')
             format.pop_back();
         // For %a the reference pads a left-justified field inside the number and a precision
         // beyond the 13 digits of a double with blanks, so those stay out.
@@ -146,38 +135,32 @@ TEST(FormatDifferential, SingleConversionsMatchOnGeneratedSpecs) {
         if (g.Chance(15)) {
             format += L".*";
             // A negative precision counts as none; the reference gets that right for integers only.
-            stars.push_back(conversion.kind == Value::Double ? static_cast<int>(g.Below(hex ? 14 : 21))
-                                                             : static_cast<int>(g.Below(17)) - 4);
+            stars.push_back(conversion.kind == Double ? static_cast<int>(g.Below(hex ? 14 : 21))
+                                                      : static_cast<int>(g.Below(17)) - 4);
         } else if (g.Chance(50)) {
             format += L'.';
             // Long precisions only where the reference copes with them: its integer conversion
             // overruns a fixed buffer when precision and prefix pass about 20 digits.
-            uint32_t limit = conversion.kind == Value::Integer ? 13 : hex ? 14 : g.Chance(10) ? 80 : 21;
+            uint32_t limit = conversion.kind == Integer ? 13 : hex ? 14 : g.Chance(10) ? 80 : 21;
             if (g.Chance(85)) format += std::to_wstring(g.Below(limit));
         }
         format += conversion.sizes[g.Below(static_cast<uint32_t>(conversion.sizeCount))];
         format += letter;
         format += L'>';
 
-        Value value{conversion.kind};
-        if (conversion.kind == Value::Integer)
-            value.integer = letter == L'c' ? g.Below(0x10000) : InterestingInteger(g);
-        if (conversion.kind == Value::Double) value.number = InterestingDouble(g);
-        if (conversion.kind == Value::String) value.text = InterestingText(g);
-
+        Value value = conversion.kind == Double ? Value(InterestingDouble(g))
+                      : conversion.kind == String
+                          ? Value(InterestingText(g))
+                          : Value(letter == L'c' ? static_cast<long long>(g.Below(0x10000)) : InterestingInteger(g));
         auto [expected, found] = Both(format.c_str(), stars, value);
         if (expected != found) {
-            char argument[96];
-            if (value.kind == Value::Integer)
-                snprintf(argument, sizeof argument, "%lld", value.integer);
-            else if (value.kind == Value::Double)
-                snprintf(argument, sizeof argument, "%016llx",
-                         static_cast<unsigned long long>(std::bit_cast<uint64_t>(value.number)));
-            else
-                snprintf(argument, sizeof argument, "%s", value.text ? Hex(value.text).c_str() : "null");
-            std::string starText;
-            for (int star : stars) starText += std::to_string(star) + ",";
-            mismatches.Add(differential::Narrow(format) + " (" + starText + argument + ") expected \"" +
+            std::string argument;
+            for (int star : stars) argument += std::to_string(star) + ",";
+            if (auto* integer = std::get_if<long long>(&value)) argument += std::to_string(*integer);
+            if (auto* number = std::get_if<double>(&value))
+                argument += "bits " + std::to_string(std::bit_cast<uint64_t>(*number));
+            if (auto* text = std::get_if<const wchar_t*>(&value)) argument += *text ? Hex(*text) : "null";
+            mismatches.Add(differential::Narrow(format) + " (" + argument + ") expected \"" +
                            differential::Narrow(expected) + "\" got \"" + differential::Narrow(found) + "\"");
         }
     }

@@ -4,7 +4,6 @@
 
 #include <string>
 #include <tuple>
-#include <vector>
 
 #include "platform/win32/Win32Platform.h"
 #include "settings/SettingsStore.h"

@@ -5,8 +5,8 @@
 #include <windows.h>
 
 #include <string>
-#include <vector>
 
+#include "e2e/support/FakeHostProcess.h"
 #include "e2e/support/Files.h"
 #include "win32/support/RealHostPlatform.h"
 
@@ -29,19 +29,11 @@ inline std::wstring TempLog(const wchar_t* name) {
     return path;
 }
 
-inline std::vector<std::string> ReadLines(const std::wstring& path) {
-    std::vector<std::string> lines;
-    const std::string text = e2e::ReadFileBytes(path);
-    for (size_t start = 0, end; (end = text.find('\n', start)) != std::string::npos; start = end + 1)
-        lines.push_back(text.substr(start, end - start));
-    return lines;
-}
-
 // Waits for a line that starts with prefix; gives the whole line, or an empty one on time-out.
 inline std::string WaitForLine(const std::wstring& log, const std::string& prefix, DWORD timeoutMs = 10000) {
     DWORD start = GetTickCount();
     do {
-        for (const std::string& line : ReadLines(log))
+        for (const std::string& line : e2e::ReadLogLines(log))
             if (line.starts_with(prefix)) return line;
         PumpMessages(20);
     } while (GetTickCount() - start < timeoutMs);

@@ -21,6 +21,7 @@
 #include "resources/app/AppIds.h"
 #include "resources/pages/PageIds.h"
 #include "settings/SettingsStore.h"
+#include "ui/ListView.h"
 #include "ui/TreeView.h"
 #include "unit/Utf16.h"
 #include "win32/ui/ScriptedDialog.h"
@@ -64,6 +65,14 @@ inline std::vector<int> OpenedPages(const COptionDlg& dialog) {
         if (dialog.Pages()[i]->opened) ids.push_back(pages[i].id);
     }
     return ids;
+}
+
+// The texts of one column of a list view, row by row.
+inline std::vector<std::wstring> Column(HWND list, int column) {
+    const ui::ListView view(list);
+    std::vector<std::wstring> texts;
+    for (int row = 0; row < view.GetItemCount(); ++row) texts.push_back(view.GetItemText(row, column));
+    return texts;
 }
 
 inline RECT ScreenRect(HWND window) {
@@ -127,6 +136,32 @@ protected:
     void SetStart(std::optional<int> start) {
         fake_.registry().DeleteKey(PageKey());
         if (start) DirectWriteInt(PageKey(), L"Start", *start);
+    }
+
+    // The dialog opened on the page, and the page's window; null when the page did not open.
+    HWND Open(COptionDlg& dialog, int page) {
+        SetStart(page);
+        if (!dialog.Create(nullptr)) return nullptr;
+        return dialog.Page(page) && dialog.Page(page)->opened ? dialog.Page(page)->hwnd() : nullptr;
+    }
+    static void Apply(const COptionDlg& dialog) {
+        SendMessageW(dialog.hwnd(), WM_COMMAND, MAKEWPARAM(IDC_OPTION_APPLY, BN_CLICKED), 0);
+    }
+
+    // What the host heard from the given point on, without the brackets of each series.
+    std::vector<uint16_t> Codes(size_t from = 0) {
+        std::vector<uint16_t> codes;
+        const auto& sent = fake_.windows().commands();
+        for (size_t i = from; i < sent.size(); ++i)
+            if (sent[i].id != 48999 && sent[i].id != 49099) codes.push_back(sent[i].id);
+        return codes;
+    }
+    // The texts of the message boxes shown from the given point on.
+    std::vector<std::wstring> Messages(size_t from = 0) {
+        std::vector<std::wstring> texts;
+        const auto& shown = fake_.prompts().shown();
+        for (size_t i = from; i < shown.size(); ++i) texts.push_back(shown[i].text);
+        return texts;
     }
 
     // A dialog text file for the option dialog in a language other than the templates' own.

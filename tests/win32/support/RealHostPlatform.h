@@ -4,7 +4,6 @@
 
 #include <windows.h>
 
-#include <string>
 
 #include "e2e/support/Process.h"
 #include "platform/fake/FakePlatform.h"

@@ -1,0 +1,101 @@
+// Pages in the running program: each opens as the page to start on, takes one change as a user makes
+// it, and Apply stores it in the page's section of the real registry and tells a running host what to
+// reread. The pages' own rules are the in-process page tests'; the rows here are those whose values
+// take a way of their own (bits, a text, a combo, values the page rewrites).
+#include <gtest/gtest.h>
+
+#include <windows.h>
+
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "support/FakeHostProcess.h"
+#include "support/OptionWindow.h"
+#include "support/Process.h"
+#include "support/Registry.h"
+
+namespace {
+
+namespace reg = e2e::registry;
+
+constexpr int kApply = 1301;
+constexpr wchar_t kListDraw[] = L"Software\\Tarnwick\\Qor\\Main001\\ListDraw";
+constexpr wchar_t kMouse[] = L"Software\\Tarnwick\\Qor\\Main001\\Mouse";
+constexpr wchar_t kTabStyle[] = L"Software\\Tarnwick\\Qor\\Main001\\TabStyle";
+constexpr wchar_t kColor[] = L"Software\\Tarnwick\\Qor\\Main001\\Color";
+
+// What the user does on the page: a button pressed (a check or radio changes with it), a field typed,
+// or an item of a combo picked.
+struct Change {
+    int control;
+    const wchar_t* typed = nullptr;
+    int item = -1;
+};
+
+// The value stored beforehand and the one Apply leaves: a number, or a text when text is set.
+struct Value {
+    const wchar_t* name;
+    DWORD number = 0;
+    const wchar_t* text = nullptr;
+};
+
+void Write(const wchar_t* section, const Value& value) {
+    value.text ? reg::WriteString(section, value.name, value.text) : reg::WriteDword(section, value.name, value.number);
+}
+
+std::wstring Read(const wchar_t* section, const Value& value) {
+    if (value.text) return reg::ReadString(section, value.name).value_or(L"<absent>");
+    const std::optional<DWORD> number = reg::ReadDword(section, value.name);
+    return number ? std::to_wstring(*number) : L"<absent>";
+}
+
+TEST(Pages, EachPageStoresItsSectionAndTellsTheHostItsCode) {
+    // clang-format off
+    struct Case { int page; const wchar_t* section; Value stored; std::vector<Change> changes; Value applied;
+                  unsigned code; };
+    const Case cases[] = {
+        {28, kListDraw, {L"ListCtrls", 0xFFFFFFFF}, {{1260}}, {L"ListCtrls", 5}, 49028},
+        {40, kMouse, {L"ContextMenu", 0x33333333}, {{1252}}, {L"ContextMenu", 0x33333331}, 49037},
+        {3,  kListDraw, {L"TimeFmt", 0, L"yyyy"}, {{1152, L"H:mm d/M"}}, {L"TimeFmt", 0, L"H:mm d/M"}, 49000},
+        // A right click command the page does not offer is written back as closing the tab.
+        {31, kTabStyle, {L"TabBarClkR", 12345}, {}, {L"TabBarClkR", 35112}, 49031},
+        // A skin the colour page does not know is stored as the first one.
+        {26, kColor, {L"ApplicationLook", 33211}, {}, {L"ApplicationLook", 33204}, 49001},
+        // The script page's edit mode: the host has nothing to reread and hears only the brackets.
+        {21, reg::kOptionPage, {L"ExToolMode", 0}, {{1151, nullptr, 2}}, {L"ExToolMode", 2}, 0},
+    };
+    // clang-format on
+    for (const Case& c : cases) {
+        SCOPED_TRACE(testing::Message() << "page " << c.page << ", "
+                                        << testing::PrintToString(std::wstring(c.applied.name)));
+        reg::ScopedKey page(reg::kOptionPage), section(c.section);
+        reg::DeleteKey(c.section);
+        reg::WriteDword(reg::kOptionPage, L"Start", c.page);
+        Write(c.section, c.stored);
+        e2e::FakeHost host;
+        ASSERT_TRUE(host.Window());
+        e2e::Process option = e2e::StartOption();
+        ASSERT_TRUE(option);
+        HWND dialog = e2e::FindVisibleWindow(option.Id(), L"オプション");
+        ASSERT_NE(nullptr, dialog);
+        HWND shown = nullptr;
+        for (const Change& change : c.changes) {
+            shown = e2e::PageWith(dialog, change.control);
+            ASSERT_NE(nullptr, shown);
+            if (change.typed)
+                e2e::SetText(shown, change.control, change.typed);
+            else if (change.item >= 0)
+                SendDlgItemMessageW(shown, change.control, CB_SETCURSEL, change.item, 0);
+            else  // as the mouse does it, so that a check or radio button changes too
+                SendDlgItemMessageW(shown, change.control, BM_CLICK, 0, 0);
+        }
+        e2e::Click(dialog, kApply);
+        EXPECT_EQ(Read(c.section, c.applied), c.applied.text ? c.applied.text : std::to_wstring(c.applied.number));
+        EXPECT_EQ((c.code ? std::vector<unsigned>{48999, c.code, 49099} : std::vector<unsigned>{48999, 49099}),
+                  host.Commands());
+        EXPECT_EQ(0u, option.CloseDialog(dialog));
+    }
+}
+
+}  // namespace
