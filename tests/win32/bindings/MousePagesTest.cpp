@@ -105,6 +105,23 @@ TEST_F(MousePagesTest, GestureRowsKeepTheirTrailsUniqueAndTheDefaultsReplaceThem
     Click(page, 1303);
     EXPECT_EQ(L"\u2191", list.GetItemText(0, 0));
     EXPECT_EQ((std::vector<std::wstring>{L"none", L"taken"}), Messages());
+    WhenShown(L"マウスジェスチャ", [](HWND trail) {
+        Click(trail, 1303);
+        Click(trail, IDOK);
+    });
+    const NMHDR doubleClick{list.hwnd(), 1601, NM_DBLCLK};
+    SendMessageW(page, WM_NOTIFY, 1601, reinterpret_cast<LPARAM>(&doubleClick));
+    EXPECT_EQ(L"\u2191\u2192", list.GetItemText(0, 0));
+    WhenShown(L"マウスジェスチャ", [](HWND trail) {
+        Click(trail, 1306);
+        Click(trail, IDCANCEL);
+    });
+    Click(page, 1303);
+    EXPECT_EQ(L"\u2191\u2192", list.GetItemText(0, 0)) << "cancelled";
+    fake_.prompts().ChooseColourNext(0x00FF00);
+    Click(page, 1101);
+    Click(page, 1301);
+    EXPECT_EQ(2, list.GetItemCount()) << "the reset answered No";
 
     fake_.prompts().Answer(platform::kAnswerYes);
     Click(page, 1301);
@@ -113,6 +130,7 @@ TEST_F(MousePagesTest, GestureRowsKeepTheirTrailsUniqueAndTheDefaultsReplaceThem
     EXPECT_EQ(36200, DirectReadInt(kGesture, L"U", -1));
     EXPECT_EQ(35000, DirectReadInt(kGesture, L"DRULDRUL", -1));
     EXPECT_EQ(-1, DirectReadInt(kGesture, L"D", -1));
+    EXPECT_EQ(0x00FF00, DirectReadInt(kMouse, L"GestureCol", -1));
 }
 
 }  // namespace
