@@ -45,6 +45,18 @@ protected:
 
 TEST_F(MousePagesTest, ClickActionsAreChosenSwappedAndStoredAndAnUnknownOneKeepsThePageOut) {
     {
+        // The blank area's scripts keep only the chosen file's name; a cancelled box changes nothing.
+        COptionDlg dialog(app_);
+        HWND page = Open(dialog, 42);
+        ASSERT_NE(nullptr, page);
+        fake_.prompts().ChooseFolder({true, L"D:\\Elsewhere\\Up.txt"});
+        Click(page, 1303);
+        Click(page, 1304);
+        EXPECT_EQ(L"Up.txt", TextOf(GetDlgItem(page, 1003)));
+        EXPECT_EQ(L"", TextOf(GetDlgItem(page, 1004)));
+        EXPECT_EQ(app_.directories.UserDirectory() + L"Script\\", fake_.prompts().browsed().back().start);
+    }
+    {
         DirectWriteInt(kListMouse, L"L", 25);
         COptionDlg dialog(app_);
         EXPECT_EQ(nullptr, Open(dialog, 4));
