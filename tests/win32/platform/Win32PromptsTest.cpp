@@ -3,12 +3,14 @@
 #include <gtest/gtest.h>
 #include <windows.h>
 #include <commctrl.h>
+#include <commdlg.h>
 #include <objbase.h>
 #include <shlobj.h>
 
 #include <cstdio>
 #include <filesystem>
 #include <functional>
+#include <optional>
 #include <future>
 #include <string>
 
@@ -193,6 +195,25 @@ TEST(Win32Prompts, MessageBoxIcons) {
         });
         EXPECT_EQ(LoadIconW(nullptr, c.icon), shown);
         EXPECT_EQ(static_cast<int>(c.answer), answer);
+    }
+}
+
+// The colour chooser opens on the colour given and gives it back on OK, the font chooser gives a face;
+// Cancel gives nothing.
+TEST(Win32Prompts, ColourAndFontChoosers) {
+    LogFont face;
+    face.lfHeight = -16;
+    face.lfWeight = FW_NORMAL;
+    wcscpy(face.lfFaceName, L"Tahoma");
+    for (WPARAM answer : {IDOK, IDCANCEL}) {
+        SCOPED_TRACE(answer);
+        const auto press = [&](HWND box) { PostMessageW(box, WM_COMMAND, answer, 0); };
+        EXPECT_EQ(answer == IDOK ? std::optional<uint32_t>(0x336699) : std::nullopt,
+                  OnItsOwnThread([](platform::Prompts& prompts) { return prompts.ChooseColour(0x336699); }, press));
+        const std::optional<LogFont> font = OnItsOwnThread(
+            [&](platform::Prompts& prompts) { return prompts.ChooseFontFace(face, CF_SCREENFONTS); }, press);
+        // The face is the one given where the system has it, else the chooser's first.
+        EXPECT_EQ(answer == IDOK, font && font->lfFaceName[0]);
     }
 }
 
