@@ -59,6 +59,7 @@ protected:
         std::wstring state = property.name + L"=" + value + L" rows " + std::to_wstring(model().Rows().size()) +
                              L" from " + std::to_wstring(GetScrollPos(grid_, SB_VERT)) + L" choosers " +
                              std::to_wstring(choosers);
+        if (GetCursor() == LoadCursorW(nullptr, IDC_SIZEWE)) state += L" sizing";
         return EditInPlace() ? state + L" editing " + TextOf(EditInPlace()) : state;
     }
     int RowHeight() {
@@ -225,6 +226,7 @@ TEST_F(ColorGridPageTest, MouseWheelScrollBarKeysAndHostMessagesAsTheUserSeesThe
         {WM_SIZE, 0, 0, Part::Grid, L"拡張子=y rows 31 from 4 choosers 4"},
         {WM_SETFONT, 0, 0, Part::Grid, L"拡張子=y rows 31 from 4 choosers 4"},
         {WM_VSCROLL, SB_BOTTOM, 0, Part::Grid, L"拡張子=y rows 31 from 27 choosers 4"},
+        {WM_SETCURSOR, 0, 0, Part::Split, L"拡張子=y rows 31 from 27 choosers 4 sizing"},
     };
     ShowWindow(dialog_.hwnd(), SW_SHOWNA);
     fake_.prompts().ChooseColourNext(0x123456);
@@ -242,12 +244,22 @@ TEST_F(ColorGridPageTest, MouseWheelScrollBarKeysAndHostMessagesAsTheUserSeesThe
         if (step.message == WM_MOUSEMOVE) split = client.right * 3 / 10;
         if (step.message == WM_THEMECHANGED) SetWindowTheme(grid_, L" ", L" ");
         if (step.message == WM_SIZE)
-            SetWindowPos(grid_, nullptr, 0, 0, client.right, client.bottom / 2, SWP_NOMOVE | SWP_NOZORDER);
+            SetWindowPos(grid_, nullptr, 0, 0, ScreenRect(grid_).right - ScreenRect(grid_).left, client.bottom / 2,
+                         SWP_NOMOVE | SWP_NOZORDER);
         if (step.message == WM_SETFONT) wParam = reinterpret_cast<WPARAM>(big);
+        if (step.message == WM_SETCURSOR) {
+            POINT line{split, 0};
+            ClientToScreen(grid_, &line);
+            SetCursorPos(line.x, line.y);
+            for (MSG msg; PeekMessageW(&msg, nullptr, 0, 0, PM_REMOVE);) DispatchMessageW(&msg);
+        }
         const int at = step.part == Part::Split ? split : step.part < Part::Split ? x[int(step.part)] : 0;
-        SendMessageW(step.part == Part::Edit ? EditInPlace() : grid_, step.message, wParam,
-                     step.part < Part::Edit ? MAKELPARAM(at, row * height + height / 2) : 0);
-        for (MSG msg; PeekMessageW(&msg, nullptr, 0, 0, PM_REMOVE);) DispatchMessageW(&msg);
+        const LPARAM place = step.message == WM_SETCURSOR ? MAKELPARAM(HTCLIENT, WM_MOUSEMOVE)
+                             : step.part < Part::Edit     ? MAKELPARAM(at, row * height + height / 2)
+                                                          : 0;
+        SendMessageW(step.part == Part::Edit ? EditInPlace() : grid_, step.message, wParam, place);
+        for (MSG msg; step.message != WM_SETCURSOR && PeekMessageW(&msg, nullptr, 0, 0, PM_REMOVE);)
+            DispatchMessageW(&msg);
         UpdateWindow(grid_);
         EXPECT_EQ(step.expected, State()) << "after message " << step.message << " on row " << step.row;
     }
