@@ -74,6 +74,9 @@ TEST_F(RunDefinitionDialogsTest, TheRunEditorShowsTheFileRefusesAnUnknownModeAnd
     fake_.prompts().ChooseFolder({true, L"D:\\Work"});
     SendDlgItemMessageW(dialog, 1051, WM_SYSKEYDOWN, VK_DOWN, 1 << 29);
     EXPECT_EQ(L"1", fake_.prompts().browsed().at(0).start);
+    // Texts under no root stay as they are.
+    Click(dialog, 1303);
+    Click(dialog, 1304);
     app_.store.Message = -1;
     fake_.prompts().Answer(platform::kAnswerNo);
     Click(dialog, IDOK);
