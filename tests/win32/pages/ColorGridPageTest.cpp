@@ -215,6 +215,7 @@ TEST_F(ColorGridPageTest, MouseWheelScrollBarKeysAndHostMessagesAsTheUserSeesThe
         {WM_KEYDOWN, VK_DOWN, 0, Part::Edit, L"グループ3= rows 31 from 4 choosers 4"},
         {WM_LBUTTONDOWN, 0, 26, Part::Value, L"拡張子=x rows 31 from 4 choosers 4 editing x"},
         {WM_CHAR, L'y', 0, Part::Edit, L"拡張子=x rows 31 from 4 choosers 4 editing y"},
+        {WM_CHAR, L'\r', 0, Part::Edit, L"拡張子=x rows 31 from 4 choosers 4 editing y"},
         {WM_LBUTTONDOWN, 0, 25, Part::Name, L"色=#007F3F rows 31 from 4 choosers 4"},
         {WM_LBUTTONDOWN, 0, 26, Part::Between, L"拡張子=y rows 31 from 4 choosers 4"},
         {WM_LBUTTONDOWN, 0, 26, Part::Split, L"拡張子=y rows 31 from 4 choosers 4"},

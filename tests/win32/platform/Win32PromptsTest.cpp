@@ -182,8 +182,9 @@ TEST(Win32Prompts, MessageBoxIcons) {
     // clang-format off
     struct Case { unsigned style; LPCWSTR icon; WPARAM answer; };
     // clang-format on
-    for (const Case& c : {Case{MB_OK, IDI_EXCLAMATION, IDOK}, Case{MB_YESNO, IDI_QUESTION, IDNO},
-                          Case{MB_OK | MB_ICONINFORMATION, IDI_INFORMATION, IDOK}}) {
+    for (const Case& c :
+         {Case{MB_OK, IDI_EXCLAMATION, IDOK}, Case{MB_YESNO, IDI_QUESTION, IDNO},
+          Case{MB_OK | MB_ICONINFORMATION, IDI_INFORMATION, IDOK}, Case{MB_RETRYCANCEL, nullptr, IDCANCEL}}) {
         SCOPED_TRACE(c.style);
         HICON shown = nullptr;
         auto show = [&](platform::Prompts& prompts) { return prompts.ShowMessage(L"Text of the box", c.style); };
@@ -193,7 +194,7 @@ TEST(Win32Prompts, MessageBoxIcons) {
                 shown = reinterpret_cast<HICON>(SendMessageW(child, STM_GETICON, 0, 0));
             PostMessageW(box, WM_COMMAND, c.answer, 0);
         });
-        EXPECT_EQ(LoadIconW(nullptr, c.icon), shown);
+        EXPECT_EQ(c.icon ? LoadIconW(nullptr, c.icon) : nullptr, shown);
         EXPECT_EQ(static_cast<int>(c.answer), answer);
     }
 }
