@@ -136,25 +136,13 @@ void COptionMouseGestureDlg::DeleteRow() {
         list_.DeleteItem(row);
 }
 
+// The table is emptied first, so none of its rows can clash with a default or fill it up.
 void COptionMouseGestureDlg::SetDefaults() {
     if (Prompts().ShowMessage(app().messages.Get(kMsgGestureResetQuestion), platform::kStyleYesNo) !=
         platform::kAnswerYes)
         return;
     list_.DeleteAllItems();
-    for (const GestureBinding& binding : DefaultGestureTable()) {
-        const int row = FindTrail(binding.trail);
-        if (row < 0) {
-            if (list_.GetItemCount() > kMaxGestureRows)
-                Tell(kMsgListFull);
-            else
-                InsertRow(binding.trail, binding.command);
-            continue;
-        }
-        const std::wstring question =
-            app().messages.Get(kMsgAlreadyListed) + L"\n" + app().messages.Get(kMsgReplaceQuestion);
-        if (Prompts().ShowMessage(question, platform::kStyleYesNo) == platform::kAnswerYes)
-            SetCommand(row, binding.command);
-    }
+    for (const GestureBinding& binding : DefaultGestureTable()) InsertRow(binding.trail, binding.command);
 }
 
 bool COptionMouseGestureDlg::OnCommand(int id, int code) {

@@ -49,11 +49,6 @@ bool PropertyGrid::Create(HWND parent, int id, const RECT& rect, DWORD style) {
     return true;
 }
 
-PropertyGrid* PropertyGrid::FromHandle(HWND window) {
-    if (!window || GetWindowLongPtrW(window, GWLP_WNDPROC) != reinterpret_cast<LONG_PTR>(&Proc)) return nullptr;
-    return reinterpret_cast<PropertyGrid*>(GetWindowLongPtrW(window, GWLP_USERDATA));
-}
-
 void PropertyGrid::SetFont(HFONT font) {
     font_ = font ? font : static_cast<HFONT>(GetStockObject(DEFAULT_GUI_FONT));
     if (boldFont_) DeleteObject(boldFont_);

@@ -32,8 +32,6 @@ public:
     // could not be made.
     bool Create(HWND parent, int id, const RECT& rect, DWORD style);
     HWND hwnd() const { return window_; }
-    // The grid behind a window of this class; null for any other window.
-    static PropertyGrid* FromHandle(HWND window);
 
     PropertyGridModel& model() { return model_; }
     // Shows the model as it now is, ending an edit in place without taking it.

@@ -25,6 +25,18 @@ using MousePagesTest = OptionDialogFixture;
 
 TEST_F(MousePagesTest, ClickActionsAreChosenSwappedAndStoredAndAnUnknownOneKeepsThePageOut) {
     {
+        // The blank area's scripts keep only the chosen file's name; a cancelled box changes nothing.
+        COptionDlg dialog(app_);
+        HWND page = Open(dialog, 42);
+        ASSERT_NE(nullptr, page);
+        fake_.prompts().ChooseFolder({true, L"D:\\Elsewhere\\Up.txt"});
+        Click(page, 1303);
+        Click(page, 1304);
+        EXPECT_EQ(L"Up.txt", TextOf(GetDlgItem(page, 1003)));
+        EXPECT_EQ(L"", TextOf(GetDlgItem(page, 1004)));
+        EXPECT_EQ(app_.directories.UserDirectory() + L"Script\\", fake_.prompts().browsed().back().start);
+    }
+    {
         DirectWriteInt(kListMouse, L"L", 25);
         COptionDlg dialog(app_);
         EXPECT_EQ(nullptr, Open(dialog, 4));
@@ -70,13 +82,14 @@ TEST_F(MousePagesTest, GestureRowsKeepTheirTrailsUniqueAndTheDefaultsReplaceThem
     ASSERT_NE(nullptr, page);
     EXPECT_EQ((std::vector<std::wstring>{L"\u2191", L"\u2193"}), Column(GetDlgItem(page, 1601), 0));
     Click(page, 1304);
-    EXPECT_EQ(std::vector<std::wstring>{L"none"}, Messages());
+    Click(page, 1303);
+    EXPECT_EQ((std::vector<std::wstring>{L"none", L"none"}), Messages());
     const ui::ListView list(GetDlgItem(page, 1601));
     list.SelectRow(0);
     WhenShown(L"マウスジェスチャ", [](HWND trail) { Click(trail, IDOK); });
     Click(page, 1303);
     EXPECT_EQ(L"\u2191", list.GetItemText(0, 0));
-    EXPECT_EQ(std::vector<std::wstring>{L"none"}, Messages()) << "its own trail kept";
+    EXPECT_EQ((std::vector<std::wstring>{L"none", L"none"}), Messages()) << "its own trail kept";
     WhenShown(L"マウスジェスチャ", [](HWND trail) {
         Click(trail, 1306);
         Click(trail, 1304);
@@ -84,7 +97,24 @@ TEST_F(MousePagesTest, GestureRowsKeepTheirTrailsUniqueAndTheDefaultsReplaceThem
     });
     Click(page, 1303);
     EXPECT_EQ(L"\u2191", list.GetItemText(0, 0));
-    EXPECT_EQ((std::vector<std::wstring>{L"none", L"taken"}), Messages());
+    EXPECT_EQ((std::vector<std::wstring>{L"none", L"none", L"taken"}), Messages());
+    WhenShown(L"マウスジェスチャ", [](HWND trail) {
+        Click(trail, 1303);
+        Click(trail, IDOK);
+    });
+    const NMHDR doubleClick{list.hwnd(), 1601, NM_DBLCLK};
+    SendMessageW(page, WM_NOTIFY, 1601, reinterpret_cast<LPARAM>(&doubleClick));
+    EXPECT_EQ(L"\u2191\u2192", list.GetItemText(0, 0));
+    WhenShown(L"マウスジェスチャ", [](HWND trail) {
+        Click(trail, 1306);
+        Click(trail, IDCANCEL);
+    });
+    Click(page, 1303);
+    EXPECT_EQ(L"\u2191\u2192", list.GetItemText(0, 0)) << "cancelled";
+    fake_.prompts().ChooseColourNext(0x00FF00);
+    Click(page, 1101);
+    Click(page, 1301);
+    EXPECT_EQ(2, list.GetItemCount()) << "the reset answered No";
 
     fake_.prompts().Answer(platform::kAnswerYes);
     Click(page, 1301);
@@ -93,6 +123,7 @@ TEST_F(MousePagesTest, GestureRowsKeepTheirTrailsUniqueAndTheDefaultsReplaceThem
     EXPECT_EQ(36200, DirectReadInt(kGesture, L"U", -1));
     EXPECT_EQ(35000, DirectReadInt(kGesture, L"DRULDRUL", -1));
     EXPECT_EQ(-1, DirectReadInt(kGesture, L"D", -1));
+    EXPECT_EQ(0x00FF00, DirectReadInt(kMouse, L"GestureCol", -1));
 }
 
 }  // namespace

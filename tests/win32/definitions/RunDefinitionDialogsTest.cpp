@@ -74,6 +74,9 @@ TEST_F(RunDefinitionDialogsTest, TheRunEditorShowsTheFileRefusesAnUnknownModeAnd
     fake_.prompts().ChooseFolder({true, L"D:\\Work"});
     SendDlgItemMessageW(dialog, 1051, WM_SYSKEYDOWN, VK_DOWN, 1 << 29);
     EXPECT_EQ(L"1", fake_.prompts().browsed().at(0).start);
+    // Texts under no root stay as they are.
+    Click(dialog, 1303);
+    Click(dialog, 1304);
     app_.store.Message = -1;
     fake_.prompts().Answer(platform::kAnswerNo);
     Click(dialog, IDOK);
@@ -185,19 +188,33 @@ TEST_F(RunDefinitionDialogsTest, TheScriptPageOpensScriptsByItsModeAndStoresIt) 
     // The editor opens modally over the page, captioned as the script editor.
     WhenShown(L"スクリプト編集", [](HWND editor) { PostMessageW(editor, WM_COMMAND, IDCANCEL, 0); });
     Click(page, 1301);
+    fake_.files().AddFile(kScripts + L"BinEdit.txt", Utf16Bytes(L"\uFEFFExRun=b.exe\r\n"));
+    WhenShown(L"拡張子連動コマンド編集", [](HWND editor) { PostMessageW(editor, WM_COMMAND, IDCANCEL, 0); });
+    Click(page, 1302);
+    Click(page, 1303);
+    EXPECT_EQ(L"Cannot open " + kScripts + L"Viewer.txt", fake_.prompts().shown().at(0).text);
+    fake_.prompts().Clear();
 
     Click(page, 1251);
     EXPECT_EQ((std::vector<bool>{false, false, false, true, true, true}),
               visible({1301, 1302, 1303, 1601, 1304, 1305}));
     ui::ListView list(GetDlgItem(page, 1601));
-    ASSERT_EQ(2, list.GetItemCount());
+    ASSERT_EQ(3, list.GetItemCount());
     Click(page, 1304);
     EXPECT_EQ((std::vector<ShownMessage>{{MessageCatalog::kMissingText, 0}}), fake_.prompts().shown());
     SendDlgItemMessageW(page, 1151, CB_SETCURSEL, 0, 0);
-    list.SelectRow(1);
+    list.SelectRow(2);
     Click(page, 1304);
     ASSERT_EQ(1u, fake_.processes().shellRequests().size());
     EXPECT_EQ(kScripts + L"Mine.txt", fake_.processes().shellRequests()[0].file);
+    const NMHDR doubleClick{list.hwnd(), 1601, NM_DBLCLK};
+    SendMessageW(page, WM_NOTIFY, 1601, reinterpret_cast<LPARAM>(&doubleClick));
+    Click(page, 1305);
+    ASSERT_EQ(3u, fake_.processes().shellRequests().size());
+    EXPECT_EQ(kScripts + L"Mine.txt", fake_.processes().shellRequests()[1].file);
+    EXPECT_EQ(kScripts.substr(0, kScripts.size() - 1), fake_.processes().shellRequests()[2].file);
+    SendMessageW(dialog.hwnd(), WM_COMMAND, MAKEWPARAM(IDC_OPTION_APPLY, BN_CLICKED), 0);
+    EXPECT_EQ(0, DirectReadInt(PageKey(), L"ExToolMode", -1));
 }
 
 }  // namespace

@@ -101,6 +101,7 @@ TEST_F(SkinAndEventPagesTest, BackgroundDialogFollowsItsMode) {
         {1205, L"65536", L"0", true, L"0～65535Pix", IDCANCEL, 4},
     };
     // clang-format on
+    fake_.images().AddPicture(L"D:\\Sea.png", {48, 40, 24, false});
     for (const Case& c : cases) {
         SCOPED_TRACE(c.radio);
         CDlgBkImage background(app_);
@@ -108,11 +109,13 @@ TEST_F(SkinAndEventPagesTest, BackgroundDialogFollowsItsMode) {
         bool enabled = false;
         std::wstring unit;
         fake_.prompts().Clear();
+        fake_.prompts().ChooseFolder({true, L"D:\\Sea.png"});
         const INT_PTR result =
             RunModal(background, {
                                      [&](HWND window) {
                                          SetDlgItemTextW(window, 1001, c.x);
                                          SetDlgItemTextW(window, 1002, c.y);
+                                         SendDlgItemMessageW(window, 1051, WM_SYSKEYDOWN, VK_DOWN, 1 << 29);
                                          Click(window, c.radio);
                                          enabled = IsWindowEnabled(GetDlgItem(window, 1001)) &&
                                                    IsWindowEnabled(GetDlgItem(window, 1002));
@@ -125,6 +128,7 @@ TEST_F(SkinAndEventPagesTest, BackgroundDialogFollowsItsMode) {
         EXPECT_EQ(c.unit, unit);
         EXPECT_EQ(c.result, result);
         EXPECT_EQ(c.mode, background.mode);
+        EXPECT_EQ(L"D:\\Sea.png", background.file) << "chosen by Alt+Down in the field";
         EXPECT_EQ(c.mode == 0 ? L"Enter a number between 0-100." : L"",
                   c.mode == 0 || c.result == IDOK ? LastMessage() : L"");
     }

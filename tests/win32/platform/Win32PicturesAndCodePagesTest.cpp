@@ -66,6 +66,7 @@ TEST_F(Com, PicturesKeepTheirAlphaAndStripsCountTheirFrames) {
     const Case cases[] = {
         {"Background/leaf.png", 48, 40, 32, true},
         {"img/Sakura/img.bmp", 64, 16, 24, false},
+        {"Background/tiles.bmp", 24, 16, 8, false},
     };
     // clang-format on
     for (const Case& c : cases) {

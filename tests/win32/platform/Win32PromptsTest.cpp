@@ -3,12 +3,14 @@
 #include <gtest/gtest.h>
 #include <windows.h>
 #include <commctrl.h>
+#include <commdlg.h>
 #include <objbase.h>
 #include <shlobj.h>
 
 #include <cstdio>
 #include <filesystem>
 #include <functional>
+#include <optional>
 #include <future>
 #include <string>
 
@@ -180,8 +182,9 @@ TEST(Win32Prompts, MessageBoxIcons) {
     // clang-format off
     struct Case { unsigned style; LPCWSTR icon; WPARAM answer; };
     // clang-format on
-    for (const Case& c : {Case{MB_OK, IDI_EXCLAMATION, IDOK}, Case{MB_YESNO, IDI_QUESTION, IDNO},
-                          Case{MB_OK | MB_ICONINFORMATION, IDI_INFORMATION, IDOK}}) {
+    for (const Case& c :
+         {Case{MB_OK, IDI_EXCLAMATION, IDOK}, Case{MB_YESNO, IDI_QUESTION, IDNO},
+          Case{MB_OK | MB_ICONINFORMATION, IDI_INFORMATION, IDOK}, Case{MB_RETRYCANCEL, nullptr, IDCANCEL}}) {
         SCOPED_TRACE(c.style);
         HICON shown = nullptr;
         auto show = [&](platform::Prompts& prompts) { return prompts.ShowMessage(L"Text of the box", c.style); };
@@ -191,8 +194,27 @@ TEST(Win32Prompts, MessageBoxIcons) {
                 shown = reinterpret_cast<HICON>(SendMessageW(child, STM_GETICON, 0, 0));
             PostMessageW(box, WM_COMMAND, c.answer, 0);
         });
-        EXPECT_EQ(LoadIconW(nullptr, c.icon), shown);
+        EXPECT_EQ(c.icon ? LoadIconW(nullptr, c.icon) : nullptr, shown);
         EXPECT_EQ(static_cast<int>(c.answer), answer);
+    }
+}
+
+// The colour chooser opens on the colour given and gives it back on OK, the font chooser gives a face;
+// Cancel gives nothing.
+TEST(Win32Prompts, ColourAndFontChoosers) {
+    LogFont face;
+    face.lfHeight = -16;
+    face.lfWeight = FW_NORMAL;
+    wcscpy(face.lfFaceName, L"Tahoma");
+    for (WPARAM answer : {IDOK, IDCANCEL}) {
+        SCOPED_TRACE(answer);
+        const auto press = [&](HWND box) { PostMessageW(box, WM_COMMAND, answer, 0); };
+        EXPECT_EQ(answer == IDOK ? std::optional<uint32_t>(0x336699) : std::nullopt,
+                  OnItsOwnThread([](platform::Prompts& prompts) { return prompts.ChooseColour(0x336699); }, press));
+        const std::optional<LogFont> font = OnItsOwnThread(
+            [&](platform::Prompts& prompts) { return prompts.ChooseFontFace(face, CF_SCREENFONTS); }, press);
+        // The face is the one given where the system has it, else the chooser's first.
+        EXPECT_EQ(answer == IDOK, font && font->lfFaceName[0]);
     }
 }
 
