@@ -1,5 +1,6 @@
-// The sound and event pages in the running program: files picked in the system's file box are kept by
-// their bare names and the host hears of each page.
+// The skin, sound and event pages in the running program: a background chosen and then cancelled
+// with the whole dialog stores nothing; files picked in the system's file box are kept by their bare
+// names and the host hears of each page.
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -8,6 +9,7 @@
 #include <commctrl.h>
 
 #include <filesystem>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -23,6 +25,11 @@ namespace fs = std::filesystem;
 namespace reg = e2e::registry;
 
 constexpr int kApply = 1301;
+constexpr int kBackground = 1301;
+constexpr int kBackgroundFile = 1051;
+constexpr int kPlacedMode = 1201;
+constexpr int kBackgroundX = 1001;
+constexpr int kBackgroundY = 1002;
 constexpr int kRows = 1601;
 constexpr int kChoose = 1301;
 constexpr int kFileBoxName = 1148;  // the file name field of the system's open box
@@ -70,6 +77,27 @@ protected:
     e2e::Process option;
     HWND dialog = nullptr;
 };
+
+TEST_F(SkinAndEventPagesTest, ABackgroundChosenThenCancelledLeavesTheRegistryAlone) {
+    HWND page = Open(12, kBackground);
+    ASSERT_NE(nullptr, page);
+    PostMessageW(page, WM_COMMAND, MAKEWPARAM(kBackground, BN_CLICKED), 0);
+    HWND background = e2e::FindVisibleWindow(option.Id(), L"背景画像");
+    ASSERT_NE(nullptr, background);
+    const std::wstring picture = e2e::StageRoot() + L"\\Background\\leaf.png";
+    e2e::SetText(background, kBackgroundFile, picture.c_str());
+    SendMessageW(GetDlgItem(background, kPlacedMode), BM_CLICK, 0, 0);
+    e2e::SetText(background, kBackgroundX, L"50");
+    e2e::SetText(background, kBackgroundY, L"25");
+    EXPECT_TRUE(e2e::Answer(background, IDOK)) << "OK refused the background";
+    option.CloseDialog(dialog);
+    for (const wchar_t* name : {L"BkImgName", L"SkinName", L"PrgSkin"}) {
+        EXPECT_EQ(std::nullopt, reg::ReadString(reg::kSettings, name)) << fs::path(name).string();
+    }
+    for (const wchar_t* name : {L"BkMode", L"BkPosX", L"BkPosY", L"BkAlpha"}) {
+        EXPECT_EQ(std::nullopt, reg::ReadDword(reg::kSettings, name)) << fs::path(name).string();
+    }
+}
 
 TEST_F(SkinAndEventPagesTest, SoundAndEventFilesAreStoredByTheirBareNames) {
     e2e::FakeHost host;
