@@ -73,11 +73,9 @@ TEST(Pages, EachPageStoresItsSectionAndTellsTheHostItsCode) {
         reg::DeleteKey(c.section);
         reg::WriteDword(reg::kOptionPage, L"Start", c.page);
         Write(c.section, c.stored);
-        e2e::FakeHost host;
+        e2e::OptionBesideHost run;
+        auto& [host, option, dialog] = run;
         ASSERT_TRUE(host.Window());
-        e2e::Process option = e2e::StartOption();
-        ASSERT_TRUE(option);
-        HWND dialog = e2e::FindVisibleWindow(option.Id(), L"オプション");
         ASSERT_NE(nullptr, dialog);
         HWND shown = nullptr;
         for (const Change& change : c.changes) {

@@ -32,11 +32,9 @@ TEST(PreviewPage, APluginAddedIsRegisteredWithItsOwnExtensions) {
     reg::DeleteKey(kPlugins);
     reg::WriteString(kPlugins, L"Dll1", L"Stale.dll");
     reg::WriteDword(reg::kOptionPage, L"Start", 6);
-    e2e::FakeHost host;
+    e2e::OptionBesideHost run;
+    auto& [host, option, dialog] = run;
     ASSERT_TRUE(host.Window());
-    e2e::Process option = e2e::StartOption();
-    ASSERT_TRUE(option);
-    HWND dialog = e2e::FindVisibleWindow(option.Id(), L"オプション");
     ASSERT_NE(nullptr, dialog);
     HWND pagePane = e2e::PageWith(dialog, kList);
     ASSERT_NE(nullptr, pagePane);

@@ -33,11 +33,9 @@ TEST(TreePageTest, ThirtyRootsAppliedUnchangedAreWrittenBackWithTheEndMark) {
     for (size_t n = 0; n < roots.size(); ++n) reg::WriteString(kTreeInfo, L"TopNode" + std::to_wstring(n), roots[n]);
     reg::WriteString(kTreeInfo, L"TopNode30", L"C:\\windows\\fonts");
     reg::WriteDword(reg::kOptionPage, L"Start", 10);
-    e2e::FakeHost host;
+    e2e::OptionBesideHost run;
+    auto& [host, option, dialog] = run;
     ASSERT_TRUE(host.Window());
-    e2e::Process option = e2e::StartOption();
-    ASSERT_TRUE(option);
-    HWND dialog = e2e::FindVisibleWindow(option.Id(), L"オプション");
     ASSERT_NE(nullptr, dialog);
     ASSERT_NE(nullptr, e2e::PageWith(dialog, 1603));
     e2e::Click(dialog, kApply);

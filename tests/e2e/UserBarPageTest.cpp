@@ -38,11 +38,9 @@ TEST(UserBarPageTest, AFolderRegisteredAsTheFirstBarGetsItsIconAndIsStored) {
     reg::WriteDword(reg::kSettings, L"UserDirMode", 2);
     reg::WriteString(reg::kSettings, L"UserDir", user.wstring() + L"\\");
     reg::WriteDword(reg::kOptionPage, L"Start", 11);
-    e2e::FakeHost host;
+    e2e::OptionBesideHost run;
+    auto& [host, option, dialog] = run;
     ASSERT_TRUE(host.Window());
-    e2e::Process option = e2e::StartOption();
-    ASSERT_TRUE(option);
-    HWND dialog = e2e::FindVisibleWindow(option.Id(), L"オプション");
     ASSERT_NE(nullptr, dialog);
     HWND shown = e2e::PageWith(dialog, kSlots);
     ASSERT_NE(nullptr, shown);

@@ -7,6 +7,7 @@
 #include <string>
 #include <vector>
 
+#include "OptionWindow.h"
 #include "Process.h"
 
 namespace e2e {
@@ -46,5 +47,13 @@ private:
 
 // Reads a UTF-8 text file into lines without their line ends; shared so that a writer may keep it open.
 std::vector<std::string> ReadLogLines(const std::wstring& path);
+
+// The option program started beside a fake host on the page "Start" names, its dialog found; a test
+// binds the three by `auto& [host, option, dialog] = run;` and asserts on the host and the dialog.
+struct OptionBesideHost {
+    FakeHost host;
+    Process option = StartOption();
+    HWND dialog = option ? FindVisibleWindow(option.Id(), L"オプション") : nullptr;
+};
 
 }  // namespace e2e
