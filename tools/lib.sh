@@ -24,6 +24,7 @@ PACKAGES=(
   "x11-utils:/usr/bin/xdpyinfo"
   "imagemagick:/usr/bin/convert"
   "fonts-noto-cjk:/usr/share/fonts/opentype/noto/NotoSansCJK-Regular.ttc"
+  "python3:/usr/bin/python3"
 )
 
 # What tools/fuzz needs beyond that: clang with libFuzzer, and the OpenMP runtime clang links against.
@@ -68,13 +69,15 @@ build_preset() {
 
 # stage [BUILD_TREE [STAGE_DIR]]: lays out an installation tree from sample/ and the Windows build
 # (build/win64 into build/stage unless told otherwise): the program two folders below the application
-# root, the sample user directory as "User", the sample preview plug-ins in "command\PvPlugIn"; the Wine
-# prefix's own user directory gets its command lists.
+# root with its English dialog text files, the sample user directory as "User", the sample preview
+# plug-ins in "command\PvPlugIn"; the Wine prefix's own user directory gets its command lists.
 stage() {
   local tree=${1:-$BUILD/win64} to=${2:-$STAGE}
   mkdir -p "$to/command/Option" "$to/Lang"
   if [ -d "$ROOT/sample" ]; then cp -a "$ROOT/sample/." "$to/"; fi
   cp -a "$tree/src/Option.exe" "$to/command/Option/"
+  # The dialog text files of the languages the program's own templates are not written in.
+  if [ -d "$tree/sample/Lang/dialogs" ]; then cp -a "$tree/sample/Lang/dialogs/." "$to/command/Option/"; fi
   local dll
   for dll in "$tree"/sample/Lang/*.dll; do
     [ -e "$dll" ] && cp -a "$dll" "$to/Lang/"

@@ -1,0 +1,208 @@
+// The English dialog text files that come with the program: every text a dialog writes for its
+// translators has its English line, and with English chosen no page of the option dialog shows a
+// Japanese character anywhere.
+#include <gtest/gtest.h>
+#include <windows.h>
+
+#include <commctrl.h>
+
+#include <algorithm>
+#include <map>
+#include <memory>
+#include <set>
+#include <sstream>
+#include <string>
+#include <vector>
+
+#include "definitions/CDlgMenuCommand.h"
+#include "ui/LocaliseDialog.h"
+#include "unit/Utf16.h"
+#include "win32/support/OptionDialogFixture.h"
+
+namespace {
+
+using namespace optiontest;
+
+// Where the build writes the English files, and where the program looks for a language's files.
+const std::wstring kBuiltEnglish = OPTION_BINARY_DIR L"/sample/Lang/dialogs/.en-US/Option/";
+const std::wstring kProgramFolder = L"C:\\Qor\\command\\Option\\";
+
+bool IsJapanese(wchar_t c) {
+    return (c >= 0x3000 && c <= 0x30FF) || (c >= 0x3400 && c <= 0x9FFF) || (c >= 0xF900 && c <= 0xFAFF) ||
+           (c >= 0xFF00 && c <= 0xFFEF);
+}
+bool HasJapanese(const std::wstring& text) {
+    return std::any_of(text.begin(), text.end(), IsJapanese);
+}
+
+std::string Narrow(const std::wstring& text) {
+    std::string out(static_cast<size_t>(WideCharToMultiByte(CP_UTF8, 0, text.c_str(), -1, nullptr, 0, nullptr, nullptr)), 0);
+    WideCharToMultiByte(CP_UTF8, 0, text.c_str(), -1, out.data(), static_cast<int>(out.size()), nullptr, nullptr);
+    out.pop_back();
+    return out;
+}
+
+std::vector<uint8_t> RealFile(const std::wstring& path) {
+    std::vector<uint8_t> bytes;
+    HANDLE file = CreateFileW(path.c_str(), GENERIC_READ, FILE_SHARE_READ, nullptr, OPEN_EXISTING, 0, nullptr);
+    if (file == INVALID_HANDLE_VALUE) return bytes;
+    bytes.resize(GetFileSize(file, nullptr));
+    DWORD read = 0;
+    if (!bytes.empty()) ReadFile(file, bytes.data(), static_cast<DWORD>(bytes.size()), &read, nullptr);
+    CloseHandle(file);
+    bytes.resize(read);
+    return bytes;
+}
+
+// The lines of a dialog text file split at tabs; the first is the title. Empty when there is no file.
+std::vector<std::vector<std::wstring>> Lines(const std::vector<uint8_t>& bytes) {
+    std::vector<std::vector<std::wstring>> lines;
+    std::wstring text = Utf16Text(bytes);
+    if (!text.empty() && text[0] == 0xFEFF) text.erase(0, 1);
+    for (size_t at = 0; at < text.size();) {
+        size_t end = text.find(L"\r\n", at);
+        if (end == std::wstring::npos) end = text.size();
+        std::vector<std::wstring> fields;
+        for (size_t from = at;;) {
+            size_t tab = text.find(L'\t', from);
+            if (tab == std::wstring::npos || tab > end) {
+                fields.push_back(text.substr(from, end - from));
+                break;
+            }
+            fields.push_back(text.substr(from, tab - from));
+            from = tab + 1;
+        }
+        lines.push_back(std::move(fields));
+        at = end + 2;
+    }
+    return lines;
+}
+
+// The templates of the program itself, not those the tests add.
+std::vector<int> DialogTemplates() {
+    std::vector<int> ids;
+    HMODULE program = LoadLibraryExW(OPTION_BINARY_DIR L"/src/Option.exe", nullptr, LOAD_LIBRARY_AS_DATAFILE);
+    EnumResourceNamesW(
+        program, RT_DIALOG,
+        [](HMODULE, LPCWSTR, LPWSTR name, LONG_PTR list) -> BOOL {
+            if (IS_INTRESOURCE(name)) reinterpret_cast<std::vector<int>*>(list)->push_back(LOWORD(name));
+            return TRUE;
+        },
+        reinterpret_cast<LONG_PTR>(&ids));
+    FreeLibrary(program);
+    return ids;
+}
+
+// A dialog whose code puts no text of its own into it: the template, its initial list data and the
+// translation step, as every dialog of the program begins.
+class BareDialog : public ui::Dialog {
+public:
+    BareDialog(int id, DialogLanguage& language) : ui::Dialog(id), language_(language) {}
+    ~BareDialog() override { DestroyWindow(); }
+
+protected:
+    bool OnInitDialog() override {
+        const bool focus = ui::Dialog::OnInitDialog();
+        ui::LocaliseDialog(hwnd(), templateId(), language_);
+        return focus;
+    }
+
+private:
+    DialogLanguage& language_;
+};
+
+std::vector<HTREEITEM> AllItems(const ui::TreeView& tree, HTREEITEM first) {
+    std::vector<HTREEITEM> items;
+    for (HTREEITEM item = first; item; item = tree.GetNextSiblingItem(item)) {
+        items.push_back(item);
+        for (HTREEITEM child : AllItems(tree, tree.GetChildItem(item))) items.push_back(child);
+    }
+    return items;
+}
+
+class EnglishDialogText : public OptionDialogFixture {
+protected:
+    void UseLanguage(const wchar_t* tag) { DirectWriteString(kDirectSettingsPath, L"NLS", tag); }
+
+    // Opens every page and group of the option dialog from its tree.
+    static void VisitEveryItem(const COptionDlg& dialog, const std::function<void(const std::wstring&)>& visit) {
+        ui::TreeView tree(Tree(dialog));
+        for (HTREEITEM item : AllItems(tree, tree.GetRootItem())) {
+            tree.SelectItem(item);
+            visit(tree.GetItemText(item));
+        }
+    }
+};
+
+// Each template the program holds writes, in a language without files, what a translator starts
+// from; the English file has a line for every text of it and the same number of entries for every
+// Japanese list it fills, and no Japanese. Pages come from the option dialog as the user opens them, the
+// command editor fills its keyword list itself, and every other template (a new one too) is made
+// bare. The rows the English files miss are printed in the form of sample/Lang/dialogs.tsv.
+TEST_F(EnglishDialogText, EveryTemplateTextHasItsEnglishLine) {
+    UseLanguage(L".xx-XX");
+    COptionDlg dialog(app_);
+    SetStart(1000);
+    ASSERT_TRUE(dialog.Create(nullptr));
+    VisitEveryItem(dialog, [](const std::wstring&) {});
+    CDlgMenuCommand menuCommand(app_);
+    ASSERT_TRUE(menuCommand.Create(dialog.hwnd()));
+    const std::wstring exported = kProgramFolder + L".xx-XX\\Option\\";
+    std::vector<std::unique_ptr<BareDialog>> bare;
+    const std::vector<int> templates = DialogTemplates();
+    ASSERT_GT(templates.size(), 50u);
+    for (int id : templates) {
+        if (!fake_.files().FileText(exported + std::to_wstring(id) + L".txt").empty()) continue;
+        bare.push_back(std::make_unique<BareDialog>(id, app_.dialogLanguage));
+        ASSERT_TRUE(bare.back()->Create(dialog.hwnd())) << id;
+    }
+
+    std::ostringstream missing;
+    for (int id : templates) {
+        std::vector<uint8_t> bytes;
+        ASSERT_TRUE(fake_.files().ReadFile(exported + std::to_wstring(id) + L".txt", bytes)) << id;
+        const auto shown = Lines(bytes);
+        const auto english = Lines(RealFile(kBuiltEnglish + std::to_wstring(id) + L".txt"));
+        std::map<std::wstring, std::wstring> texts;  // by control id
+        std::map<std::wstring, int> entries;         // by combo id, -1 without a start line
+        std::set<std::wstring> named;
+        for (size_t i = 0; i < english.size(); ++i) {
+            const auto& line = english[i];
+            for (const std::wstring& field : line)
+                EXPECT_FALSE(HasJapanese(field)) << id << ": " << Narrow(field);
+            if (i == 0 || line.size() < 2) continue;
+            named.insert(line[0]);
+            if (line[1] == L"ComboBoxStart") entries[line[0]] = 0;
+            else if (line.size() == 3 && line[1] == L"ComboBox") ++entries.try_emplace(line[0], -1).first->second;
+            else if (line.size() == 3) texts[line[0]] = line[2];
+        }
+        auto row = [&](const std::wstring& control, const std::wstring& kind, const std::wstring& text) {
+            missing << id << '\t' << Narrow(control) << '\t' << Narrow(kind) << '\t' << Narrow(text) << "\t\n";
+        };
+        if (!shown.empty() && !shown[0][0].empty() && (english.empty() || english[0][0].empty()))
+            row(L"", L"Title", shown[0][0]);
+        std::set<std::wstring> controls;
+        for (size_t i = 1; i < shown.size(); ++i) {
+            const auto& line = shown[i];
+            if (line.size() < 2) continue;
+            controls.insert(line[0]);
+            if (line.size() == 3 && line[1] != L"ComboBox" && !texts.count(line[0])) row(line[0], line[1], line[2]);
+            if (line[1] != L"ComboBoxStart") continue;
+            std::vector<std::wstring> list;
+            for (size_t j = i + 1; j < shown.size() && shown[j].size() == 3 && shown[j][1] == L"ComboBox"; ++j)
+                list.push_back(shown[j][2]);
+            // A list without Japanese holds data (keywords, date formats) and stays as it was filled.
+            if (std::none_of(list.begin(), list.end(), HasJapanese) ||
+                (entries.count(line[0]) && entries[line[0]] == static_cast<int>(list.size())))
+                continue;
+            row(line[0], L"ComboBoxStart", L"");
+            for (const std::wstring& entry : list) row(line[0], L"ComboBox", entry);
+        }
+        for (const std::wstring& control : named)
+            EXPECT_TRUE(controls.count(control)) << "the English file of " << id << " names control "
+                                                 << Narrow(control) << ", which has no text in the dialog";
+    }
+    if (!missing.str().empty()) ADD_FAILURE() << "without English:\n" << missing.str();
+}
+
+}  // namespace
