@@ -163,6 +163,7 @@ TEST_F(EnglishDialogText, EveryTemplateTextHasItsEnglishLine) {
         ASSERT_TRUE(fake_.files().ReadFile(exported + std::to_wstring(id) + L".txt", bytes)) << id;
         const auto shown = Lines(bytes);
         const auto english = Lines(RealFile(kBuiltEnglish + std::to_wstring(id) + L".txt"));
+        EXPECT_FALSE(english.empty()) << "no English file for " << id;
         std::map<std::wstring, std::wstring> texts;  // by control id
         std::map<std::wstring, int> entries;         // by combo id, -1 without a start line
         std::set<std::wstring> named;
@@ -203,6 +204,97 @@ TEST_F(EnglishDialogText, EveryTemplateTextHasItsEnglishLine) {
                                                  << Narrow(control) << ", which has no text in the dialog";
     }
     if (!missing.str().empty()) ADD_FAILURE() << "without English:\n" << missing.str();
+}
+
+
+// Every text a window shows to the user: its own, and the items of a list, header, tab or tree. An
+// edit field holds the user's value (the status bar templates default to Japanese ones), not the
+// program's words.
+std::vector<std::wstring> ShownTexts(HWND window) {
+    wchar_t name[64] = {};
+    GetClassNameW(window, name, 64);
+    const std::wstring kind = name;
+    if (kind == L"Edit") return {};
+    std::vector<std::wstring> texts{TextOf(window)};
+    wchar_t buffer[1024];
+    auto send = [&](UINT message, WPARAM w, LPARAM l) { return SendMessageW(window, message, w, l); };
+    if (kind == L"ComboBox" || kind == L"ListBox") {
+        const bool combo = kind == L"ComboBox";
+        const LRESULT count = send(combo ? CB_GETCOUNT : LB_GETCOUNT, 0, 0);
+        for (LRESULT i = 0; i < count; ++i) {
+            buffer[0] = 0;
+            if (send(combo ? CB_GETLBTEXTLEN : LB_GETTEXTLEN, i, 0) < 1024)
+                send(combo ? CB_GETLBTEXT : LB_GETTEXT, i, reinterpret_cast<LPARAM>(buffer));
+            texts.push_back(buffer);
+        }
+    } else if (kind == WC_HEADERW) {
+        for (int i = 0; i < Header_GetItemCount(window); ++i) {
+            HDITEMW item{};
+            item.mask = HDI_TEXT;
+            item.pszText = buffer, item.cchTextMax = 1024, buffer[0] = 0;
+            Header_GetItem(window, i, &item);
+            texts.push_back(buffer);
+        }
+    } else if (kind == WC_LISTVIEWW) {
+        const int columns = Header_GetItemCount(ListView_GetHeader(window));
+        for (int row = 0; row < ListView_GetItemCount(window); ++row)
+            for (int column = 0; column < std::max(columns, 1); ++column) {
+                buffer[0] = 0;
+                ListView_GetItemText(window, row, column, buffer, 1024);
+                texts.push_back(buffer);
+            }
+    } else if (kind == WC_TABCONTROLW) {
+        for (int i = 0; i < TabCtrl_GetItemCount(window); ++i) {
+            TCITEMW item{};
+            item.mask = TCIF_TEXT;
+            item.pszText = buffer, item.cchTextMax = 1024, buffer[0] = 0;
+            TabCtrl_GetItem(window, i, &item);
+            texts.push_back(buffer);
+        }
+    } else if (kind == WC_TREEVIEWW) {
+        ui::TreeView tree(window);
+        for (HTREEITEM item : AllItems(tree, tree.GetRootItem())) texts.push_back(tree.GetItemText(item));
+    }
+    return texts;
+}
+
+// With English chosen and the files the build writes beside the program, each page and group of the
+// option dialog, opened from its tree, shows no Japanese in any window of the dialog: labels, buttons,
+// hidden labels, list items and headers, combo entries, tabs, trees, the pages opened before included;
+// the confirmation page lists the English message file's texts. No page refuses a translated
+// label list, which it would say in a message box.
+TEST_F(EnglishDialogText, NoPageShowsJapaneseInEnglish) {
+    UseLanguage(L".en-US");
+    for (int id : DialogTemplates()) {
+        const std::vector<uint8_t> bytes = RealFile(kBuiltEnglish + std::to_wstring(id) + L".txt");
+        ASSERT_FALSE(bytes.empty()) << id;
+        fake_.files().AddFile(kProgramFolder + L".en-US\\Option\\" + std::to_wstring(id) + L".txt", bytes);
+    }
+    // The confirmation page lists the texts of the message file.
+    fake_.files().AddFile(L"C:\\Qor\\Lang\\Msg.en-US.txt", RealFile(OPTION_SOURCE_DIR L"/sample/Lang/Msg.en-US.txt"));
+    app_.messages.SetPath(L"C:\\Qor\\Lang\\Msg.en-US.txt");
+    COptionDlg dialog(app_);
+    SetStart(1000);
+    ASSERT_TRUE(dialog.Create(nullptr));
+    std::set<std::string> japanese;
+    VisitEveryItem(dialog, [&](const std::wstring& label) {
+        std::vector<HWND> windows{dialog.hwnd()};
+        EnumChildWindows(
+            dialog.hwnd(),
+            [](HWND child, LPARAM list) {
+                reinterpret_cast<std::vector<HWND>*>(list)->push_back(child);
+                return TRUE;
+            },
+            reinterpret_cast<LPARAM>(&windows));
+        for (HWND window : windows)
+            for (const std::wstring& text : ShownTexts(window))
+                if (HasJapanese(text))
+                    japanese.insert(Narrow(label) + ", " + std::to_string(GetDlgCtrlID(window)) + ": " + Narrow(text));
+    });
+    std::string found;
+    for (const std::string& line : japanese) found += line + "\n";
+    EXPECT_EQ("", found);
+    EXPECT_EQ(std::vector<std::wstring>{}, Messages());
 }
 
 }  // namespace
