@@ -11,6 +11,7 @@
 #include <vector>
 
 #include "app/OptionPageTable.h"
+#include "resources/app/AppIds.h"
 #include "support/OptionTree.h"
 #include "support/Screenshot.h"
 
@@ -20,10 +21,21 @@ constexpr DWORD kFindTimeoutMs = 30000;
 // Lets the X server finish what the program drew before the screen is read.
 constexpr DWORD kSettleMs = 100;
 
+// The option dialog is known by its tree, whatever language its title is in.
 HWND FindDialog() {
     for (DWORD waited = 0; waited < kFindTimeoutMs; waited += 50) {
-        HWND dialog = FindWindowW(nullptr, L"オプション");
-        if (dialog && IsWindowVisible(dialog)) return dialog;
+        HWND found = nullptr;
+        EnumWindows(
+            [](HWND window, LPARAM result) {
+                wchar_t name[16] = {};
+                GetClassNameW(window, name, 16);
+                if (std::wstring(name) != L"#32770" || !IsWindowVisible(window) || !GetDlgItem(window, IDC_OPTION_TREE))
+                    return TRUE;
+                *reinterpret_cast<HWND*>(result) = window;
+                return FALSE;
+            },
+            reinterpret_cast<LPARAM>(&found));
+        if (found) return found;
         Sleep(50);
     }
     return nullptr;

@@ -36,7 +36,8 @@ bool HasJapanese(const std::wstring& text) {
 }
 
 std::string Narrow(const std::wstring& text) {
-    std::string out(static_cast<size_t>(WideCharToMultiByte(CP_UTF8, 0, text.c_str(), -1, nullptr, 0, nullptr, nullptr)), 0);
+    std::string out(
+        static_cast<size_t>(WideCharToMultiByte(CP_UTF8, 0, text.c_str(), -1, nullptr, 0, nullptr, nullptr)), 0);
     WideCharToMultiByte(CP_UTF8, 0, text.c_str(), -1, out.data(), static_cast<int>(out.size()), nullptr, nullptr);
     out.pop_back();
     return out;
@@ -169,13 +170,15 @@ TEST_F(EnglishDialogText, EveryTemplateTextHasItsEnglishLine) {
         std::set<std::wstring> named;
         for (size_t i = 0; i < english.size(); ++i) {
             const auto& line = english[i];
-            for (const std::wstring& field : line)
-                EXPECT_FALSE(HasJapanese(field)) << id << ": " << Narrow(field);
+            for (const std::wstring& field : line) EXPECT_FALSE(HasJapanese(field)) << id << ": " << Narrow(field);
             if (i == 0 || line.size() < 2) continue;
             named.insert(line[0]);
-            if (line[1] == L"ComboBoxStart") entries[line[0]] = 0;
-            else if (line.size() == 3 && line[1] == L"ComboBox") ++entries.try_emplace(line[0], -1).first->second;
-            else if (line.size() == 3) texts[line[0]] = line[2];
+            if (line[1] == L"ComboBoxStart")
+                entries[line[0]] = 0;
+            else if (line.size() == 3 && line[1] == L"ComboBox")
+                ++entries.try_emplace(line[0], -1).first->second;
+            else if (line.size() == 3)
+                texts[line[0]] = line[2];
         }
         auto row = [&](const std::wstring& control, const std::wstring& kind, const std::wstring& text) {
             missing << id << '\t' << Narrow(control) << '\t' << Narrow(kind) << '\t' << Narrow(text) << "\t\n";
@@ -200,12 +203,11 @@ TEST_F(EnglishDialogText, EveryTemplateTextHasItsEnglishLine) {
             for (const std::wstring& entry : list) row(line[0], L"ComboBox", entry);
         }
         for (const std::wstring& control : named)
-            EXPECT_TRUE(controls.count(control)) << "the English file of " << id << " names control "
-                                                 << Narrow(control) << ", which has no text in the dialog";
+            EXPECT_TRUE(controls.count(control)) << "the English file of " << id << " names control " << Narrow(control)
+                                                 << ", which has no text in the dialog";
     }
     if (!missing.str().empty()) ADD_FAILURE() << "without English:\n" << missing.str();
 }
-
 
 // Every text a window shows to the user: its own, and the items of a list, header, tab or tree. An
 // edit field holds the user's value (the status bar templates default to Japanese ones), not the
