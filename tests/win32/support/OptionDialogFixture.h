@@ -75,6 +75,13 @@ inline std::vector<std::wstring> Column(HWND list, int column) {
     return texts;
 }
 
+// Whether each control of a dialog takes input.
+inline std::vector<bool> Enabled(HWND dialog, std::initializer_list<int> ids) {
+    std::vector<bool> enabled;
+    for (int id : ids) enabled.push_back(IsWindowEnabled(GetDlgItem(dialog, id)) != FALSE);
+    return enabled;
+}
+
 inline RECT ScreenRect(HWND window) {
     RECT rect{};
     GetWindowRect(window, &rect);
@@ -162,12 +169,6 @@ protected:
         const auto& shown = fake_.prompts().shown();
         for (size_t i = from; i < shown.size(); ++i) texts.push_back(shown[i].text);
         return texts;
-    }
-
-    // A dialog text file for the option dialog in a language other than the templates' own.
-    void Translate(const std::wstring& text) {
-        DirectWriteString(kDirectSettingsPath, L"NLS", L".en-US");
-        fake_.files().AddFile(L"C:\\Qor\\command\\Option\\.en-US\\Option\\159.txt", Utf16Bytes(text, true));
     }
 
     platform::fake::FakePlatform fake_;
