@@ -22,6 +22,8 @@
 
 namespace {
 
+using testing_support::SystemText;
+
 constexpr const wchar_t* kTestKey = L"OptionScriptTest";
 // The scripts' key and the keys above it, deepest last.
 const std::vector<std::wstring> kKeyPath = {L"Software\\Tarnwick", L"Software\\Tarnwick\\Qor",
@@ -32,15 +34,6 @@ bool KeyExists(const std::wstring& path) {
     if (RegOpenKeyExW(HKEY_CURRENT_USER, path.c_str(), 0, KEY_READ, &key) != ERROR_SUCCESS) return false;
     RegCloseKey(key);
     return true;
-}
-
-std::wstring SystemText(DWORD error) {
-    wchar_t* text = nullptr;
-    FormatMessageW(FORMAT_MESSAGE_ALLOCATE_BUFFER | FORMAT_MESSAGE_FROM_SYSTEM | FORMAT_MESSAGE_IGNORE_INSERTS, nullptr,
-                   error, 0, reinterpret_cast<wchar_t*>(&text), 0, nullptr);
-    std::wstring result = text ? text : L"";
-    LocalFree(text);
-    return result;
 }
 
 std::string Wide(std::wstring_view text) {
