@@ -162,12 +162,10 @@ TEST_F(COptionDlgTest, ATranslationWithAWrongLabelCountIsToldAndKeepsItsPartOut)
         {36, L"159", L"Options\r\n1403\tStatic\tBars/Tab bar\r\n", L"String of 2 is required ID:1403, but it has become 9"},
     };
     // clang-format on
-    DirectWriteString(kDirectSettingsPath, L"NLS", L".en-US");
     for (const Case& c : cases) {
         SCOPED_TRACE(c.page);
         fake_.prompts().Clear();
-        fake_.files().AddFile(L"C:\\Qor\\command\\Option\\.en-US\\Option\\" + std::wstring(c.file) + L".txt",
-                              Utf16Bytes(c.text, true));
+        Translate(c.text, c.file);
         AppServices app{96};  // a process of its own, which reads the language anew
         app.commandOptionRoot = app_.commandOptionRoot;
         COptionDlg dialog(app);

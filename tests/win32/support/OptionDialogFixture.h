@@ -171,6 +171,13 @@ protected:
         return texts;
     }
 
+    // A dialog text file, the option dialog's own unless another is named, in a language other than
+    // the templates' own.
+    void Translate(const std::wstring& text, const std::wstring& file = L"159") {
+        DirectWriteString(kDirectSettingsPath, L"NLS", L".en-US");
+        fake_.files().AddFile(L"C:\\Qor\\command\\Option\\.en-US\\Option\\" + file + L".txt", Utf16Bytes(text, true));
+    }
+
     platform::fake::FakePlatform fake_;
     AppServices app_{96};
 };
