@@ -68,18 +68,9 @@ protected:
     e2e::Process option;
 };
 
-TEST_F(CommandEditorTest, CancelKeepsTheListAndOkWritesTheEditedRows) {
-    const std::string before = e2e::ReadFileBytes(list.wstring());
+TEST_F(CommandEditorTest, OkWritesTheEditedRows) {
     option = e2e::StartOption({L"/D", list.wstring()});
     HWND editor = e2e::FindVisibleWindow(option.Id(), kEditorTitle);
-    ASSERT_NE(nullptr, editor);
-    EXPECT_EQ(3, Rows(editor));
-    Edit(editor);
-    EXPECT_EQ(0u, option.CloseDialog(editor));
-    EXPECT_EQ(before, e2e::ReadFileBytes(list.wstring()));
-
-    option = e2e::StartOption({L"/D", list.wstring()});
-    editor = e2e::FindVisibleWindow(option.Id(), kEditorTitle);
     ASSERT_NE(nullptr, editor);
     Edit(editor);
     PostMessageW(editor, WM_COMMAND, MAKEWPARAM(IDOK, BN_CLICKED), 0);
@@ -102,7 +93,7 @@ TEST_F(CommandEditorTest, CancelKeepsTheListAndOkWritesTheEditedRows) {
         e2e::ReadUtf16File(list.wstring()));
 }
 
-TEST_F(CommandEditorTest, ThePageOpensTheEditorAndApplyTellsTheHost) {
+TEST_F(CommandEditorTest, ThePageOpensTheEditorWhoseCancelKeepsTheListAndApplyTellsTheHost) {
     reg::WriteDword(reg::kSettings, L"UserDirMode", 2);
     reg::WriteString(reg::kSettings, L"UserDir", user.wstring() + L"\\");
     reg::WriteDword(reg::kOptionPage, L"Start", 23);
@@ -122,8 +113,11 @@ TEST_F(CommandEditorTest, ThePageOpensTheEditorAndApplyTellsTheHost) {
     // A picture of the editor for people to look at.
     e2e::WaitUntilDialogIdle(editor, option.Handle());
     e2e::CaptureWindow(editor, e2e::PicturePath(L"command-editor.bmp"));
+    const std::string before = e2e::ReadFileBytes(list.wstring());
+    Edit(editor);
     e2e::Answer(editor, IDCANCEL);
     e2e::WaitUntilDialogIdle(dialog, option.Handle());
+    EXPECT_EQ(before, e2e::ReadFileBytes(list.wstring())) << "Cancel keeps the list";
 
     e2e::Click(dialog, kApply);
     EXPECT_THAT(host.Commands(), testing::ElementsAre(48999u, 49018u, 49099u));

@@ -1,6 +1,5 @@
-// The mouse pages in the running program: a gesture composed in the trail dialog and bound through
-// the picker reaches the host's key, which holds exactly the table; the blank-area and wheel pages
-// store where the host looks.
+// The mouse pages in the running program: a gesture bound through the trail dialog reaches the host's
+// key, which holds exactly the table; the blank-area and wheel pages store where the host looks.
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -57,38 +56,29 @@ HWND PressFor(HWND window, int id, const e2e::Process& option, const wchar_t* ti
     return e2e::FindVisibleWindow(option.Id(), title);
 }
 
-class MousePagesTest : public testing::Test {
-protected:
-    HWND Open(int start) {
-        reg::WriteDword(reg::kOptionPage, L"Start", start);
-        option = e2e::StartOption();
-        dialog = option ? e2e::FindVisibleWindow(option.Id(), L"オプション") : nullptr;
-        return dialog;
-    }
-    void Idle() { e2e::WaitUntilDialogIdle(dialog, option.Handle()); }
-
-    reg::ScopedKey page_{reg::kOptionPage};
-    reg::ScopedKey gesture_{kGesture};
-    reg::ScopedKey mouse_{kMouse};
-    reg::ScopedKey listMouse_{kListMouse};
-    e2e::Process option;
-    HWND dialog = nullptr;
-};
-
-TEST_F(MousePagesTest, AGestureFromTheTrailDialogReachesTheKey) {
+// A gesture composed in the trail dialog and bound through the picker, then the blank-area and wheel
+// pages: one Apply stores them all. The wheel page stores its two values wherever the blank-area page
+// left the store: both applied, they land in "ListMouse" beside the scripts, and an emptied script name
+// stays empty.
+TEST(MousePages, AGestureAndTheWheelValuesReachTheKeysTheHostReads) {
+    reg::ScopedKey page{reg::kOptionPage}, gesture{kGesture}, mouse{kMouse}, listMouse{kListMouse};
     reg::DeleteKey(kGesture);
+    reg::DeleteKey(kListMouse);
     reg::WriteDword(kGesture, L"UD", 33301);
     reg::WriteDword(kGesture, L"Lx", 7);
     reg::WriteDword(kMouse, L"Gesture", 1);
-    e2e::FakeHost host;
+    reg::WriteDword(reg::kOptionPage, L"Start", 14);
+    e2e::OptionBesideHost run;
+    auto& [host, option, dialog] = run;
     ASSERT_TRUE(host.Window());
-    ASSERT_NE(nullptr, Open(14));
-    HWND page = e2e::PageWith(dialog, kGestureList);
-    ASSERT_NE(nullptr, page);
-    HWND list = GetDlgItem(page, kGestureList);
+    ASSERT_NE(nullptr, dialog);
+    auto idle = [&] { e2e::WaitUntilDialogIdle(dialog, option.Handle()); };
+    HWND gestures = e2e::PageWith(dialog, kGestureList);
+    ASSERT_NE(nullptr, gestures);
+    HWND list = GetDlgItem(gestures, kGestureList);
     EXPECT_EQ(2, SendMessageW(list, LVM_GETITEMCOUNT, 0, 0));
 
-    HWND trail = PressFor(page, kAdd, option, L"マウスジェスチャ");
+    HWND trail = PressFor(gestures, kAdd, option, L"マウスジェスチャ");
     ASSERT_NE(nullptr, trail);
     for (int arrow : {kUp, kUp, kRight}) e2e::Click(trail, arrow);
     EXPECT_EQ(L"\u2191\u2192", e2e::Text(GetDlgItem(trail, 1001)));
@@ -101,28 +91,18 @@ TEST_F(MousePagesTest, AGestureFromTheTrailDialogReachesTheKey) {
     e2e::Click(picker, kPickerSearch);
     ASSERT_TRUE(e2e::Answer(picker, IDOK));
     ASSERT_TRUE(e2e::Answer(trail, IDOK));
-    Idle();
+    idle();
     EXPECT_EQ(3, SendMessageW(list, LVM_GETITEMCOUNT, 0, 0));
-    e2e::Click(dialog, kApply);
-    EXPECT_THAT(host.Commands(), testing::ElementsAre(48999u, 49016u, 49099u));
-    EXPECT_EQ((std::map<std::wstring, DWORD>{{L"UD", 33301}, {L"UR", 33301}, {L"Lx", 7}}), Numbers(kGesture));
-    option.CloseDialog(dialog);
-}
 
-// The wheel page stores its two values wherever the blank-area page left the store: both applied,
-// they land in "ListMouse" beside the scripts, and an emptied script name stays empty.
-TEST_F(MousePagesTest, TheWheelValuesLandWhereTheBlankAreaPageLeftTheStore) {
-    reg::DeleteKey(kListMouse);
-    e2e::FakeHost host;
-    ASSERT_TRUE(host.Window());
-    ASSERT_NE(nullptr, Open(42));
+    ASSERT_TRUE(e2e::SelectTreeItem(dialog, 42));
+    idle();
     HWND blank = e2e::PageWith(dialog, 1004);
     ASSERT_NE(nullptr, blank);
     EXPECT_EQ(L"_ListNoSelDblClk.txt", e2e::Text(GetDlgItem(blank, 1002)));
     e2e::SetText(blank, 1001, L"Click.txt");
     e2e::SetText(blank, 1002, L"");
     ASSERT_TRUE(e2e::SelectTreeItem(dialog, 43));
-    Idle();
+    idle();
     HWND wheel = e2e::PageWith(dialog, 1260);
     ASSERT_NE(nullptr, wheel);
     e2e::SetCheck(wheel, 1251, true);
@@ -137,8 +117,10 @@ TEST_F(MousePagesTest, TheWheelValuesLandWhereTheBlankAreaPageLeftTheStore) {
     e2e::Click(wheel, 1258);
     EXPECT_TRUE(IsWindowEnabled(GetDlgItem(wheel, 1301)));
     EXPECT_EQ(L"_ListWheel------C-U.txt", e2e::Text(GetDlgItem(wheel, 1902)));
+
     e2e::Click(dialog, kApply);
-    EXPECT_THAT(host.Commands(), testing::ElementsAre(48999u, 49039u, 49040u, 49099u));
+    EXPECT_THAT(host.Commands(), testing::ElementsAre(48999u, 49016u, 49039u, 49040u, 49099u));
+    EXPECT_EQ((std::map<std::wstring, DWORD>{{L"UD", 33301}, {L"UR", 33301}, {L"Lx", 7}}), Numbers(kGesture));
     EXPECT_EQ(L"Click.txt", reg::ReadString(kListMouse, L"SpaceClk").value_or(L"<absent>"));
     EXPECT_EQ(L"", reg::ReadString(kListMouse, L"SpaceDblClk").value_or(L"<absent>"));
     EXPECT_EQ(1u, reg::ReadDword(kListMouse, L"UseWheelCmd").value_or(0));

@@ -3,7 +3,6 @@
 #include <commctrl.h>
 #include <shlobj.h>
 
-
 namespace e2e {
 
 namespace {
@@ -81,11 +80,14 @@ HWND FindVisibleWindow(DWORD processId, const wchar_t* title, DWORD timeoutMs, D
 }
 
 HWND PageWith(HWND dialog, int controlId) {
+    HWND hidden = nullptr;
     for (HWND child = FindWindowExW(dialog, nullptr, nullptr, nullptr); child;
          child = FindWindowExW(dialog, child, nullptr, nullptr)) {
-        if (GetDlgItem(child, controlId)) return child;
+        if (!GetDlgItem(child, controlId)) continue;
+        if (IsWindowVisible(child)) return child;
+        if (!hidden) hidden = child;
     }
-    return nullptr;
+    return hidden;
 }
 
 void Click(HWND window, int id) {

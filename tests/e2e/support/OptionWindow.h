@@ -13,7 +13,8 @@ namespace e2e {
 HWND FindWindowOf(DWORD processId, const std::function<bool(HWND)>& match, DWORD timeoutMs = 10000, DWORD pollMs = 50);
 // The visible top-level window titled title that the process shows.
 HWND FindVisibleWindow(DWORD processId, const wchar_t* title, DWORD timeoutMs = 10000, DWORD pollMs = 50);
-// The page of the dialog that holds a control, found among the dialog's child windows.
+// The page of the dialog that holds a control, found among the dialog's child windows: the one shown
+// when several hold it.
 HWND PageWith(HWND dialog, int controlId);
 
 // Presses a button of a window as the user would, and waits until the window has handled it.

@@ -8,6 +8,7 @@
 #include <typeinfo>
 #include <vector>
 
+#include "bindings/KeyTableFiles.h"
 #include "win32/support/OptionDialogFixture.h"
 
 namespace {
@@ -149,24 +150,39 @@ TEST_F(COptionDlgTest, OpeningServesTheFolderRequestOnceAndReadsTheMouseNames) {
     EXPECT_EQ(L"", app_.setFolder);
 }
 
-TEST_F(COptionDlgTest, ATranslationWithAWrongLabelCountIsToldAndLeavesThePartialTree) {
-    Translate(
-        L"Options\r\n"
-        L"1403\tStatic\tBars/Tab bar\r\n");
-    SetStart(36);
-    COptionDlg dialog(app_);
-    ASSERT_TRUE(dialog.Create(nullptr));
-
-    ASSERT_EQ(1u, fake_.prompts().shown().size());
-    EXPECT_EQ((platform::fake::ShownMessage{L"String of 2 is required ID:1403, but it has become 9", 0}),
-              fake_.prompts().shown()[0]);
-    EXPECT_EQ(L"Options", TextOf(dialog.hwnd()));
-    int before = 0;
-    for (const OptionTreeRow& row : OptionTreeRows()) before += row.labelList < IDC_OPTION_LABELS_BAR;
-    EXPECT_EQ(before, ui::TreeView(Tree(dialog)).GetCount()) << "the roots before the faulty list";
-    EXPECT_EQ(L"<none>", SelectedLabel(dialog));
-    EXPECT_EQ(nullptr, dialog.CurrentPage());
-    EXPECT_EQ(std::vector<int>{}, OpenedPages(dialog));
+// A translation whose label list lost words is told with the framework's words; the tree keeps the
+// roots before the faulty list, and a page stays out of the dialog and of Apply.
+TEST_F(COptionDlgTest, ATranslationWithAWrongLabelCountIsToldAndKeepsItsPartOut) {
+    // clang-format off
+    struct Case { int page; const wchar_t* file; const wchar_t* text; const wchar_t* told; };
+    const Case cases[] = {
+        {2, L"105", L"Keys\r\n1403\tStatic\tCommand/Search\r\n", L"String of 2 is required ID:1403, but it has become 9"},
+        {31, L"127", L"Tabs\r\n1401\tStatic\tClose/Open\r\n", L"String of 2 is required ID:1401, but it has become 16"},
+        {26, L"198", L"\r\n1404\tStatic\tExtension colours/Group/Colour\r\n", L"Encountered an improper argument."},
+        {36, L"159", L"Options\r\n1403\tStatic\tBars/Tab bar\r\n", L"String of 2 is required ID:1403, but it has become 9"},
+    };
+    // clang-format on
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.page);
+        fake_.prompts().Clear();
+        Translate(c.text, c.file);
+        AppServices app{96};  // a process of its own, which reads the language anew
+        app.commandOptionRoot = app_.commandOptionRoot;
+        COptionDlg dialog(app);
+        EXPECT_EQ(nullptr, Open(dialog, c.page));
+        Apply(dialog);
+        EXPECT_EQ(std::vector<std::wstring>{c.told}, Messages());
+        std::vector<uint8_t> keys;
+        EXPECT_FALSE(fake_.files().ReadFile(KeyFilePath(app.directories.UserDirectory(), 0), keys)) << "no key file";
+        if (c.page != 36) continue;
+        EXPECT_EQ(L"Options", TextOf(dialog.hwnd()));
+        int before = 0;
+        for (const OptionTreeRow& row : OptionTreeRows()) before += row.labelList < IDC_OPTION_LABELS_BAR;
+        EXPECT_EQ(before, ui::TreeView(Tree(dialog)).GetCount()) << "the roots before the faulty list";
+        EXPECT_EQ(L"<none>", SelectedLabel(dialog));
+        EXPECT_EQ(nullptr, dialog.CurrentPage());
+        EXPECT_EQ(std::vector<int>{}, OpenedPages(dialog));
+    }
 }
 
 // Enter and Escape in a page belong to the page, which closes the whole dialog; a multi-line edit keeps
@@ -204,55 +220,48 @@ TEST_F(COptionDlgTest, EnterAndEscapeAnywhereCloseTheWholeDialog) {
     }
 }
 
+// Help opens the manual page of the selection, asked by F1 as the keyboard gives it to the dialog in
+// the foreground with the focus in the tree, by WM_HELP, or by the help command.
 TEST_F(COptionDlgTest, HelpOpensTheManualPageOfTheSelection) {
-    // f1: WM_HELP as F1 raises it; else the help command.
+    enum How { Keyboard, HelpMessage, Command };
     // clang-format off
-    struct Case { const char* what; int select; bool f1; const wchar_t* file; };
-    // clang-format on
+    struct Case { int select; How how; const wchar_t* file; };
     const Case cases[] = {
-        {"a page, by F1", 36, true, L"C:\\Qor\\Manual\\7.Option\\2.List\\10.html"},
-        {"a page, by the command", 23, false, L"C:\\Qor\\Manual\\7.Option\\4.Interface\\03_2.html"},
-        {"a group", 1001, true, L"C:\\Qor\\Manual\\7.Option\\00.html"},
+        {28, Keyboard, L"C:\\Qor\\Manual\\7.Option\\2.List\\06.html"},
+        {36, HelpMessage, L"C:\\Qor\\Manual\\7.Option\\2.List\\10.html"},
+        {23, Command, L"C:\\Qor\\Manual\\7.Option\\4.Interface\\03_2.html"},
+        {1001, HelpMessage, L"C:\\Qor\\Manual\\7.Option\\00.html"},
     };
-    for (const Case& c : cases) {
-        SCOPED_TRACE(c.what);
-        SetStart(c.select);
-        COptionDlg dialog(app_);
-        ASSERT_TRUE(dialog.Create(nullptr));
-        HELPINFO info{sizeof(info), HELPINFO_WINDOW, 0, Tree(dialog), 0, {0, 0}};
-        if (c.f1)
-            SendMessageW(dialog.hwnd(), WM_HELP, 0, reinterpret_cast<LPARAM>(&info));
-        else
-            SendMessageW(dialog.hwnd(), WM_COMMAND, ID_HELP, 0);
-        platform::ShellRequest expected{512, reinterpret_cast<platform::WindowRef>(dialog.hwnd()), c.file, L"", L"", 5};
-        ASSERT_FALSE(fake_.processes().shellRequests().empty());
-        EXPECT_EQ(expected, fake_.processes().shellRequests().back());
-    }
-}
-
-// F1 as the keyboard gives it, to the dialog in the foreground with the focus in the tree.
-TEST_F(COptionDlgTest, F1InTheTreeAsksForHelp) {
-    SetStart(28);
-    COptionDlg dialog(app_);
-    auto press = [](WORD key, DWORD flags) {
+    // clang-format on
+    auto press = [](DWORD flags) {
         INPUT input{};
         input.type = INPUT_KEYBOARD;
-        input.ki.wVk = key;
+        input.ki.wVk = VK_F1;
         input.ki.dwFlags = flags;
         SendInput(1, &input, sizeof(input));
     };
-    RunModal(dialog,
-             {[&](HWND window) {
-                  SetForegroundWindow(window);
-                  SetFocus(Tree(dialog));
-              },
-              [&](HWND) {
-                  press(VK_F1, 0);
-                  press(VK_F1, KEYEVENTF_KEYUP);
-              },
-              [](HWND) {}, [](HWND window) { PostMessageW(window, WM_COMMAND, MAKEWPARAM(IDCANCEL, BN_CLICKED), 0); }});
-    ASSERT_EQ(1u, fake_.processes().shellRequests().size());
-    EXPECT_EQ(L"C:\\Qor\\Manual\\7.Option\\2.List\\06.html", fake_.processes().shellRequests()[0].file);
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.select);
+        SetStart(c.select);
+        COptionDlg dialog(app_);
+        const size_t before = fake_.processes().shellRequests().size();
+        HWND shown = nullptr;
+        RunModal(dialog, {[&](HWND window) {
+                              SetForegroundWindow(window);
+                              SetFocus(Tree(dialog));
+                          },
+                          [&](HWND window) {
+                              shown = window;
+                              if (c.how == Keyboard) return press(0), press(KEYEVENTF_KEYUP);
+                              if (c.how == Command) return void(SendMessageW(window, WM_COMMAND, ID_HELP, 0));
+                              HELPINFO info{sizeof(info), HELPINFO_WINDOW, 0, Tree(dialog), 0, {0, 0}};
+                              SendMessageW(window, WM_HELP, 0, reinterpret_cast<LPARAM>(&info));
+                          },
+                          [](HWND) {}, [](HWND window) { PostMessageW(window, WM_COMMAND, IDCANCEL, 0); }});
+        ASSERT_EQ(before + 1, fake_.processes().shellRequests().size());
+        EXPECT_EQ((platform::ShellRequest{512, reinterpret_cast<platform::WindowRef>(shown), c.file, L"", L"", 5}),
+                  fake_.processes().shellRequests().back());
+    }
 }
 
 }  // namespace

@@ -150,22 +150,4 @@ TEST_F(CommandPickerTest, TheKeyPageClearsResetsAndListsTheBlockShown) {
     EXPECT_TRUE(fake_.files().ReadFile(L"D:\\Lists\\" + PageKeyListName(0, kModifierShift), written));
 }
 
-// A set list that does not count nine names leaves the key page empty: the user is told, the page
-// takes no part in Apply, and the next showing tries again.
-TEST_F(CommandPickerTest, AKeyPageWithoutItsNineSetNamesStaysOutOfApply) {
-    DirectWriteString(kDirectSettingsPath, L"NLS", L".en-US");
-    fake_.files().AddFile(L"C:\\Qor\\command\\Option\\.en-US\\Option\\105.txt",
-                          Utf16Bytes(L"Keys\r\n1403\tStatic\tCommand/Search\r\n", true));
-    SetStart(2);
-    COptionDlg dialog(app_);
-    ASSERT_TRUE(dialog.Create(nullptr));
-    EXPECT_EQ(0, dialog.Page(2)->opened);
-    Apply(dialog);
-    EXPECT_EQ((std::vector<ShownMessage>{{L"String of 2 is required ID:1403, but it has become 9", 0}}),
-              fake_.prompts().shown());
-    std::vector<uint8_t> keys;
-    EXPECT_FALSE(fake_.files().ReadFile(KeyFilePath(app_.directories.UserDirectory(), 0), keys))
-        << "no key file written";
-}
-
 }  // namespace

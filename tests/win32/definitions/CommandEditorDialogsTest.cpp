@@ -17,12 +17,6 @@ namespace {
 using namespace optiontest;
 using platform::fake::ShownMessage;
 
-std::vector<bool> Enabled(HWND dialog, std::initializer_list<int> ids) {
-    std::vector<bool> enabled;
-    for (int id : ids) enabled.push_back(IsWindowEnabled(GetDlgItem(dialog, id)) != FALSE);
-    return enabled;
-}
-
 std::vector<std::wstring> Row(const ui::ListView& list, int row) {
     std::vector<std::wstring> texts;
     for (int column = 0; column < 5; ++column) texts.push_back(list.GetItemText(row, column));

@@ -28,12 +28,6 @@ void Pump() {
     while (PeekMessageW(&msg, nullptr, 0, 0, PM_REMOVE)) DispatchMessageW(&msg);
 }
 
-std::vector<bool> Enabled(HWND dialog, std::initializer_list<int> ids) {
-    std::vector<bool> enabled;
-    for (int id : ids) enabled.push_back(IsWindowEnabled(GetDlgItem(dialog, id)) != FALSE);
-    return enabled;
-}
-
 using MenuEditorDialogsTest = OptionDialogFixture;
 
 TEST_F(MenuEditorDialogsTest, ThePageListsTheMenuFolderOpensAFileAndStoresItsMode) {

@@ -10,22 +10,15 @@
 #include "platform/win32/Win32System.h"
 #include "ui/ListView.h"
 #include "win32/support/OptionDialogFixture.h"
+#include "win32/support/RealHostPlatform.h"
 
 namespace {
 
 using namespace optiontest;
+using testing_support::SystemText;
 
 constexpr const wchar_t* kEditorTitle = L"プレビュープラグイン";
 constexpr const wchar_t* kPluginSection = L"Software\\Tarnwick\\QOR\\Main001\\PvPlugin";
-
-std::wstring SystemText(DWORD error) {
-    wchar_t* text = nullptr;
-    FormatMessageW(FORMAT_MESSAGE_ALLOCATE_BUFFER | FORMAT_MESSAGE_FROM_SYSTEM | FORMAT_MESSAGE_IGNORE_INSERTS, nullptr,
-                   error, 0, reinterpret_cast<wchar_t*>(&text), 0, nullptr);
-    std::wstring result = text ? text : L"";
-    LocalFree(text);
-    return result;
-}
 
 // The sample plug-ins built beside the tests (<build>\tests\win32_tests.exe and <build>\sample\PvPlugIn\),
 // loaded with the system's own loader and error texts: the whole plug-in gives its extensions, the one

@@ -1,5 +1,5 @@
-// The tab click table over its real template and the fake registry: the chooser, the disabled restore
-// checks and a translation that breaks the command labels.
+// The tab click table over its real template and the fake registry: the chooser and the disabled
+// restore checks.
 #include <gtest/gtest.h>
 
 #include <windows.h>
@@ -49,18 +49,6 @@ TEST_F(TabPagesTest, TheChooserChangesAGestureAndDisabledChecksAreStillSaved) {
     EXPECT_EQ((std::vector<int32_t>{57600, 1, 0}), (std::vector<int32_t>{DirectReadInt(kTabStyle, L"TabBarClkMSC", -1),
                                                                          DirectReadInt(kTabStyle, L"LastTabNet", -1),
                                                                          DirectReadInt(kTabStyle, L"LastTabVir", -1)}));
-}
-
-// The command labels come with the dialog's text; a translation with a wrong count is told, and the
-// page stays out of the dialog.
-TEST_F(TabPagesTest, ATranslationWithTheWrongNumberOfCommandsKeepsThePageOut) {
-    DirectWriteString(kDirectSettingsPath, L"NLS", L".en-US");
-    fake_.files().AddFile(L"C:\\Qor\\command\\Option\\.en-US\\Option\\127.txt",
-                          Utf16Bytes(L"Tabs\r\n1401\tStatic\tClose/Open\r\n", true));
-    COptionDlg dialog(app_);
-    EXPECT_EQ(nullptr, Open(dialog, kPage));
-    ASSERT_EQ(1u, fake_.prompts().shown().size());
-    EXPECT_EQ(L"String of 2 is required ID:1401, but it has become 16", fake_.prompts().shown()[0].text);
 }
 
 }  // namespace

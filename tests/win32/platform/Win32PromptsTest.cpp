@@ -161,60 +161,58 @@ TEST(Win32Prompts, FileOpenBox) {
     std::filesystem::remove(file);
 }
 
-// The task dialog of program alternatives: one command link per choice from 201 up, and Cancel.
-TEST(Win32Prompts, ChoiceOfAlternatives) {
-    // clang-format off
-    struct Case { const char* what; WPARAM pressed; int chosen; };
-    // clang-format on
-    for (const Case& c : {Case{"the second link", 202, 1}, Case{"Cancel", IDCANCEL, -1}}) {
-        SCOPED_TRACE(c.what);
-        auto choose = [](platform::Prompts& prompts) {
-            return prompts.ChooseOne({L"Please select an application.", L"Report.txt", {L"one.exe", L"two.exe"}});
+// Each question answers with the button pressed: the task dialog of program alternatives (one command
+// link per choice from 201 up), the application's message box, which shows the icon the framework's
+// box would (a warning for OK, a question mark for Yes/No, the caller's own when it names one), the
+// colour chooser on the colour given and the font chooser, which gives the face where the system has
+// it, else its first. Cancel gives nothing.
+TEST(Win32Prompts, EachQuestionGivesTheAnswerOfTheButtonPressed) {
+    using Ask = std::function<std::wstring(platform::Prompts&)>;
+    const Ask choice = [](platform::Prompts& prompts) {
+        return std::to_wstring(prompts.ChooseOne({L"Please select an application.", L"Report.txt", {L"a", L"b"}}));
+    };
+    auto message = [](unsigned style) -> Ask {
+        return [style](platform::Prompts& prompts) {
+            return std::to_wstring(prompts.ShowMessage(L"Text of the box", style));
         };
-        EXPECT_EQ(c.chosen,
-                  OnItsOwnThread(choose, [&](HWND dialog) { PostMessageW(dialog, WM_COMMAND, c.pressed, 0); }));
-    }
-}
-
-// The application's box shows the icon the framework's box would: a warning for OK, a question mark for
-// Yes/No, and the caller's own when it names one.
-TEST(Win32Prompts, MessageBoxIcons) {
+    };
+    const Ask colour = [](platform::Prompts& prompts) {
+        const std::optional<uint32_t> chosen = prompts.ChooseColour(0x336699);
+        return chosen ? std::to_wstring(*chosen) : L"none";
+    };
+    const Ask font = [](platform::Prompts& prompts) {
+        LogFont face{};
+        face.lfHeight = -16;
+        face.lfWeight = FW_NORMAL;
+        wcscpy(face.lfFaceName, L"Tahoma");
+        const std::optional<LogFont> chosen = prompts.ChooseFontFace(face, CF_SCREENFONTS);
+        return chosen && chosen->lfFaceName[0] ? L"a face" : L"none";
+    };
+    const HICON none = nullptr;
     // clang-format off
-    struct Case { unsigned style; LPCWSTR icon; WPARAM answer; };
+    struct Case { const char* what; Ask ask; WPARAM pressed; std::wstring answer; std::optional<HICON> icon = {}; };
+    const Case cases[] = {
+        {"the second link", choice, 202, L"1"}, {"no alternative", choice, IDCANCEL, L"-1"},
+        {"OK", message(MB_OK), IDOK, L"1", LoadIconW(nullptr, IDI_EXCLAMATION)},
+        {"Yes/No", message(MB_YESNO), IDNO, L"7", LoadIconW(nullptr, IDI_QUESTION)},
+        {"an icon of the caller's", message(MB_OK | MB_ICONINFORMATION), IDOK, L"1", LoadIconW(nullptr, IDI_INFORMATION)},
+        {"no icon", message(MB_RETRYCANCEL), IDCANCEL, L"2", none},
+        {"a colour", colour, IDOK, std::to_wstring(0x336699)}, {"no colour", colour, IDCANCEL, L"none"},
+        {"a font", font, IDOK, L"a face"}, {"no font", font, IDCANCEL, L"none"},
+    };
     // clang-format on
-    for (const Case& c :
-         {Case{MB_OK, IDI_EXCLAMATION, IDOK}, Case{MB_YESNO, IDI_QUESTION, IDNO},
-          Case{MB_OK | MB_ICONINFORMATION, IDI_INFORMATION, IDOK}, Case{MB_RETRYCANCEL, nullptr, IDCANCEL}}) {
-        SCOPED_TRACE(c.style);
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.what);
         HICON shown = nullptr;
-        auto show = [&](platform::Prompts& prompts) { return prompts.ShowMessage(L"Text of the box", c.style); };
-        int answer = OnItsOwnThread(show, [&](HWND box) {
-            for (HWND child = FindWindowExW(box, nullptr, L"Static", nullptr); child && !shown;
-                 child = FindWindowExW(box, child, L"Static", nullptr))
-                shown = reinterpret_cast<HICON>(SendMessageW(child, STM_GETICON, 0, 0));
-            PostMessageW(box, WM_COMMAND, c.answer, 0);
-        });
-        EXPECT_EQ(c.icon ? LoadIconW(nullptr, c.icon) : nullptr, shown);
-        EXPECT_EQ(static_cast<int>(c.answer), answer);
-    }
-}
-
-// The colour chooser opens on the colour given and gives it back on OK, the font chooser gives a face;
-// Cancel gives nothing.
-TEST(Win32Prompts, ColourAndFontChoosers) {
-    LogFont face;
-    face.lfHeight = -16;
-    face.lfWeight = FW_NORMAL;
-    wcscpy(face.lfFaceName, L"Tahoma");
-    for (WPARAM answer : {IDOK, IDCANCEL}) {
-        SCOPED_TRACE(answer);
-        const auto press = [&](HWND box) { PostMessageW(box, WM_COMMAND, answer, 0); };
-        EXPECT_EQ(answer == IDOK ? std::optional<uint32_t>(0x336699) : std::nullopt,
-                  OnItsOwnThread([](platform::Prompts& prompts) { return prompts.ChooseColour(0x336699); }, press));
-        const std::optional<LogFont> font = OnItsOwnThread(
-            [&](platform::Prompts& prompts) { return prompts.ChooseFontFace(face, CF_SCREENFONTS); }, press);
-        // The face is the one given where the system has it, else the chooser's first.
-        EXPECT_EQ(answer == IDOK, font && font->lfFaceName[0]);
+        EXPECT_EQ(c.answer, OnItsOwnThread(c.ask, [&](HWND box) {
+                      for (HWND child = FindWindowExW(box, nullptr, L"Static", nullptr); c.icon && child && !shown;
+                           child = FindWindowExW(box, child, L"Static", nullptr))
+                          shown = reinterpret_cast<HICON>(SendMessageW(child, STM_GETICON, 0, 0));
+                      PostMessageW(box, WM_COMMAND, c.pressed, 0);
+                  }));
+        if (c.icon) {
+            EXPECT_EQ(*c.icon, shown);
+        }
     }
 }
 

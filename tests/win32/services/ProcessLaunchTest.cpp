@@ -53,6 +53,7 @@ bool RunningOnWine() {
     return ntdll && GetProcAddress(ntdll, "wine_get_version");
 }
 
+// The files reach the program's window, which comes forward; a program that is not there is told.
 TEST_F(LaunchTest, DropLaunchHandsTheFilesToTheProgramsWindow) {
     std::wstring log = TempLog(L"option-droplaunch.log");
     SetEnvironmentVariableW(L"DROPTARGET_LOG", log.c_str());
@@ -68,6 +69,10 @@ TEST_F(LaunchTest, DropLaunchHandsTheFilesToTheProgramsWindow) {
     HWND target = FindWindowW(kDropTargetClass, nullptr);
     EXPECT_EQ(target, GetForegroundWindow());
     EXPECT_TRUE(platform.fake().prompts().shown().empty());
+
+    std::wstring missing = testing_support::TestDirectory() + L"\\NoSuchProgram.exe";
+    DropLaunch(missing, {L"C:\\a.txt"}, messages);
+    EXPECT_EQ((std::vector<ShownMessage>{{L"cannot start\n" + missing, 0}}), platform.fake().prompts().shown());
 }
 
 // Within one process the block is read back by the shell's own DragQueryFileW.
@@ -101,12 +106,6 @@ TEST(DropFilesOnWindows, ThePostedBlockReadsBackAsTheFiles) {
     PumpMessages(50);
     EXPECT_EQ((std::vector<std::wstring>{L"point 0,0 client", L"C:\\a.txt", L"Z:\\b c\\\u00E9.txt"}), droppedHere);
     DestroyWindow(window);
-}
-
-TEST_F(LaunchTest, DropLaunchOfAProgramThatIsNotThere) {
-    std::wstring missing = testing_support::TestDirectory() + L"\\NoSuchProgram.exe";
-    DropLaunch(missing, {L"C:\\a.txt"}, messages);
-    EXPECT_EQ((std::vector<ShownMessage>{{L"cannot start\n" + missing, 0}}), platform.fake().prompts().shown());
 }
 
 TEST_F(LaunchTest, ShellLaunchStartsTheProgramInItsOwnDirectory) {

@@ -75,6 +75,13 @@ inline std::vector<std::wstring> Column(HWND list, int column) {
     return texts;
 }
 
+// Whether each control of a dialog takes input.
+inline std::vector<bool> Enabled(HWND dialog, std::initializer_list<int> ids) {
+    std::vector<bool> enabled;
+    for (int id : ids) enabled.push_back(IsWindowEnabled(GetDlgItem(dialog, id)) != FALSE);
+    return enabled;
+}
+
 inline RECT ScreenRect(HWND window) {
     RECT rect{};
     GetWindowRect(window, &rect);
@@ -164,10 +171,11 @@ protected:
         return texts;
     }
 
-    // A dialog text file for the option dialog in a language other than the templates' own.
-    void Translate(const std::wstring& text) {
+    // A dialog text file, the option dialog's own unless another is named, in a language other than
+    // the templates' own.
+    void Translate(const std::wstring& text, const std::wstring& file = L"159") {
         DirectWriteString(kDirectSettingsPath, L"NLS", L".en-US");
-        fake_.files().AddFile(L"C:\\Qor\\command\\Option\\.en-US\\Option\\159.txt", Utf16Bytes(text, true));
+        fake_.files().AddFile(L"C:\\Qor\\command\\Option\\.en-US\\Option\\" + file + L".txt", Utf16Bytes(text, true));
     }
 
     platform::fake::FakePlatform fake_;

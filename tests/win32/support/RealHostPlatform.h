@@ -4,6 +4,7 @@
 
 #include <windows.h>
 
+#include <string>
 
 #include "e2e/support/Process.h"
 #include "platform/fake/FakePlatform.h"
@@ -50,6 +51,16 @@ inline void RegisterWindowClass(const wchar_t* name, WNDPROC procedure) {
     wc.hInstance = GetModuleHandleW(nullptr);
     wc.lpszClassName = name;
     RegisterClassExW(&wc);
+}
+
+// The system's own text for an error code, as a message box shows it.
+inline std::wstring SystemText(DWORD error) {
+    wchar_t* text = nullptr;
+    FormatMessageW(FORMAT_MESSAGE_ALLOCATE_BUFFER | FORMAT_MESSAGE_FROM_SYSTEM | FORMAT_MESSAGE_IGNORE_INSERTS, nullptr,
+                   error, 0, reinterpret_cast<wchar_t*>(&text), 0, nullptr);
+    std::wstring result = text ? text : L"";
+    LocalFree(text);
+    return result;
 }
 
 using e2e::TestDirectory;
