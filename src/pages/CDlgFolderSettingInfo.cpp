@@ -43,14 +43,17 @@ bool CDlgFolderSettingInfo::ShowSortList(AppServices& app, const ui::ListView& l
     details.Load(app.store);
     list.SetExtendedStyle(LVS_EX_FULLROWSELECT, LVS_EX_FULLROWSELECT);
     list.InsertColumn(0, L"Sort", kSortColumnWidth);
-    for (SortGroup group : {SortGroup::System, SortGroup::Visible, SortGroup::Hide})
-        list.InsertGroup(static_cast<int>(group), CDetailData::GroupTitle(group));
-    list.EnableGroupView(true);
-    int row = 0;
     int selected = -1;
-    for (const SortChoice& choice : details.SortChoices(parts)) {
-        if (choice.key == key && selected < 0) selected = row;
-        list.InsertGroupedItem(row++, choice.label, choice.key, static_cast<int>(choice.group));
+    {
+        const ui::RedrawPaused paused(list);
+        for (SortGroup group : {SortGroup::System, SortGroup::Visible, SortGroup::Hide})
+            list.InsertGroup(static_cast<int>(group), CDetailData::GroupTitle(group));
+        list.EnableGroupView(true);
+        int row = 0;
+        for (const SortChoice& choice : details.SortChoices(parts)) {
+            if (choice.key == key && selected < 0) selected = row;
+            list.InsertGroupedItem(row++, choice.label, choice.key, static_cast<int>(choice.group));
+        }
     }
     if (selected >= 0) {
         list.SelectRow(selected);

@@ -17,6 +17,7 @@ constexpr uint16_t kCommonOperationChanged = 49020;
 // Puts the commands behind what the template and its translation put first, whose items get what
 // they stand for as their data.
 void AddCommands(const ui::ComboBox& combo, const std::vector<DropChoice>& commands) {
+    const ui::RedrawPaused paused(combo);
     const int shellItems = combo.GetCount();
     for (int index = 0; index < shellItems; ++index) combo.SetItemData(index, ShellDropCommand(index));
     for (const DropChoice& choice : commands) {

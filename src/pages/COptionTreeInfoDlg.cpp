@@ -57,14 +57,13 @@ bool COptionTreeInfoDlg::LoadGroups() {
     table_ = MakeTreeClickTable(app().mouseButtonNames, app().modifierNames, std::move(labels));
     table_.Load(app().store);
     FillClicks();
-    platform::ShellNamespace& shell = platform::Current().shell;
-    catalog_.Build(shell);
-    rootList_.Load(app().store.TopNode, catalog_, shell);
+    rootList_.Load(app().store.TopNode, platform::Current().shell);
     ShowRoots(-1);
     return true;
 }
 
 void COptionTreeInfoDlg::FillClicks() {
+    const ui::RedrawPaused paused(clicks_);
     clicks_.EnableGroupView(true);
     const std::vector<ClickGroup> groups = TreeClickGroups(app().mouseButtonNames);
     for (int group = 0; group < kGroupCount; ++group)
@@ -86,11 +85,14 @@ void COptionTreeInfoDlg::ChangeClick() {
 }
 
 void COptionTreeInfoDlg::ShowRoots(int selected) const {
-    roots_.DeleteAllItems();
-    const std::vector<TreeRoot>& rows = rootList_.rows();
-    for (size_t row = 0; row < rows.size(); ++row) {
-        roots_.InsertItem(static_cast<int>(row), rows[row].name);
-        roots_.SetItemText(static_cast<int>(row), 1, rows[row].text);
+    {
+        const ui::RedrawPaused paused(roots_);
+        roots_.DeleteAllItems();
+        const std::vector<TreeRoot>& rows = rootList_.rows();
+        for (size_t row = 0; row < rows.size(); ++row) {
+            roots_.InsertItem(static_cast<int>(row), rows[row].name);
+            roots_.SetItemText(static_cast<int>(row), 1, rows[row].text);
+        }
     }
     if (selected < 0) return;
     roots_.SelectRow(selected);
@@ -102,6 +104,7 @@ void COptionTreeInfoDlg::AddRoot() {
         platform::Current().prompts.ShowMessage(app().messages.Get(kMsgListFull), platform::kStyleOk);
         return;
     }
+    catalog_.Build(platform::Current().shell);
     CDlgSetUUID chooser(app(), catalog_);
     if (chooser.DoModal(hwnd()) != IDOK) return;
     TreeRoot root;

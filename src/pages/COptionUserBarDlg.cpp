@@ -79,6 +79,7 @@ void COptionUserBarDlg::FillSlots(const std::vector<std::wstring>& headers) {
                             FittingWidth(slots_, kSlotColumnWidths[column], {headers[static_cast<size_t>(column)]}),
                             column == kWidthColumn ? LVCFMT_RIGHT : LVCFMT_LEFT);
     const auto& bars = app().store.Bars;
+    const ui::RedrawPaused paused(slots_);
     for (size_t slot = 0; slot < bars.size(); ++slot) {
         const SlotCells cells = SlotCellsOf(slot, bars[slot]);
         const int row = slots_.InsertItem(static_cast<int>(slot), cells.number);
@@ -95,6 +96,7 @@ void COptionUserBarDlg::FillClicks() {
     for (size_t row = 0; row < table_.size(); ++row) labels.push_back(table_.Label(row));
     clicks_.InsertColumn(0, L"Action", FittingWidth(clicks_, kActionColumnWidth, labels));
     clicks_.InsertColumn(1, L"Command", FittingWidth(clicks_, kCommandColumnWidth, table_.actions()));
+    const ui::RedrawPaused paused(clicks_);
     clicks_.EnableGroupView(true);
     const std::vector<ClickGroup> groups = UserBarClickGroups(app().mouseButtonNames);
     for (int group = 0; group < kClickGroups; ++group)

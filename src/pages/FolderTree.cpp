@@ -40,17 +40,10 @@ void KnownFolderCatalog::Build(platform::ShellNamespace& shell) {
     if (ready_) return;
     for (platform::KnownFolder& folder : shell.KnownFolders()) {
         std::wstring id = crt::MakeUpper(folder.id);
-        byId_[id] = folder.name;
         ids_.push_back(std::move(id));
         names_.push_back(std::move(folder.name));
     }
     ready_ = true;
-}
-
-std::optional<std::wstring> KnownFolderCatalog::NameOf(const std::wstring& upperId) const {
-    const auto found = byId_.find(upperId);
-    if (found == byId_.end()) return std::nullopt;
-    return found->second;
 }
 
 platform::KnownFolder KnownFolderCatalog::At(int index) const {
@@ -69,13 +62,12 @@ bool IsIdentifierText(const std::wstring& text) {
     return true;
 }
 
-std::optional<TreeRoot> ResolveTreeRoot(const std::wstring& stored, const KnownFolderCatalog& catalog,
-                                        platform::ShellNamespace& shell) {
+std::optional<TreeRoot> ResolveTreeRoot(const std::wstring& stored, platform::ShellNamespace& shell) {
     std::wstring text = stored;
     if (!text.empty() && (text[0] == L':' || text[0] == L'{'))
         std::erase_if(text, [](wchar_t unit) { return unit == L':' || unit == L'{' || unit == L'}'; });
     if (IsIdentifierText(text)) {
-        std::optional<std::wstring> name = catalog.NameOf(crt::MakeUpper(text));
+        std::optional<std::wstring> name = shell.KnownFolderName(text);
         if (!name) return std::nullopt;
         return TreeRoot{std::move(*name), std::move(text)};
     }
@@ -84,11 +76,11 @@ std::optional<TreeRoot> ResolveTreeRoot(const std::wstring& stored, const KnownF
     return TreeRoot{std::move(*name), std::move(text)};
 }
 
-void TreeRootList::Load(const TextList& stored, const KnownFolderCatalog& catalog, platform::ShellNamespace& shell) {
+void TreeRootList::Load(const TextList& stored, platform::ShellNamespace& shell) {
     rows_.clear();
     for (const std::wstring& text : stored) {
         if (text.empty()) continue;
-        if (std::optional<TreeRoot> root = ResolveTreeRoot(text, catalog, shell)) rows_.push_back(std::move(*root));
+        if (std::optional<TreeRoot> root = ResolveTreeRoot(text, shell)) rows_.push_back(std::move(*root));
     }
 }
 

@@ -3,7 +3,6 @@
 // by its name.
 #pragma once
 
-#include <map>
 #include <optional>
 #include <string>
 #include <vector>
@@ -19,8 +18,9 @@ std::vector<ClickGroup> TreeClickGroups(const std::vector<std::wstring>& buttonN
 ClickTable MakeTreeClickTable(const std::vector<std::wstring>& buttonNames,
                               const std::vector<std::wstring>& modifierNames, std::vector<std::wstring> actionLabels);
 
-// The system's known folders, asked for once and kept: names by upper-case identifier, and the two
-// lists side by side in the order the shell gave them.
+// The system's known folders, asked for once and kept: upper-case identifiers and names side by side
+// in the order the shell gave them. Reading them all takes long enough to be felt, so only the root
+// dialog, which offers them all, asks for them.
 class KnownFolderCatalog {
 public:
     // Asks the shell the first time; later calls keep what was read.
@@ -28,13 +28,10 @@ public:
     bool ready() const { return ready_; }
     const std::vector<std::wstring>& ids() const { return ids_; }
     const std::vector<std::wstring>& names() const { return names_; }
-    // nullopt for an identifier the system does not know; the text must be upper case.
-    std::optional<std::wstring> NameOf(const std::wstring& upperId) const;
     // Throws std::invalid_argument for an index outside the lists.
     platform::KnownFolder At(int index) const;
 
 private:
-    std::map<std::wstring, std::wstring> byId_;
     std::vector<std::wstring> ids_;
     std::vector<std::wstring> names_;
     bool ready_ = false;
@@ -53,17 +50,16 @@ bool IsIdentifierText(const std::wstring& text);
 
 // A stored root as the list shows it. A text beginning with ":" or "{" (a shell path "::{...}" or a
 // braced identifier) loses every ":", "{" and "}", and keeps that form from then on. An identifier is
-// named by the catalogue, anything else is a path named as the address bar shows it. A root that
-// cannot be named has no row (and so is not stored again).
-std::optional<TreeRoot> ResolveTreeRoot(const std::wstring& stored, const KnownFolderCatalog& catalog,
-                                        platform::ShellNamespace& shell);
+// named by the shell's known folder of that identifier, anything else is a path named as the address
+// bar shows it. A root that cannot be named has no row (and so is not stored again).
+std::optional<TreeRoot> ResolveTreeRoot(const std::wstring& stored, platform::ShellNamespace& shell);
 
 // The roots of the page's list.
 class TreeRootList {
 public:
     static constexpr size_t kLimit = 30;
 
-    void Load(const TextList& stored, const KnownFolderCatalog& catalog, platform::ShellNamespace& shell);
+    void Load(const TextList& stored, platform::ShellNamespace& shell);
     const std::vector<TreeRoot>& rows() const { return rows_; }
     bool Full() const { return rows_.size() >= kLimit; }
     TextList Texts() const;

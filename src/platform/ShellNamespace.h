@@ -43,6 +43,9 @@ public:
     // Every known folder the known-folder manager lists, in its order. One it cannot describe is left
     // out; without a manager the list is empty.
     virtual std::vector<KnownFolder> KnownFolders() = 0;
+    // The canonical name of the one known folder with this identifier (hexadecimal groups without
+    // braces, either case), as KnownFolders names it; nullopt when the manager does not know it.
+    virtual std::optional<std::wstring> KnownFolderName(const std::wstring& id) = 0;
 };
 
 }  // namespace platform

@@ -36,4 +36,22 @@ private:
     HWND window_ = nullptr;
 };
 
+// Holds a control's drawing back while it is filled item by item, which under some systems costs
+// more than the items themselves; it draws once, when this goes.
+class RedrawPaused {
+public:
+    explicit RedrawPaused(const Control& control) : window_(control.hwnd()) {
+        SendMessageW(window_, WM_SETREDRAW, FALSE, 0);
+    }
+    ~RedrawPaused() {
+        SendMessageW(window_, WM_SETREDRAW, TRUE, 0);
+        InvalidateRect(window_, nullptr, TRUE);
+    }
+    RedrawPaused(const RedrawPaused&) = delete;
+    RedrawPaused& operator=(const RedrawPaused&) = delete;
+
+private:
+    HWND window_;
+};
+
 }  // namespace ui

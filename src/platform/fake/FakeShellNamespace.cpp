@@ -1,5 +1,7 @@
 #include "platform/fake/FakeShellNamespace.h"
 
+#include "services/CRuntime.h"
+
 namespace platform::fake {
 
 FakeShellNamespace::FakeShellNamespace()
@@ -17,6 +19,13 @@ std::optional<std::wstring> FakeShellNamespace::AddressBarName(const std::wstrin
     const auto known = addressNames.find(path);
     if (known == addressNames.end()) return std::nullopt;
     return known->second;
+}
+
+std::optional<std::wstring> FakeShellNamespace::KnownFolderName(const std::wstring& id) {
+    const std::wstring wanted = crt::MakeUpper(id);
+    for (const KnownFolder& folder : knownFolders)
+        if (crt::MakeUpper(folder.id) == wanted) return folder.name;
+    return std::nullopt;
 }
 
 }  // namespace platform::fake

@@ -16,6 +16,7 @@ public:
     std::optional<std::wstring> InFolderName(const std::wstring& parsingPath) override;
     std::optional<std::wstring> AddressBarName(const std::wstring& path) override;
     std::vector<KnownFolder> KnownFolders() override { return knownFolders; }
+    std::optional<std::wstring> KnownFolderName(const std::wstring& id) override;
 
     std::vector<ShellColumn> columns;
     // Parsing paths the shell knows, by their names in the folder; compared with case.

@@ -57,6 +57,15 @@ std::optional<std::wstring> CanonicalName(IKnownFolderManager& manager, const KN
     return name;
 }
 
+// The known-folder manager, or null when it cannot be made; the caller releases it.
+IKnownFolderManager* MakeManager() {
+    IKnownFolderManager* manager = nullptr;
+    if (FAILED(CoCreateInstance(CLSID_KnownFolderManager, nullptr, CLSCTX_INPROC_SERVER, IID_IKnownFolderManager,
+                                reinterpret_cast<void**>(&manager))))
+        return nullptr;
+    return manager;
+}
+
 }  // namespace
 
 std::vector<ShellColumn> Win32ShellNamespace::DesktopColumns() {
@@ -89,10 +98,8 @@ std::optional<std::wstring> Win32ShellNamespace::AddressBarName(const std::wstri
 
 std::vector<KnownFolder> Win32ShellNamespace::KnownFolders() {
     std::vector<KnownFolder> folders;
-    IKnownFolderManager* manager = nullptr;
-    if (FAILED(CoCreateInstance(CLSID_KnownFolderManager, nullptr, CLSCTX_INPROC_SERVER, IID_IKnownFolderManager,
-                                reinterpret_cast<void**>(&manager))))
-        return folders;
+    IKnownFolderManager* manager = MakeManager();
+    if (!manager) return folders;
     KNOWNFOLDERID* ids = nullptr;
     UINT count = 0;
     if (SUCCEEDED(manager->GetFolderIds(&ids, &count))) {
@@ -105,6 +112,17 @@ std::vector<KnownFolder> Win32ShellNamespace::KnownFolders() {
     }
     manager->Release();
     return folders;
+}
+
+std::optional<std::wstring> Win32ShellNamespace::KnownFolderName(const std::wstring& id) {
+    KNOWNFOLDERID folderId = {};
+    const std::wstring braced = L"{" + id + L"}";
+    if (FAILED(IIDFromString(braced.c_str(), &folderId))) return std::nullopt;
+    IKnownFolderManager* manager = MakeManager();
+    if (!manager) return std::nullopt;
+    std::optional<std::wstring> name = CanonicalName(*manager, folderId);
+    manager->Release();
+    return name;
 }
 
 }  // namespace platform::win32

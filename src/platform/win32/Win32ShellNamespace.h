@@ -10,6 +10,7 @@ public:
     std::optional<std::wstring> InFolderName(const std::wstring& parsingPath) override;
     std::optional<std::wstring> AddressBarName(const std::wstring& path) override;
     std::vector<KnownFolder> KnownFolders() override;
+    std::optional<std::wstring> KnownFolderName(const std::wstring& id) override;
 };
 
 }  // namespace platform::win32

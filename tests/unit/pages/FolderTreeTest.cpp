@@ -58,9 +58,7 @@ TEST(FolderTree, StoredRootsShowByNameOrAreLost) {
     };
     platform::fake::FakePlatform fake;
     fake.shell().addressNames = {{L"C:\\Data", L"Data (C:)"}, {L"Work", L"Work"}};
-    KnownFolderCatalog catalog;
-    catalog.Build(fake.shell());
-    for (const Case& c : cases) EXPECT_EQ(c.shown, ResolveTreeRoot(c.stored, catalog, fake.shell())) << c.stored;
+    for (const Case& c : cases) EXPECT_EQ(c.shown, ResolveTreeRoot(c.stored, fake.shell())) << c.stored;
 }
 
 // The catalogue asks the shell once, keeps the shell's order with upper-case identifiers, and refuses
@@ -104,11 +102,10 @@ TEST(FolderTree, RootListEditsKeepTheOrderTheUserGives) {
     };
     platform::fake::FakePlatform fake;
     fake.shell().addressNames = {{L"a", L"A"}, {L"b", L"B"}, {L"c", L"C"}};
-    KnownFolderCatalog catalog;
     for (const Case& c : cases) {
         SCOPED_TRACE(c.label);
         TreeRootList list;
-        list.Load({L"a", L"", L"gone", L"b", L"c"}, catalog, fake.shell());
+        list.Load({L"a", L"", L"gone", L"b", L"c"}, fake.shell());
         ASSERT_EQ((TextList{L"a", L"b", L"c"}), list.Texts());
         const int selected = c.op == Insert   ? list.Insert(c.row, {L"New", L"new"})
                              : c.op == Remove ? list.Remove(c.row)

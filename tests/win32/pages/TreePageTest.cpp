@@ -85,8 +85,9 @@ TEST_F(TreePageTest, AFullListRefusesAnotherRoot) {
     EXPECT_EQ(app_.messages.Get(62316), told);
 }
 
-// The system's known-folder manager lists the desktop under its canonical name, and the shell names a
-// real folder for the address bar.
+// The system's known-folder manager lists the desktop under its canonical name, and names every
+// folder it lists alike when asked for that one alone, by its identifier in either case. The shell
+// names a real folder for the address bar.
 TEST(KnownFolders, TheSystemCatalogueHasTheDesktop) {
     CoInitialize(nullptr);
     platform::win32::Win32ShellNamespace shell;
@@ -97,6 +98,11 @@ TEST(KnownFolders, TheSystemCatalogueHasTheDesktop) {
     ASSERT_NE(folders.end(), desktop);
     EXPECT_EQ(L"Desktop", desktop->name);
     EXPECT_GT(folders.size(), 20u);
+    for (const platform::KnownFolder& folder : folders)
+        EXPECT_EQ(folder.name, shell.KnownFolderName(folder.id).value_or(L"-")) << testing::PrintToString(folder.id);
+    EXPECT_EQ(L"Desktop", shell.KnownFolderName(L"b4bfcc3a-db2c-424c-b029-7fe99a87c641"));
+    EXPECT_EQ(std::nullopt, shell.KnownFolderName(L"00000000-0000-0000-0000-000000000000"));
+    EXPECT_EQ(std::nullopt, shell.KnownFolderName(L"C:\\windows"));
     EXPECT_NE(L"", shell.AddressBarName(L"C:\\windows").value_or(L""));
     EXPECT_EQ(std::nullopt, shell.AddressBarName(L"C:\\no such folder here"));
     CoUninitialize();
