@@ -69,6 +69,7 @@ void PropertyGrid::Measure() {
     ReleaseDC(window_, dc);
     rowHeight_ = std::max<int>(metrics.tmHeight + Scale(5), Scale(16));
     indent_ = rowHeight_;
+    DropParts();
     UpdateScrollBar();
     InvalidateRect(window_, nullptr, TRUE);
 }
@@ -105,6 +106,13 @@ void PropertyGrid::UpdateScrollBar() {
     info.nMax = std::max(0, rows - 1);
     info.nPage = static_cast<UINT>(PageRows());
     info.nPos = topRow_;
+    // Drawing the styled bar costs more than the rows do; a rebuilt model of the same size leaves it as it is.
+    SCROLLINFO shown{};
+    shown.cbSize = sizeof(shown);
+    shown.fMask = SIF_ALL;
+    if (GetScrollInfo(window_, SB_VERT, &shown) && shown.nMin == info.nMin && shown.nMax == info.nMax &&
+        shown.nPage == info.nPage && shown.nPos == info.nPos)
+        return;
     SetScrollInfo(window_, SB_VERT, &info, TRUE);
 }
 

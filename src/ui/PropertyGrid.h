@@ -11,6 +11,7 @@
 #include <uxtheme.h>
 
 #include <optional>
+#include <vector>
 
 #include "ui/PropertyGridModel.h"
 
@@ -79,6 +80,11 @@ private:
     void PaintRow(HDC dc, int row, const GridRow& shown, const RECT& client);
     void PaintValue(HDC dc, int row, const Property& property, const RECT& value);
     void PaintGlyph(HDC dc, const RECT& glyph, bool expanded);
+    // Draws a part of the visual style over a background of one colour. The style draws slowly and the
+    // grid shows the same few parts on many rows, so each look is drawn once into a bitmap and copied.
+    void PaintPart(HDC dc, HTHEME theme, int part, int state, const RECT& rect, COLORREF background);
+    // Forgets the drawn parts: the style, the sizes or the colours they were drawn with have changed.
+    void DropParts();
 
     void OnKeyDown(WPARAM key, bool alt);
     void OnMouseDown(int x, int y, bool doubleClick);
@@ -106,6 +112,16 @@ private:
     HTHEME buttonTheme_ = nullptr;
     HTHEME comboTheme_ = nullptr;
     HTHEME treeTheme_ = nullptr;
+    struct DrawnPart {
+        HTHEME theme;
+        int part;
+        int state;
+        SIZE size;
+        COLORREF background;
+        HBITMAP bitmap;
+    };
+    std::vector<DrawnPart> drawnParts_;
+    HDC partsDc_ = nullptr;  // holds each drawn part in turn while it is copied
 };
 
 }  // namespace ui

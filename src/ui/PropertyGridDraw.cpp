@@ -39,6 +39,7 @@ void PropertyGrid::OpenThemes() {
 }
 
 void PropertyGrid::CloseThemes() {
+    DropParts();
     for (HTHEME* theme : {&buttonTheme_, &comboTheme_, &treeTheme_}) {
         if (*theme) CloseThemeData(*theme);
         *theme = nullptr;
@@ -129,8 +130,8 @@ void PropertyGrid::PaintValue(HDC dc, int row, const Property& property, const R
         case PropertyKind::Boolean: {
             const RECT box = CheckRect(row);
             if (buttonTheme_) {
-                DrawThemeBackground(buttonTheme_, dc, BP_CHECKBOX,
-                                    property.check ? CBS_CHECKEDNORMAL : CBS_UNCHECKEDNORMAL, &box, nullptr);
+                PaintPart(dc, buttonTheme_, BP_CHECKBOX, property.check ? CBS_CHECKEDNORMAL : CBS_UNCHECKEDNORMAL, box,
+                          GetSysColor(COLOR_WINDOW));
             } else {
                 RECT frame = box;
                 DrawFrameControl(dc, &frame, DFC_BUTTON, DFCS_BUTTONCHECK | (property.check ? DFCS_CHECKED : 0));
@@ -151,14 +152,14 @@ void PropertyGrid::PaintValue(HDC dc, int row, const Property& property, const R
     RECT button = ButtonRect(row);
     if (property.kind == PropertyKind::Colour) {
         if (comboTheme_) {
-            DrawThemeBackground(comboTheme_, dc, CP_DROPDOWNBUTTON, CBXS_NORMAL, &button, nullptr);
+            PaintPart(dc, comboTheme_, CP_DROPDOWNBUTTON, CBXS_NORMAL, button, GetSysColor(COLOR_WINDOW));
         } else {
             DrawFrameControl(dc, &button, DFC_SCROLL, DFCS_SCROLLCOMBOBOX);
         }
         return;
     }
     if (buttonTheme_) {
-        DrawThemeBackground(buttonTheme_, dc, BP_PUSHBUTTON, PBS_NORMAL, &button, nullptr);
+        PaintPart(dc, buttonTheme_, BP_PUSHBUTTON, PBS_NORMAL, button, GetSysColor(COLOR_WINDOW));
     } else {
         DrawFrameControl(dc, &button, DFC_BUTTON, DFCS_BUTTONPUSH);
     }
@@ -171,7 +172,7 @@ void PropertyGrid::PaintGlyph(HDC dc, const RECT& glyph, bool expanded) {
     const int x = (glyph.left + glyph.right - size.cx) / 2, y = (glyph.top + glyph.bottom - size.cy) / 2;
     RECT box{x, y, x + size.cx, y + size.cy};
     if (treeTheme_) {
-        DrawThemeBackground(treeTheme_, dc, TVP_GLYPH, expanded ? GLPS_OPENED : GLPS_CLOSED, &box, nullptr);
+        PaintPart(dc, treeTheme_, TVP_GLYPH, expanded ? GLPS_OPENED : GLPS_CLOSED, box, GetSysColor(COLOR_BTNFACE));
         return;
     }
     Fill(dc, box, GetSysColor(COLOR_WINDOW));
@@ -181,6 +182,42 @@ void PropertyGrid::PaintGlyph(HDC dc, const RECT& glyph, bool expanded) {
     Line(dc, box.left + 2, midY, box.right - 2, midY);
     if (!expanded) Line(dc, midX, box.top + 2, midX, box.bottom - 2);
     SetDCPenColor(dc, GetSysColor(COLOR_BTNFACE));
+}
+
+void PropertyGrid::PaintPart(HDC dc, HTHEME theme, int part, int state, const RECT& rect, COLORREF background) {
+    const SIZE size{rect.right - rect.left, rect.bottom - rect.top};
+    if (size.cx <= 0 || size.cy <= 0) return;
+    if (!partsDc_) partsDc_ = CreateCompatibleDC(dc);
+    if (!partsDc_) {
+        DrawThemeBackground(theme, dc, part, state, &rect, nullptr);
+        return;
+    }
+    auto drawn = std::find_if(drawnParts_.begin(), drawnParts_.end(), [&](const DrawnPart& each) {
+        return each.theme == theme && each.part == part && each.state == state && each.size.cx == size.cx &&
+               each.size.cy == size.cy && each.background == background;
+    });
+    if (drawn == drawnParts_.end()) {
+        HBITMAP bitmap = CreateCompatibleBitmap(dc, size.cx, size.cy);
+        if (!bitmap) {
+            DrawThemeBackground(theme, dc, part, state, &rect, nullptr);
+            return;
+        }
+        SelectObject(partsDc_, bitmap);
+        const RECT whole{0, 0, size.cx, size.cy};
+        Fill(partsDc_, whole, background);
+        DrawThemeBackground(theme, partsDc_, part, state, &whole, nullptr);
+        drawn = drawnParts_.insert(drawnParts_.end(), {theme, part, state, size, background, bitmap});
+    }
+    SelectObject(partsDc_, drawn->bitmap);
+    BitBlt(dc, rect.left, rect.top, size.cx, size.cy, partsDc_, 0, 0, SRCCOPY);
+}
+
+void PropertyGrid::DropParts() {
+    // The DC lets go of the last bitmap it held only when it goes itself.
+    if (partsDc_) DeleteDC(partsDc_);
+    partsDc_ = nullptr;
+    for (const DrawnPart& drawn : drawnParts_) DeleteObject(drawn.bitmap);
+    drawnParts_.clear();
 }
 
 }  // namespace ui

@@ -34,6 +34,37 @@ UINT WithFrameworkIcon(UINT style) {
     }
 }
 
+// The common dialogs' library, loaded when a chooser first opens rather than at every start: loading
+// it and what it needs in turn costs the start-up more than anything else the program imports. Once
+// loaded it stays for the life of the process, as an imported library would.
+struct CommonDialogs {
+    decltype(&GetOpenFileNameW) getOpenFileName = nullptr;
+    decltype(&CommDlgExtendedError) extendedError = nullptr;
+    decltype(&ChooseColorW) chooseColor = nullptr;
+    decltype(&ChooseFontW) chooseFont = nullptr;
+};
+
+template <typename Function>
+void Find(HMODULE module, const char* name, Function& function) {
+    function = reinterpret_cast<Function>(reinterpret_cast<void*>(GetProcAddress(module, name)));
+}
+
+// Null when the library or one of its functions is missing: the chooser then does not open.
+const CommonDialogs* LoadCommonDialogs() {
+    static const CommonDialogs loaded = [] {
+        CommonDialogs functions;
+        HMODULE module = LoadLibraryW(L"comdlg32.dll");
+        if (!module) return functions;
+        Find(module, "GetOpenFileNameW", functions.getOpenFileName);
+        Find(module, "CommDlgExtendedError", functions.extendedError);
+        Find(module, "ChooseColorW", functions.chooseColor);
+        Find(module, "ChooseFontW", functions.chooseFont);
+        return functions;
+    }();
+    const bool complete = loaded.getOpenFileName && loaded.extendedError && loaded.chooseColor && loaded.chooseFont;
+    return complete ? &loaded : nullptr;
+}
+
 // Selects the start folder once the browser is up.
 int CALLBACK SelectStart(HWND window, UINT message, LPARAM, LPARAM start) {
     if (message == BFFM_INITIALIZED && start) SendMessageW(window, BFFM_SETSELECTIONW, TRUE, start);
@@ -102,6 +133,8 @@ FolderChoice Win32Prompts::BrowseForFolderName(const std::wstring& title, const 
 
 FolderChoice Win32Prompts::ChooseFileToOpen(const std::wstring& title, const std::wstring& filter,
                                             const std::wstring& start) {
+    const CommonDialogs* dialogs = LoadCommonDialogs();
+    if (!dialogs) return {};
     std::wstring filters = filter;
     for (wchar_t& c : filters) {
         if (c == L'|') c = L'\0';
@@ -117,9 +150,9 @@ FolderChoice Win32Prompts::ChooseFileToOpen(const std::wstring& title, const std
         box.nMaxFile = MAX_PATH;
         box.lpstrTitle = title.empty() ? nullptr : title.c_str();  // the system's own "Open"
         box.Flags = OFN_FILEMUSTEXIST | OFN_HIDEREADONLY;
-        if (GetOpenFileNameW(&box)) return {true, path};
+        if (dialogs->getOpenFileName(&box)) return {true, path};
         // Only a start text the box cannot take is worth a second opening.
-        if (attempt > 0 || CommDlgExtendedError() != FNERR_INVALIDFILENAME) break;
+        if (attempt > 0 || dialogs->extendedError() != FNERR_INVALIDFILENAME) break;
     }
     return {};
 }
@@ -150,6 +183,8 @@ int Win32Prompts::ChooseOne(const ChoiceRequest& request) {
 }
 
 std::optional<uint32_t> Win32Prompts::ChooseColour(uint32_t initial) {
+    const CommonDialogs* dialogs = LoadCommonDialogs();
+    if (!dialogs) return std::nullopt;
     // The sixteen custom colours live as long as the process, as the user expects of the chooser.
     static COLORREF custom[16] = {};
     CHOOSECOLORW box{};
@@ -158,12 +193,14 @@ std::optional<uint32_t> Win32Prompts::ChooseColour(uint32_t initial) {
     box.rgbResult = initial & 0xFFFFFF;
     box.lpCustColors = custom;
     box.Flags = CC_RGBINIT | CC_FULLOPEN | CC_ANYCOLOR;
-    if (!ChooseColorW(&box)) return std::nullopt;
+    if (!dialogs->chooseColor(&box)) return std::nullopt;
     return static_cast<uint32_t>(box.rgbResult);
 }
 
 std::optional<LogFont> Win32Prompts::ChooseFontFace(const LogFont& initial, unsigned flags) {
     static_assert(sizeof(LogFont) == sizeof(LOGFONTW));
+    const CommonDialogs* dialogs = LoadCommonDialogs();
+    if (!dialogs) return std::nullopt;
     LOGFONTW font{};
     std::memcpy(&font, &initial, sizeof(font));
     CHOOSEFONTW box{};
@@ -171,7 +208,7 @@ std::optional<LogFont> Win32Prompts::ChooseFontFace(const LogFont& initial, unsi
     box.hwndOwner = GetActiveWindow();
     box.lpLogFont = &font;
     box.Flags = flags | CF_INITTOLOGFONTSTRUCT;
-    if (!ChooseFontW(&box)) return std::nullopt;
+    if (!dialogs->chooseFont(&box)) return std::nullopt;
     LogFont chosen;
     std::memcpy(static_cast<void*>(&chosen), &font, sizeof(chosen));
     return chosen;
