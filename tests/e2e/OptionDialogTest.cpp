@@ -50,7 +50,9 @@ TEST(OptionDialog, OpensOverTheHostInItsOwnOrTranslatedWordsAndOnlyAValidPassSto
     reg::WriteString(reg::kOptionPage, L"SetFolder", L"C:\\Work");
     reg::WriteString(reg::kSettings, L"NLS", L".ja-JP");
     reg::WriteDword(reg::kSettings, L"LangOut", 1);
-    const e2e::ScopedFile translation(e2e::StageRoot() + L"\\command\\Option\\.ja-JP\\Option\\159.txt");
+    const std::wstring exports = e2e::StageRoot() + L"\\command\\Option\\.ja-JP\\Option";
+    const e2e::ScopedNewFiles pageExports(exports);
+    const e2e::ScopedFile translation(exports + L"\\159.txt");
     e2e::FakeHost host;
     ASSERT_TRUE(host.Window());
 

@@ -52,4 +52,27 @@ ScopedFile::~ScopedFile() {
     if (saved_) WriteFileBytes(path_, *saved_);
 }
 
+namespace {
+
+std::set<std::wstring> FilesIn(const std::wstring& folder) {
+    std::set<std::wstring> names;
+    WIN32_FIND_DATAW found;
+    HANDLE search = FindFirstFileW((folder + L"\\*").c_str(), &found);
+    if (search == INVALID_HANDLE_VALUE) return names;
+    do {
+        if (!(found.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY)) names.insert(found.cFileName);
+    } while (FindNextFileW(search, &found));
+    FindClose(search);
+    return names;
+}
+
+}  // namespace
+
+ScopedNewFiles::ScopedNewFiles(std::wstring folder) : folder_(std::move(folder)), before_(FilesIn(folder_)) {}
+
+ScopedNewFiles::~ScopedNewFiles() {
+    for (const std::wstring& name : FilesIn(folder_))
+        if (!before_.count(name)) DeleteFileW((folder_ + L"\\" + name).c_str());
+}
+
 }  // namespace e2e

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <optional>
+#include <set>
 #include <string>
 
 namespace e2e {
@@ -31,6 +32,20 @@ public:
 private:
     std::wstring path_;
     std::optional<std::string> saved_;
+};
+
+// Removes, when it goes, every file that has appeared directly in the folder while it lived: what a
+// run of the program writes there for translators.
+class ScopedNewFiles {
+public:
+    explicit ScopedNewFiles(std::wstring folder);
+    ScopedNewFiles(const ScopedNewFiles&) = delete;
+    ScopedNewFiles& operator=(const ScopedNewFiles&) = delete;
+    ~ScopedNewFiles();
+
+private:
+    std::wstring folder_;
+    std::set<std::wstring> before_;
 };
 
 }  // namespace e2e
