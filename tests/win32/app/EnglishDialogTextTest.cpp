@@ -15,6 +15,9 @@
 #include <vector>
 
 #include "definitions/CDlgMenuCommand.h"
+#include "e2e/support/Files.h"
+#include "ui/ListBox.h"
+#include "ui/ListView.h"
 #include "ui/LocaliseDialog.h"
 #include "unit/Utf16.h"
 #include "win32/support/OptionDialogFixture.h"
@@ -35,24 +38,9 @@ bool HasJapanese(const std::wstring& text) {
     return std::any_of(text.begin(), text.end(), IsJapanese);
 }
 
-std::string Narrow(const std::wstring& text) {
-    std::string out(
-        static_cast<size_t>(WideCharToMultiByte(CP_UTF8, 0, text.c_str(), -1, nullptr, 0, nullptr, nullptr)), 0);
-    WideCharToMultiByte(CP_UTF8, 0, text.c_str(), -1, out.data(), static_cast<int>(out.size()), nullptr, nullptr);
-    out.pop_back();
-    return out;
-}
-
 std::vector<uint8_t> RealFile(const std::wstring& path) {
-    std::vector<uint8_t> bytes;
-    HANDLE file = CreateFileW(path.c_str(), GENERIC_READ, FILE_SHARE_READ, nullptr, OPEN_EXISTING, 0, nullptr);
-    if (file == INVALID_HANDLE_VALUE) return bytes;
-    bytes.resize(GetFileSize(file, nullptr));
-    DWORD read = 0;
-    if (!bytes.empty()) ReadFile(file, bytes.data(), static_cast<DWORD>(bytes.size()), &read, nullptr);
-    CloseHandle(file);
-    bytes.resize(read);
-    return bytes;
+    const std::string bytes = e2e::ReadFileBytes(path);
+    return {bytes.begin(), bytes.end()};
 }
 
 // The lines of a dialog text file split at tabs; the first is the title. Empty when there is no file.
@@ -170,7 +158,7 @@ TEST_F(EnglishDialogText, EveryTemplateTextHasItsEnglishLine) {
         std::set<std::wstring> named;
         for (size_t i = 0; i < english.size(); ++i) {
             const auto& line = english[i];
-            for (const std::wstring& field : line) EXPECT_FALSE(HasJapanese(field)) << id << ": " << Narrow(field);
+            for (const std::wstring& field : line) EXPECT_FALSE(HasJapanese(field)) << id << ": " << e2e::Utf8(field);
             if (i == 0 || line.size() < 2) continue;
             named.insert(line[0]);
             if (line[1] == L"ComboBoxStart")
@@ -181,7 +169,7 @@ TEST_F(EnglishDialogText, EveryTemplateTextHasItsEnglishLine) {
                 texts[line[0]] = line[2];
         }
         auto row = [&](const std::wstring& control, const std::wstring& kind, const std::wstring& text) {
-            missing << id << '\t' << Narrow(control) << '\t' << Narrow(kind) << '\t' << Narrow(text) << "\t\n";
+            missing << id << '\t' << e2e::Utf8(control) << '\t' << e2e::Utf8(kind) << '\t' << e2e::Utf8(text) << "\t\n";
         };
         if (!shown.empty() && !shown[0][0].empty() && (english.empty() || english[0][0].empty()))
             row(L"", L"Title", shown[0][0]);
@@ -203,7 +191,7 @@ TEST_F(EnglishDialogText, EveryTemplateTextHasItsEnglishLine) {
             for (const std::wstring& entry : list) row(line[0], L"ComboBox", entry);
         }
         for (const std::wstring& control : named)
-            EXPECT_TRUE(controls.count(control)) << "the English file of " << id << " names control " << Narrow(control)
+            EXPECT_TRUE(controls.count(control)) << "the English file of " << id << " names control " << e2e::Utf8(control)
                                                  << ", which has no text in the dialog";
     }
     if (!missing.str().empty()) ADD_FAILURE() << "without English:\n" << missing.str();
@@ -220,15 +208,16 @@ std::vector<std::wstring> ShownTexts(HWND window) {
     std::vector<std::wstring> texts{TextOf(window)};
     wchar_t buffer[1024];
     auto send = [&](UINT message, WPARAM w, LPARAM l) { return SendMessageW(window, message, w, l); };
-    if (kind == L"ComboBox" || kind == L"ListBox") {
-        const bool combo = kind == L"ComboBox";
-        const LRESULT count = send(combo ? CB_GETCOUNT : LB_GETCOUNT, 0, 0);
+    if (kind == L"ComboBox") {
+        const LRESULT count = send(CB_GETCOUNT, 0, 0);
         for (LRESULT i = 0; i < count; ++i) {
             buffer[0] = 0;
-            if (send(combo ? CB_GETLBTEXTLEN : LB_GETTEXTLEN, i, 0) < 1024)
-                send(combo ? CB_GETLBTEXT : LB_GETTEXT, i, reinterpret_cast<LPARAM>(buffer));
+            if (send(CB_GETLBTEXTLEN, i, 0) < 1024) send(CB_GETLBTEXT, i, reinterpret_cast<LPARAM>(buffer));
             texts.push_back(buffer);
         }
+    } else if (kind == L"ListBox") {
+        const ui::ListBox list(window);
+        for (int i = 0; i < list.GetCount(); ++i) texts.push_back(list.GetText(i));
     } else if (kind == WC_HEADERW) {
         for (int i = 0; i < Header_GetItemCount(window); ++i) {
             HDITEMW item{};
@@ -238,13 +227,10 @@ std::vector<std::wstring> ShownTexts(HWND window) {
             texts.push_back(buffer);
         }
     } else if (kind == WC_LISTVIEWW) {
-        const int columns = Header_GetItemCount(ListView_GetHeader(window));
-        for (int row = 0; row < ListView_GetItemCount(window); ++row)
-            for (int column = 0; column < std::max(columns, 1); ++column) {
-                buffer[0] = 0;
-                ListView_GetItemText(window, row, column, buffer, 1024);
-                texts.push_back(buffer);
-            }
+        const ui::ListView list(window);
+        for (int row = 0; row < list.GetItemCount(); ++row)
+            for (int column = 0; column < std::max(list.GetColumnCount(), 1); ++column)
+                texts.push_back(list.GetItemText(row, column));
     } else if (kind == WC_TABCONTROLW) {
         for (int i = 0; i < TabCtrl_GetItemCount(window); ++i) {
             TCITEMW item{};
@@ -291,7 +277,7 @@ TEST_F(EnglishDialogText, NoPageShowsJapaneseInEnglish) {
         for (HWND window : windows)
             for (const std::wstring& text : ShownTexts(window))
                 if (HasJapanese(text))
-                    japanese.insert(Narrow(label) + ", " + std::to_string(GetDlgCtrlID(window)) + ": " + Narrow(text));
+                    japanese.insert(e2e::Utf8(label) + ", " + std::to_string(GetDlgCtrlID(window)) + ": " + e2e::Utf8(text));
     });
     std::string found;
     for (const std::string& line : japanese) found += line + "\n";
