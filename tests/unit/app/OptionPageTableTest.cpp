@@ -48,13 +48,6 @@ TEST(OptionPageTable, TheTreeFromTheLabelLists) {
     for (const auto& [path, id] : expected) EXPECT_EQ(id, paths[path]) << testing::PrintToString(path);
 }
 
-TEST(OptionPageTable, AWrongCountAddsNothing) {
-    std::vector<OptionTreeItem> items;
-    for (size_t count : {10u, 12u}) EXPECT_FALSE(AddTreeItems(1401, std::vector<std::wstring>(count, L"x"), items));
-    EXPECT_TRUE(items.empty());
-    EXPECT_EQ(std::pair(11, 5), std::pair(RequiredLabelCount(1401), RequiredLabelCount(1405)));
-}
-
 TEST(OptionPageTable, PagesHelpAndGroupTexts) {
     std::set<int> ids, templates, twoTo45;
     for (const OptionPageInfo& page : OptionPages()) ids.insert(page.id), templates.insert(page.templateId);

@@ -96,10 +96,4 @@ TEST_F(KeyListWriterTest, AListThatCannotBeOpenedIsPassedSilently) {
     EXPECT_EQ(76u, Lines(L"C:\\Out\\Search mode Ctrl+Shift.csv").size());
 }
 
-TEST(KeyListCsv, TextForm) {
-    EXPECT_EQ(L"\uFEFF\"A\",\"Copy\"\r\n\"\\\",\"Say \"hi\"\"\r\n",
-              KeyListCsvText({{L"A", L"Copy"}, {L"\\", L"Say \"hi\""}}));
-    EXPECT_EQ(L"\uFEFF", KeyListCsvText({}));
-}
-
 }  // namespace

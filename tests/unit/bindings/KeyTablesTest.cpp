@@ -7,7 +7,6 @@
 #include "bindings/DefaultKeyTables.h"
 #include "bindings/KeyTableFiles.h"
 #include "platform/fake/FakePlatform.h"
-#include "unit/Utf16.h"
 
 namespace {
 
@@ -15,69 +14,12 @@ using platform::fake::FakePlatform;
 
 constexpr const wchar_t* kUserDir = L"C:\\Users\\tester\\Qor\\";
 
-// What a user without key files finds bound: one key of each block, a key each block leaves free,
-// and the last modes all alike.
-TEST(KeyTables, DefaultBindings) {
-    // clang-format off
-    struct Case { int mode; int modifier; const wchar_t* key; uint16_t word; };
-    const Case cases[] = {
-        {0, kModifierNone, L"A", 42004}, {0, kModifierNone, L"@", 42150}, {0, kModifierNone, L"O", 0},
-        {0, kModifierShift, L"Ent", 40503}, {0, kModifierShift, L"A", 0}, {0, kModifierCtrl, L"L", 36210},
-        {0, kModifierCtrl, L",", 36911}, {0, kModifierCtrlShift, L"C", 42026}, {1, kModifierNone, L"A", 0},
-        {1, kModifierNone, L"F12", 35502}, {1, kModifierShift, L"Ent", 35900}, {1, kModifierCtrl, L"L", 0},
-        {1, kModifierCtrl, L"I", 35692}, {1, kModifierCtrlShift, L"Tab", 35801}, {2, kModifierNone, L"N1", 0},
-        {2, kModifierNone, L"F12", 35502}, {2, kModifierCtrl, L"I", 0}, {2, kModifierCtrl, L"Z", 57643},
-        {8, kModifierCtrlShift, L"Spc", 35607}, {8, kModifierShift, L"Ins", 57637}, {8, kModifierNone, L"Esc", 0},
-    };
-    // clang-format on
-    const KeyTableSet& defaults = DefaultKeyTables();
-    for (const Case& c : cases) {
-        EXPECT_EQ(c.word, defaults.Word(c.mode, c.modifier, KeyIndex(c.key)))
-            << "mode " << c.mode << " modifier " << c.modifier << " key " << testing::PrintToString(c.key);
-    }
-    for (int mode = 3; mode < kKeyModeCount; ++mode) EXPECT_EQ(defaults.modes[2], defaults.modes[mode]) << mode;
-}
-
 class KeyTableFilesTest : public testing::Test {
 protected:
     KeyTableFilesTest() { fake.files().AddDirectory(kUserDir); }
 
-    static std::vector<uint8_t> WordsAsBytes(const std::vector<uint16_t>& words) {
-        return Utf16Bytes(std::wstring(words.begin(), words.end()));
-    }
-
     FakePlatform fake;
 };
-
-TEST_F(KeyTableFilesTest, LoadingTakesWhatEachFileHolds) {
-    const std::wstring dir = kUserDir;
-    // 100 bytes: the first 50 words of the command mode.
-    std::vector<uint16_t> fifty(50);
-    for (int i = 0; i < 50; ++i) fifty[i] = static_cast<uint16_t>(1000 + i);
-    fake.files().AddFile(dir + L"CommandMode.key", WordsAsBytes(fifty));
-    // Spelt correctly the search mode's file is not the host's.
-    fake.files().AddFile(dir + L"SearchMode.key", WordsAsBytes(std::vector<uint16_t>(304, 7)));
-    // A long file gives its first 608 bytes.
-    std::vector<uint16_t> longer(400, 0x1234);
-    longer[303] = 0xABCD;
-    fake.files().AddFile(dir + L"Mode5.key", WordsAsBytes(longer));
-    // An odd length ends in the middle of a word: its low byte arrives.
-    fake.files().AddFile(dir + L"Mode9.key", std::string("\x01\x02\x03", 3));
-
-    KeyTableSet set;
-    for (auto& table : set.modes) table.fill(0xBEEF);
-    LoadKeyTables(dir, set);
-    KeyTableSet expected = DefaultKeyTables();
-    expected.modes[0].fill(0xBEEF);
-    std::copy(fifty.begin(), fifty.end(), expected.modes[0].begin());
-    expected.modes[4].fill(0x1234);
-    expected.modes[4][303] = 0xABCD;
-    expected.modes[8].fill(0xBEEF);
-    expected.modes[8][0] = 0x0201;
-    expected.modes[8][1] = 0xBE03;
-    EXPECT_EQ(expected.modes, set.modes);
-    EXPECT_TRUE(fake.prompts().shown().empty());
-}
 
 TEST_F(KeyTableFilesTest, SavedTablesReadBackAsTheyWere) {
     const std::wstring dir = kUserDir;

@@ -3,7 +3,6 @@
 #include <map>
 
 #include "definitions/CommandCatalog.h"
-#include "definitions/CommandDump.h"
 #include "definitions/CommandListFile.h"
 #include "platform/fake/FakePlatform.h"
 #include "unit/Utf16.h"
@@ -11,11 +10,9 @@
 namespace {
 
 using platform::fake::FakePlatform;
-using platform::fake::LibraryContent;
 using platform::fake::ShownMessage;
 
 constexpr const wchar_t* kUserDir = L"C:\\Users\\tester\\Qor\\";
-constexpr const wchar_t* kLibrary = L"C:\\Qor\\Lang\\Qor.en-US.dll";
 
 class CommandCatalogTest : public testing::Test {
 protected:
@@ -96,43 +93,6 @@ TEST_F(CommandCatalogTest, EachMissingListIsToldAndTheOthersAreRead) {
             expected.push_back({L"Cannot open " + std::wstring(kUserDir) + name, 0});
     }
     EXPECT_EQ(expected, fake.prompts().shown());
-}
-
-TEST_F(CommandCatalogTest, CommandStrings) {
-    // clang-format off
-    fake.system().AddLibrary(kLibrary, LibraryContent{{{35900, L"Open\nOpen the item"}, {35901, L"\nOnly a tip"},
-        {47000, L"Bar menu"}, {50551, L"External %d"}, {50556, L"User command %d\nTip"}, {50560, L"Bar 1 button %d"},
-        {50564, L"Bar 5 button %d"}, {50574, L"Bar 9 button %d"}, {35903, L"Tab\tand\r\nCR\nmore"}}, {}});
-    // clang-format on
-    auto library = fake.system().LoadDataLibrary(kLibrary);
-    WriteLists({{L"ExternalDefCommand.txt",
-                 L"40001\t\tN--\tnotepad.exe\tEdit in Notepad\r\n"
-                 L"33005\t\t\tx\tListed bar button\r\n"
-                 L"35900\t\t\tx\tNot asked for\r\n"}});
-    catalog.LoadCommandLists(kUserDir);
-    // clang-format off
-    struct Case { uint16_t id; bool withLibrary; std::wstring text; };
-    const Case cases[] = {
-        {0, true, L"---"}, {0, false, L"---"}, {33000, true, L"Bar 1 button 1"}, {33005, true, L"Listed bar button"},
-        {33009, true, L"Bar 1 button 10"}, {33049, true, L"Bar 5 button 10"}, {33089, true, L"Bar 9 button 10"},
-        {40001, true, L"Edit in Notepad"}, {40001, false, L"Edit in Notepad"}, {40002, true, L"External 40002"},
-        {42501, true, L"User command 42501\nTip"}, {42600, false, L""}, {35900, true, L"Open"},
-        {35900, false, L"Cannot get command string."}, {35901, true, L"Cannot get command string."},
-        {35902, true, L"Cannot get command string."}, {47000, true, L"Bar menu"},
-        {33090, true, L"Cannot get command string."}, {35903, true, L"Tab\tand\r"},  // the text ends at the first LF
-    };
-    // clang-format on
-    for (const Case& c : cases) {
-        EXPECT_EQ(c.text, catalog.GetCommandString(c.id, c.withLibrary ? library.get() : nullptr))
-            << c.id << (c.withLibrary ? " with" : " without") << " library";
-    }
-}
-
-TEST(CommandDump, Rows) {
-    EXPECT_EQ(L"35900\tOpen\tOpen\r\n", CommandDumpRow(CommandDumpForm::Text, 35900, L"Open", L"Open"));
-    EXPECT_EQ(L"<tr><td>40001</td><td>External 40001</td><td>Edit</td></tr>\r\n",
-              CommandDumpRow(CommandDumpForm::Html, 40001, L"External 40001", L"Edit"));
-    EXPECT_EQ(L"Cannot get command string.(Sort:35999)", CommandDumpMissingText(L"Sort", 35999));
 }
 
 }  // namespace

@@ -23,22 +23,6 @@ MenuItem Popup(std::wstring text, std::vector<MenuItem> children, uint32_t id = 
     return {id, std::move(text), false, true, std::move(children)};
 }
 
-// The tree as an outline, one node per line: its text, its identifier and picture; a group of more
-// than four shows its first two, how many are left out, and its last.
-void Outline(const std::vector<CommandNode>& nodes, int depth, std::wstring& out) {
-    for (size_t n = 0; n < nodes.size(); ++n) {
-        if (nodes.size() > 4 && n == 2) {
-            out += std::wstring(depth * 2, L' ') + L"(" + std::to_wstring(nodes.size() - 3) + L" more)\n";
-            n = nodes.size() - 1;
-        }
-        const CommandNode& node = nodes[n];
-        out += std::wstring(depth * 2, L' ') + node.text;
-        if (node.id) out += L" #" + std::to_wstring(node.id);
-        out += L" [" + std::to_wstring(static_cast<int>(node.image)) + L"]\n";
-        Outline(node.children, depth + 1, out);
-    }
-}
-
 class CommandTreeTest : public testing::Test {
 protected:
     CommandTreeTest() {
@@ -78,70 +62,6 @@ protected:
     std::unique_ptr<platform::ResourceLibrary> library;
     CommandCatalog catalog;
 };
-
-// Menus lose "..." and "&", items without text and the left-out identifiers with what hangs under
-// them; the numbered branches hang under the item the command menu inserted last.
-TEST_F(CommandTreeTest, TheTreeInThePickersOrder) {
-    std::wstring outline;
-    Outline(BuildCommandTree(Sources(true), nullptr), 0, outline);
-    // clang-format off
-    EXPECT_EQ(L"メインメニューのコマンド [0]\n"
-              L"  ファイル(F) [0]\n"
-              L"    開く(O) #32800 [5]\n"
-              L"    閉じる(C) #32801 [2]\n"
-              L"コマンド [0]\n"
-              L"  更新 #32810 [2]\n"
-              L"  表示 [0]\n"
-              L"    詳細 #32811 [2]\n"
-              L"      ユーザー定義バーの操作 [0]\n"
-              L"        バー1 - 操作 [0]\n"
-              L"          バー1 - 操作1 #33000 [4]\n"
-              L"          バー1 - 操作2 #33001 [4]\n"
-              L"          (6 more)\n"
-              L"          バー1 - 操作9 #33008 [4]\n"
-              L"         [0]\n"
-              L"           #33010 [4]\n"
-              L"           #33011 [4]\n"
-              L"          (6 more)\n"
-              L"           #33018 [4]\n"
-              L"        (6 more)\n"
-              L"         [0]\n"
-              L"           #33080 [4]\n"
-              L"           #33081 [4]\n"
-              L"          (6 more)\n"
-              L"           #33088 [4]\n"
-              L"      全ての外部コマンド [0]\n"
-              L"        外部コマンド [0]\n"
-              L"          外部コマンド40001 #40001 [4]\n"
-              L"          外部コマンド40002 #40002 [4]\n"
-              L"          (497 more)\n"
-              L"          外部コマンド40500 #40500 [4]\n"
-              L"         [0]\n"
-              L"           #40501 [4]\n"
-              L"           #40502 [4]\n"
-              L"          (497 more)\n"
-              L"           #41000 [4]\n"
-              L"        (3 more)\n"
-              L"         [0]\n"
-              L"           #42501 [4]\n"
-              L"           #42502 [4]\n"
-              L"          (497 more)\n"
-              L"           #43000 [4]\n"
-              L"各種バー専用のメニューコマンド [0]\n"
-              L"  _Bar.txt [0]\n"
-              L"    タブを複製 #47001 [2]\n"
-              L"    名前を変更 #47999 [2]\n",
-              outline);
-    // clang-format on
-
-    // Without the language library and without bar commands only the numbered branches are left.
-    CommandTreeSources bare = Sources(false);
-    bare.library = nullptr;
-    const std::vector<CommandNode> top = BuildCommandTree(bare, nullptr);
-    ASSERT_EQ(2u, top.size());
-    EXPECT_EQ((std::vector<std::wstring>{L"ユーザー定義バーの操作", L"全ての外部コマンド"}),
-              (std::vector<std::wstring>{top[0].text, top[1].text}));
-}
 
 // Alt is read for every row; an html row whose command has no text is told first. Bar commands add no row.
 TEST_F(CommandTreeTest, TheDumpTakesTheFormOfEachRowAsAltStandsThen) {

@@ -37,12 +37,6 @@ ColorGridLabels JapaneseLabels() {
          Split(L"拡張子色分け/グループ/色/拡張子"), Split(L"フォント/グラデーション描画する")}};
 }
 
-std::wstring PathOf(const ui::PropertyGridModel& grid, int id) {
-    std::wstring path = grid.at(id).name;
-    for (int p = grid.at(id).parent; p >= 0; p = grid.at(p).parent) path = grid.at(p).name + L"/" + path;
-    return path;
-}
-
 int32_t V::*const kColours[] = {
     &V::Color1,  &V::Color2,  &V::Color3,  &V::Color4,  &V::Color5,  &V::Color6,  &V::Color7,  &V::Color8,  &V::Color9,
     &V::Color10, &V::Color11, &V::Color12, &V::Color13, &V::Color15, &V::Color16, &V::Color17, &V::Color18, &V::Color19,
@@ -78,56 +72,6 @@ TEST(ColorGrid, TheLeafWalkGivesBackWhatTheGridWasBuiltFrom) {
         EXPECT_EQ(static_cast<uint32_t>(bits) & 63, static_cast<uint32_t>(back.Color) & 63);
         EXPECT_EQ(~static_cast<uint32_t>(bits) & ~63u, static_cast<uint32_t>(back.Color) & ~63u);
     }
-}
-
-// Where the values show: the rules tick "colour it" where their bit is clear.
-TEST(ColorGrid, EachLeafShowsItsValueAtItsPlace) {
-    V values;
-    Distinct(values, 3);
-    values.Color = 49;
-    ui::PropertyGridModel grid;
-    BuildColorGrid(grid, JapaneseLabels(), values);
-    const std::vector<int> leaves = grid.Leaves();
-    struct Case {
-        int leaf;
-        const wchar_t* path;
-        int32_t V::*colour;
-        int check;  // -1: not a boolean
-    };
-    const Case cases[] = {
-        {0, L"フォント", nullptr, -1},
-        {1, L"グラデーション描画する", nullptr, 1},
-        {2, L"属性による色分け/属性なし", &V::Color1, -1},
-        {7, L"属性による色分け/圧縮/色分けする", nullptr, 1},
-        {10, L"属性による色分け/暗号/色", &V::Color10, -1},
-        {13, L"属性による色分け/偽装ファイル/色分けする", nullptr, 0},
-        {15, L"属性による色分け/ディレクトリ内検索/色", &V::Color13, -1},
-        {18, L"リスト/フォーカス（アクティブ）/文字色", &V::Color8, -1},
-        {21, L"リスト/フォーカス（非アクティブ）/背景色", &V::Color27, -1},
-        {22, L"ドッキングウィンドウ/テキスト", &V::Color25, -1},
-        {25, L"ドッキングウィンドウ/アクティブ背景色を使用", nullptr, 1},
-        {36, L"拡張子色分け/グループ6/色", &V::Color22, -1},
-        {37, L"拡張子色分け/グループ6/拡張子", nullptr, -1},
-    };
-    for (const Case& c : cases) {
-        const ui::Property& leaf = grid.at(leaves[static_cast<size_t>(c.leaf)]);
-        EXPECT_EQ(c.path, PathOf(grid, leaves[static_cast<size_t>(c.leaf)])) << c.leaf;
-        if (c.colour) {
-            EXPECT_EQ(static_cast<uint32_t>(values.*c.colour), leaf.colour) << c.leaf;
-        }
-        if (c.check >= 0) {
-            EXPECT_EQ(c.check == 1, leaf.check) << c.leaf;
-        }
-    }
-    EXPECT_EQ(values.Ex6, grid.at(leaves[37]).text);
-    EXPECT_EQ(-3, grid.at(leaves[0]).font.lfHeight);
-    // The four top groups open, everything below them closed.
-    std::vector<std::wstring> rows;
-    for (const ui::GridRow& row : grid.Rows()) rows.push_back(grid.at(row.id).name);
-    ASSERT_EQ(29u, rows.size());
-    EXPECT_EQ(L"圧縮", rows[8]);
-    EXPECT_EQ(L"グループ1", rows[23]);
-    EXPECT_EQ(L"グループ6", rows[28]);
 }
 
 TEST(ColorGrid, AShortLabelListFailsAndALongOneIsTakenAsFarAsNeeded) {

@@ -99,17 +99,4 @@ TEST_F(PvPluginInfoTest, UnloadingClosesControlsBeforeFreeingLibraries) {
     EXPECT_TRUE(fake_.prompts().shown().empty());
 }
 
-TEST(CanonicalPath, TakesOutDotSegmentsAsTheShellDoes) {
-    // clang-format off
-    const std::pair<std::wstring, std::wstring> cases[] = {
-        {L"C:\\Qor\\command\\Option\\..\\PvPlugIn\\", L"C:\\Qor\\command\\PvPlugIn\\"},
-        {L"C:\\a\\.\\b\\..\\c.dll", L"C:\\a\\c.dll"}, {L"C:\\a\\..\\..\\..\\x.dll", L"C:\\x.dll"},
-        {L"C:\\a\\..", L"C:\\"}, {L"C:\\a\\b\\.", L"C:\\a\\b\\"}, {L"C:\\PvPlugIn\\*", L"C:\\PvPlugIn\\*"},
-        {L"", L""},
-    };
-    // clang-format on
-    for (const auto& [path, canonical] : cases)
-        EXPECT_EQ(canonical, CanonicalPath(path)) << testing::PrintToString(path);
-}
-
 }  // namespace

@@ -4,7 +4,6 @@
 #include <cstdint>
 #include <cwchar>
 #include <iterator>
-#include <numeric>
 #include <random>
 #include <string>
 #include <utility>
@@ -51,25 +50,6 @@ TEST(SortBenchmark, SortsLikeStableSortInBothDirections) {
                     ASSERT_EQ(expected, sorted) << "n " << n << " threshold " << threshold << " depth " << depth
                                                 << " descending " << descending;
                 }
-            }
-        }
-    }
-}
-
-// The benchmark sorts falling integers into rising ones and back: each run flips the direction,
-// starting ascending, and a sorted run reversed is no special case.
-TEST(SortBenchmark, EachRunFlipsTheDirectionStartingAscending) {
-    for (size_t n : {2u, 5u, 100u, 4097u}) {
-        std::vector<int64_t> values(n);
-        std::iota(values.begin(), values.end(), -1);
-        const std::vector<int64_t> rising = values;
-        const std::vector<int64_t> falling(rising.rbegin(), rising.rend());
-        for (size_t threshold : {0u, 10u, 999u}) {
-            sortbench::ListSort sort;
-            values = falling;
-            for (const std::vector<int64_t>* expected : {&rising, &falling, &rising}) {
-                sort.Run(values, threshold);
-                EXPECT_EQ(*expected, values) << n << " " << threshold;
             }
         }
     }

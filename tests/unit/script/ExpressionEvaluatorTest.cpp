@@ -31,49 +31,4 @@ TEST(ExpressionEvaluator, ValuesAndErrorCodes) {
     }
 }
 
-TEST(ScriptNumbers, TheThreeTestsDiffer) {
-    // clang-format off
-    struct Case { const wchar_t* text; bool scriptNumber; const wchar_t* normalised; bool signedInteger; };
-    const Case cases[] = {
-        {L"", true, L"", true},                      {L"  ", true, L"  ", false},        {L"007", true, L"7", true},
-        {L" 1 2 ", true, L"12", false},              {L"0x1F", true, L"31", false},      {L"0x", false, L"0x", false},
-        {L"0X1F", false, L"0X1F", false},            {L"0xFFFFFFFFF", true, L"2147483647", false},
-        {L"-5", false, L"-5", true},                 {L"+5", false, L"+5", true},        {L"-", false, L"-", true},
-        {L"1.5", false, L"1.5", false},              {L"a9", false, L"a9", false},
-        {L"99999999999", true, L"99999999999", true},
-    };
-    // clang-format on
-    for (const Case& c : cases) {
-        const std::wstring text = c.text;
-        EXPECT_EQ(c.scriptNumber, IsScriptNumber(text)) << testing::PrintToString(text);
-        EXPECT_EQ(c.normalised, NormalisedNumberText(text)) << testing::PrintToString(text);
-        EXPECT_EQ(c.signedInteger, IsSignedInteger(text)) << testing::PrintToString(text);
-    }
-}
-
-TEST(ScriptNumbers, HexadecimalRewritingAndTheExpressionAlphabet) {
-    const std::pair<const wchar_t*, const wchar_t*> rewrites[] = {
-        {L"0x10", L"16"},
-        {L"C:\\0x10\\a", L"C:\\16\\a"},
-        {L"10x5", L"15"},
-        {L"abc0x10", L"abc16"},
-        {L"0x1g0xff", L"1g255"},
-        {L"0X10", L"0X10"},
-        {L"0xg", L"0xg"},
-        {L"0x", L"0x"},
-        {L"0xFFFFFFFFFF", L"2147483647"},
-    };
-    for (const auto& [text, rewritten] : rewrites) {
-        std::wstring changed = text;
-        RewriteHexNumbers(changed);
-        EXPECT_EQ(rewritten, changed) << testing::PrintToString(std::wstring(text));
-    }
-    EXPECT_TRUE(IsExpressionText(L"(1 + 2.5) * 3 % 4 / 5 - 6"));
-    EXPECT_FALSE(IsExpressionText(L"1\t+2"));
-    EXPECT_FALSE(IsExpressionText(L"1e3"));
-    EXPECT_EQ(26, ScriptInteger(L"0x1A"));
-    EXPECT_EQ(12, ScriptInteger(L"12abc"));
-    EXPECT_EQ(9000000000LL, ScriptInteger(L"9000000000"));
-}
-
 }  // namespace

@@ -106,33 +106,4 @@ TEST_F(LaunchRunTest, BackgroundModeStartsFromItsOwnThread) {
     EXPECT_EQ(L"2", fake.processes().shellRequests()[1].parameters);
 }
 
-TEST_F(LaunchRunTest, ExRunEntriesTakeTheItemsTheirFilterAndArgumentsAllow) {
-    // started: the program started, empty for none.
-    // clang-format off
-    struct Case { const char* what; std::wstring program, item, arguments, filter; bool dealt; std::wstring started; };
-    const Case cases[] = {
-        {"no argument text", L"edit.exe", L"C:\\D\\a.txt", L"", L"", false, L""},
-        {"a line feed as arguments", L"edit.exe", L"C:\\D\\a.txt", L"\n", L"", false, L""},
-        {"filter in another case", L"edit.exe", L"C:\\D\\A.TXT", L"?SelFile?", L"txt", true, L"edit.exe"},
-        {"filter and no extension", L"edit.exe", L"C:\\D\\README", L"?SelFile?", L"txt", false, L""},
-        {"one alternative is the program as written", L" one.exe |", L"C:\\D\\a.txt", L"?SelFile?", L"", true,
-         L" one.exe |"},
-    };
-    // clang-format on
-    for (const Case& c : cases) {
-        SCOPED_TRACE(c.what);
-        platform::fake::FakePlatform fresh;
-        EXPECT_EQ(c.dealt, LaunchExRunEntry(c.program, c.item, kWorkDir, c.arguments, c.filter, {.waitTime = 50}));
-        const auto& requests = fresh.processes().shellRequests();
-        if (c.started.empty()) {
-            EXPECT_TRUE(requests.empty());
-        } else {
-            ASSERT_EQ(1u, requests.size());
-            EXPECT_EQ(c.started, requests[0].file);
-            EXPECT_EQ(L"\"" + c.item + L"\"", requests[0].parameters);
-            EXPECT_EQ(50u, fresh.processes().Ticks() - kStartTicks);
-        }
-    }
-}
-
 }  // namespace

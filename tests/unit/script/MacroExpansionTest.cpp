@@ -89,23 +89,6 @@ TEST_F(MacroExpansionTest, EachGroupInItsOrder) {
     EXPECT_EQ(L"2024-03-06 00-07-09 Wednesday", text) << "local time across midnight";
 }
 
-// Drive, directory, name and extension, as the place and item macros show them.
-TEST_F(MacroExpansionTest, SplittingAnItemPath) {
-    // clang-format off
-    const std::pair<std::wstring, std::wstring> cases[] = {
-        {L"", L"|||"},                          {L"C:\\x\\y.z", L"C:|\\x\\|y|.z"},     {L"C:\\y", L"C:|\\|y|"},
-        {L"file.tar.gz", L"||file.tar|.gz"},    {L"\\\\server\\share\\f.x", L"|\\\\server\\share\\|f|.x"},
-        {L"a\\b", L"a\\||b|"},                  {L"ab\\cd\\e", L"ab|\\cd\\|e|"},        {L"1\\b", L"|1\\|b|"},
-        {L"C:/x/y.z", L"||C:/x/y|.z"},          {L"C:\\dir.d\\", L"C:|\\dir.d\\||"},
-    };
-    // clang-format on
-    for (const auto& [path, expected] : cases) {
-        const PathParts parts = SplitItemPath(path);
-        EXPECT_EQ(expected, parts.drive + L"|" + parts.directory + L"|" + parts.name + L"|" + parts.extension)
-            << testing::PrintToString(path);
-    }
-}
-
 std::wstring Repeated(const std::wstring& piece, size_t times) {
     std::wstring text;
     for (size_t i = 0; i < times; ++i) text += piece;

@@ -123,24 +123,6 @@ TEST_F(ScriptHostWordsTest, WhatTheHostHears) {
         Check({"a jump of the wrong form", {jump, L"select = after"}, {}, {SyntaxError(jump)}});
 }
 
-TEST_F(ScriptHostWordsTest, WithoutAHostNothingIsSentAndOnlyBadValuesAreReported) {
-    // clang-format off
-    const HostCase cases[] = {
-        {"numbers", {L"postmessage = 5", L"sendmessage = 0", L"sendmessageall = 1,2"}, {}, {}},
-        {"an empty value is still an error", {L"postmessage =", L"postmessagetab = 1"}, {},
-         {SyntaxError(L"postmessage ="), SyntaxError(L"postmessagetab = 1")}},
-        {"texts",
-         {L"select = a", L"system_command = 1, b", L"folderjump = 0, C:\\Data", L"favoritejump = 0, C:\\Data",
-          L"ubjump = 1, x", L"fullstateopen = y", L"tabletmode = 1"}, {}, {}},
-        {"a jump without a path", {L"filejump = 0,"}, {}, {SyntaxError(L"filejump = 0,")}},
-    };
-    // clang-format on
-    for (const HostCase& c : cases) Check(c);
-    RunLines({L"messageboxok = alone"});
-    EXPECT_EQ((std::vector<ShownMessage>{{L"alone", 48, L"Qor", 0}}), fake.prompts().shown())
-        << "a box without an owner";
-}
-
 TEST_F(ScriptHostWordsTest, MessageBoxes) {
     fake.windows().AddHostWindow(kHost);
     auto box = [](const std::wstring& text, unsigned flags) { return ShownMessage{text, flags, L"Qor", kHost}; };

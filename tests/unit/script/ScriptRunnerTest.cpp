@@ -135,20 +135,4 @@ TEST_F(ScriptRunnerTest, OptionLinesWriteTheSharedTable) {
     EXPECT_TRUE(Messages().empty());
 }
 
-// The caller decides whether a script may set its command line, or only the selection's, and may force
-// the open mode, which then leaves the table alone.
-TEST_F(ScriptRunnerTest, WhatTheCallerAllows) {
-    const std::wstring path = AddScript(L"options.txt", {L"commandlineoption = /x ?SelFile?", L"openmode = 3"});
-    for (const auto& [forced, allow, selectionLine, commandLine, openMode] :
-         {std::tuple{-1, 0, 0, L"", L"3"}, std::tuple{-1, 1, 1, L"?SelFile?", L"3"},
-          std::tuple{-1, 1, 0, L"/x ?SelFile?", L"3"}, std::tuple{2, 1, 0, L"/x ?SelFile?", L"0"}}) {
-        RunOptionTable options;
-        FillRunOptionDefaults(options);
-        runner.Run(path, L"", L"", selection, static_cast<uint32_t>(forced), allow, 0, selectionLine, 1, nullptr,
-                   &options);
-        EXPECT_EQ(commandLine, *options.Find(L"commandlineoption")) << allow << selectionLine;
-        EXPECT_EQ(openMode, *options.Find(L"openmode")) << forced;
-    }
-}
-
 }  // namespace

@@ -64,15 +64,6 @@ TEST_F(ScriptSelectionTest, CommandsChangeTheList) {
     }
 }
 
-// The loop visits what the list holds at each step; ?SelectedCount? stays the count at the start.
-TEST_F(ScriptSelectionTest, LoopSeesTheListAsItIsAndTheCountStays) {
-    selection = {L"a"};
-    Check({"appended inside the loop",
-           {L"var seen", L"for", L"seen = &?SelFile?", L"if ?FileName? == a", L"appendselectitem = b", L"endif",
-            L"next", L"var count = ?SelectedCount?"},
-           {{L"seen", L"\"a\"\"b\""}, {L"count", L"1"}}});
-}
-
 // A listing stops once the list holds 1001 items, looked at behind each entry, so that a full list
 // still takes one more; the shell of old systems is searched in the plain style.
 TEST_F(ScriptSelectionTest, ListingStopsAtItsLimit) {

@@ -137,23 +137,6 @@ TEST(DialogText, ExportWritesTheFileByteForByte) {
         << "an empty title still has its line, and an existing file is replaced";
 }
 
-TEST(DialogText, FileNameFromProgramTagAndId) {
-    // clang-format off
-    struct Case { std::wstring program, tag; int32_t id; std::wstring directory, path; };
-    const Case cases[] = {
-        {L"C:\\x\\Option.exe", L".en-US", 159, L"C:\\x\\.en-US\\Option", L"C:\\x\\.en-US\\Option\\159.txt"},
-        {L"\\\\server\\share\\Qor\\Option.exe", L".ja-JP", 3001, L"\\\\server\\share\\Qor\\.ja-JP\\Option",
-         L"\\\\server\\share\\Qor\\.ja-JP\\Option\\3001.txt"},
-        {L"D:\\Tools\\Option.v2.exe", L"", -5, L"D:\\Tools\\\\Option.v2", L"D:\\Tools\\\\Option.v2\\-5.txt"},
-        {L"Option", L"en", 1, L"en\\Option", L"en\\Option\\1.txt"},
-    };
-    // clang-format on
-    for (const Case& c : cases) {
-        const DialogTextLocation location = LocateDialogText(c.program, c.tag, c.id);
-        EXPECT_EQ(std::pair(c.directory, c.path), std::pair(location.directory, location.path)) << c.program;
-    }
-}
-
 // The first opening of a dialog in a language that uses text files writes its file, later ones read it; a file
 // that cannot be written changes nothing and is not told. (".ja-JP" with and without LangOut is tried with a
 // real dialog on Windows.)
@@ -207,21 +190,6 @@ TEST(DialogText, LanguageDecidesWhetherFilesAreUsed) {
             EXPECT_EQ((Operations{Title(L"設定"), Text(1001, L"名前")}), second.applied);
         }
     }
-}
-
-TEST(DialogText, LanguageIsReadOnceUnlessTheTagWasEmpty) {
-    FakePlatform fake;
-    DirectWriteString(kDirectSettingsPath, L"NLS", L".en-US");
-    DialogLanguage language;
-    DialogLanguage unnamed;
-    const bool first = language.UsesTextFiles();
-    DirectWriteString(kDirectSettingsPath, L"NLS", L"");
-    const bool unnamedFirst = unnamed.UsesTextFiles();
-    DirectWriteString(kDirectSettingsPath, L"NLS", L".ja-JP");
-    // An empty tag is no cached tag: the next call reads ".ja-JP", whose dialogs need no files.
-    EXPECT_EQ((std::vector<bool>{true, true, true, false}),
-              (std::vector<bool>{first, language.UsesTextFiles(), unnamedFirst, unnamed.UsesTextFiles()}));
-    EXPECT_EQ(L".en-US", language.tag());
 }
 
 }  // namespace

@@ -1,4 +1,4 @@
-// Path routines that ask the system.
+// Path routines, on the text alone and asking the system.
 #include <gtest/gtest.h>
 
 #include "platform/fake/FakePlatform.h"
@@ -25,35 +25,6 @@ TEST(PathSystem, FullPathOnlyWhenTheResultFitsTheArgument) {
     for (const auto& c : cases) EXPECT_EQ(c.expected, FullPath(c.path)) << testing::PrintToString(std::wstring(c.path));
 }
 
-TEST(PathSystem, MakeDirectoryCreatesParentsAndKeepsRoots) {
-    FakePlatform fake;
-    EXPECT_EQ(0, MakeDirectory(L"C:\\a\\b\\c\\"));
-    EXPECT_NE(platform::kInvalidAttributes, fake.files().GetAttributes(L"C:\\a\\b\\c"));
-    EXPECT_TRUE(MakeDirectory(L"C:\\a\\b\\c") != 0 && MakeDirectory(L"C:\\") != 0) << "already there";
-}
-
-// The rules of "%NAME%" are compared with the system's on Windows; the length it stops at is not.
-TEST(PathSystem, ExpandEnvironmentStopsAtTheSystemsLimit) {
-    FakePlatform fake;
-    fake.environment().SetVariable(L"BIG", std::wstring(20000, L'x'));
-    EXPECT_EQ(std::wstring(16383, L'x'), ExpandEnvironment(L"%BIG%"));
-}
-
-TEST(PathSystem, FileExistsSearchesWithoutTheTrailingSeparator) {
-    FakePlatform fake;
-    fake.files().AddDirectory(L"C:\\dir");
-    fake.files().AddFile(L"C:\\dir\\f.txt", std::string_view("x"));
-    EXPECT_EQ(
-        (std::vector<bool>{true, true, false}),
-        (std::vector<bool>{FileExists(L"C:\\dir\\"), FileExists(L"C:\\dir\\f.txt"), FileExists(L"C:\\dir\\g.txt")}));
-    EXPECT_EQ(platform::FindStyle::BasicLargeFetch, fake.files().lastFindStyle());
-    for (int oldShell : {501, 600}) {
-        fake.files().SetShellVersion(oldShell);
-        EXPECT_TRUE(FileExists(L"C:\\dir\\f.txt"));
-        EXPECT_EQ(platform::FindStyle::Plain, fake.files().lastFindStyle()) << oldShell;
-    }
-}
-
 TEST(PathSystem, NormaliseLongNameDropsPrefixesAndLengthensShortNames) {
     FakePlatform fake;
     fake.files().AddDirectory(L"C:\\Program Files\\Long Folder Name");
@@ -71,6 +42,20 @@ TEST(PathSystem, NormaliseLongNameDropsPrefixesAndLengthensShortNames) {
     for (const auto& c : cases) {
         EXPECT_EQ(c.expected, NormaliseLongName(c.path)) << testing::PrintToString(std::wstring(c.path));
     }
+}
+
+// From 260 units on, a path of a drive or a server gains the long-path prefix; others stay as they are.
+TEST(PathText, LongPathFormFrom260Characters) {
+    auto tail = [](size_t total, const std::wstring& head) { return head + std::wstring(total - head.size(), L'a'); };
+    // clang-format off
+    const std::pair<std::wstring, std::wstring> cases[] = {
+        {L"", L""}, {tail(259, L"C:\\"), tail(259, L"C:\\")}, {tail(260, L"C:\\"), tail(264, L"\\\\?\\C:\\")},
+        {tail(260, L"d:\\"), tail(264, L"\\\\?\\d:\\")}, {tail(260, L"\\\\srv\\share\\"), tail(266, L"\\\\?\\UNC\\srv\\share\\")},
+        {tail(270, L"\\\\?\\C:\\"), tail(270, L"\\\\?\\C:\\")}, {tail(300, L"..\\"), tail(300, L"..\\")},
+        {tail(260, L"\u00C4:\\"), tail(260, L"\u00C4:\\")},
+    };
+    // clang-format on
+    for (const auto& [path, expected] : cases) EXPECT_EQ(expected, ToLongPathForm(path)) << path.substr(0, 12);
 }
 
 }  // namespace

@@ -43,13 +43,6 @@ TEST(ShareBlock, SplitsTabEndedFieldsAndOverwritesEachTabItPasses) {
     }
 }
 
-TEST(ShareBlock, InspectionTextEndsEveryEntryWithATab) {
-    ShareBlock block{L"C:\\w", L"-x", {L"a", L"b"}, {L"c"}, L""};
-    EXPECT_EQ(L"ShareMemMap\nCurrentDir:C:\\w\nOption:-x\na\tb\t\nc\t", ShareBlockInspection(block));
-    EXPECT_EQ(L"ShareMemMap\nCurrentDir:\nOption:\n\n", ShareBlockInspection({}));
-    EXPECT_EQ(L"ShareMem_-1_20", ShareBlockName(-1, 20));
-}
-
 // Read through the fake host's block: mapped, split under the host's mutex, the view let go before the
 // mutex; a mapping the system refuses is told and skipped.
 TEST(ShareBlock, ReadsUnderTheHostsMutexAndTellsAFailedMapping) {

@@ -97,19 +97,4 @@ TEST(WholeFileWriter, AFailureHalfwayLeavesTheOldFileWhole) {
     }
 }
 
-TEST(WholeFileWriter, TheTemporaryFileLiesBesideTheTarget) {
-    FakePlatform fake;
-    fake.files().AddDirectory(L"C:\\Data");
-    const std::vector<uint8_t> bytes = {0xFF, 0xFE, 'A', 0, '\r', 0, '\n', 0};
-    EXPECT_EQ(L"C:\\Data\\List.txt.tmp", TemporaryPathFor(L"C:\\Data\\List.txt"));
-    EXPECT_TRUE(WriteWholeFile(L"C:\\Data\\List.txt", bytes));
-    EXPECT_EQ(std::string(bytes.begin(), bytes.end()), fake.files().FileText(L"C:\\Data\\List.txt"));
-    EXPECT_FALSE(WriteWholeFile(L"C:\\Missing\\List.txt", bytes)) << "no folder, no file";
-    // A path of 260 and more reaches the file through its long-path form, the temporary one too.
-    const std::wstring deep = L"C:\\Data\\" + std::wstring(250, L'd') + L"\\List.txt";
-    fake.files().AddDirectory(FolderOf(deep));
-    EXPECT_TRUE(WriteWholeFile(deep, bytes));
-    EXPECT_EQ((std::set<std::wstring>{L".", L"..", L"List.txt"}), Names(fake, FolderOf(deep)));
-}
-
 }  // namespace
