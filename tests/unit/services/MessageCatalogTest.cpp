@@ -49,4 +49,36 @@ TEST(MessageCatalog, ConfirmationsFollowTheirBit) {
               fake.prompts().shown());
 }
 
+TEST(MessageCatalog, LoadingRules) {
+    FakePlatform fake;
+    fake.files().AddFile(kPath, Utf16Bytes(L"// comment\t1\r\n"
+                                           L"100\tplain\r\n"
+                                           L"  101\t  padded  \r\n"
+                                           L"102\tline\\nbreak\r\n"
+                                           L"103\t\\nedges\\n\r\n"
+                                           L"104\t\r\n"
+                                           L"105\ta\tb\r\n"
+                                           L"100\tsecond wins not\r\n"
+                                           L"70000\twrapped\r\n"
+                                           L"x\tnot a number\r\n"
+                                           L"106\tin\uFEFFner\n"
+                                           L"107\tlf only\n"
+                                           L" EOF \r\n"
+                                           L"108\tafter the end\r\n",
+                                           true));
+    MessageCatalog messages;
+    messages.SetPath(kPath);
+    // clang-format off
+    struct Case { uint16_t id; std::wstring text; };
+    const Case cases[] = {
+        {100, L"plain"}, {101, L"  padded"}, {102, L"line\nbreak"}, {103, L"\nedges"},
+        {104, MessageCatalog::kMissingText}, {105, MessageCatalog::kMissingText}, {4464, L"wrapped"},
+        {0, L"not a number"}, {106, L"inner"}, {107, L"lf only"}, {108, MessageCatalog::kMissingText},
+        {1, MessageCatalog::kMissingText},
+    };
+    // clang-format on
+    for (const auto& c : cases) EXPECT_EQ(c.text, messages.Get(c.id)) << c.id;
+    EXPECT_TRUE(fake.prompts().shown().empty());
+}
+
 }  // namespace

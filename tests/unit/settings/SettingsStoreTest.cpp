@@ -51,4 +51,34 @@ TEST(SettingsStore, ARegistryThatRefusesWritesLosesThemSilently) {
     EXPECT_EQ(L".ja-JP", DirectReadString(kDirectSettingsPath, L"NLS", L".ja-JP"));
 }
 
+// The host reads numbers as DWORD and texts as strings; a font is twelve values, and underline and
+// strike-out are never kept.
+TEST(SettingsStore, WritesKeepTheirTypesAndAFontIsTwelveValues) {
+    FakePlatform fake;
+    SettingsStore store;
+    store.SelectSection(L"AppInfo");
+    EXPECT_TRUE(store.WriteString(L"Text", L"日本"));
+    EXPECT_TRUE(store.WriteInt(L"Number", -2));
+    EXPECT_EQ((NamedValues{{L"Text", L"日本"}, {L"Number", -2}}), ValuesOf(L"AppInfo"));
+
+    // clang-format off
+    const NamedValues font = {
+        {L"Point", -15}, {L"Width", 3}, {L"Escapement", 900}, {L"Orientation", 450}, {L"Weight", 700},
+        {L"Italic", 1}, {L"CharSet", 128}, {L"OutPrecision", 3}, {L"ClipPrecision", 2}, {L"Quality", 5},
+        {L"PitchAndFamily", 49}, {L"FontName", L"ＭＳ ゴシック"}};
+    // clang-format on
+    for (const auto& [name, value] : font) StoreValue(L"ViewFont", name, value);
+    LogFont system;
+    system.lfUnderline = system.lfStrikeOut = 1;
+    fake.environment().SetIconTitleFont(system);
+    LogFont read;
+    store.SelectSection(L"ViewFont");
+    store.ReadFont(read);
+    EXPECT_EQ(0, read.lfUnderline + read.lfStrikeOut);
+    read.lfUnderline = read.lfStrikeOut = 1;
+    store.SelectSection(L"Copy");
+    store.WriteFont(read);
+    EXPECT_EQ(font, ValuesOf(L"Copy"));
+}
+
 }  // namespace
