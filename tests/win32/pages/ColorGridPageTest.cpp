@@ -25,6 +25,8 @@ protected:
     void SetUp() override {
         OptionDialogFixture::SetUp();
         fake_.windows().AddHostWindow(kHost);
+        // A stored size, which the font row shows in points.
+        DirectWriteInt(L"Software\\Tarnwick\\QOR\\Main001\\ViewFont", L"Point", -12);
         SetStart(26);
         ASSERT_TRUE(dialog_.Create(nullptr));
         page_ = dynamic_cast<COptionColorGridDlg*>(dialog_.Page(26));

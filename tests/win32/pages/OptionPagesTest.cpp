@@ -51,12 +51,10 @@ protected:
     void Type(HWND page, int id, const wchar_t* text) const { SetWindowTextW(GetDlgItem(page, id), text); }
 };
 
-// Every control that carries a stored value, page by page: it shows what was stored, and what the
-// user sets there is what Apply stores, after which the host hears the page's code (none for the title
-// bar, which the host takes at its next start). Fields that mean something only with a switch on follow
-// it. A field out of range, although it showed as stored, refuses Apply with the framework's words and
-// takes the focus with its text selected: nothing is stored, the host hears nothing. So does a field
-// typed with what is no number of its kind. New pages add rows here.
+// A control of each kind per page shows what was stored, and what the user sets there is what Apply
+// stores, after which the host hears the page's code (none for the title bar). Fields that mean something
+// only with a switch on follow it. A field out of range or typed with no number of its kind refuses
+// Apply with the framework's words and takes the focus with its text selected: nothing is stored or heard.
 TEST_F(OptionPagesTest, ControlsCarryTheirStoredValuesBothWays) {
     enum Kind { Check, Radio, Edit, Combo };
     // A check is clicked, the radio button of the value set is clicked, a field is typed (or left when
