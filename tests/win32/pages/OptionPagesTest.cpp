@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "definitions/MacroHelperData.h"
+#include "ui/ListBox.h"
 #include "ui/ListView.h"
 #include "pages/ListViewChoices.h"
 #include "unit/Utf16.h"
@@ -397,7 +398,6 @@ TEST_F(OptionPagesTest, ListValuesOfBitsShowAsChecksAndAreMadeAnewFromThem) {
         {33, kListDraw, L"CustomSortFlag", -1, {1251, 1252, 1253, 1254, 1255, 1256}, {}, 0x31034, 49000},
         {33, kListDraw, L"CustomSortFlag", 0x31034, {1251, 1252, 1253, 1254, 1255, 1256}, {1257}, 0x3103C, 49000},
         {33, kListDraw, L"CustomSortFlag", 0x31034, {1251, 1252, 1253, 1254, 1255, 1256}, {1257}, 0x31034, 49000, 600},
-        {33, kListDraw, L"CustomSortFlag", 0x31034, {1251, 1252, 1253, 1254, 1255, 1256}, {1257}, 0x31034, 49000, 501},
         {33, kListDraw, L"CustomSortFlag", 0xFFFFFFFF, {1251, 1252, 1253, 1254, 1255, 1256, 1257}, {1251}, 0x3102C, 49000},
         {29, kListDraw, L"DrawRealName", -1, {1270}, {}, 4, 49029},
         {29, kListDraw, L"DrawRealName", 0xFF, {1265, 1266, 1267, 1268, 1269, 1270}, {1265}, 0x67, 49029},
@@ -476,11 +476,7 @@ TEST_F(OptionPagesTest, WatchExclusionsAreEditedInTheInputBoxAndStoredInOrder) {
     HWND list = GetDlgItem(page, 1601);
     auto rows = [&] {
         std::vector<std::wstring> texts;
-        for (LRESULT i = 0, count = SendMessageW(list, LB_GETCOUNT, 0, 0); i < count; ++i) {
-            std::wstring text(SendMessageW(list, LB_GETTEXTLEN, i, 0), L'\0');
-            SendMessageW(list, LB_GETTEXT, i, reinterpret_cast<LPARAM>(text.data()));
-            texts.push_back(text);
-        }
+        for (int i = 0; i < ui::ListBox(list).GetCount(); ++i) texts.push_back(ui::ListBox(list).GetText(i));
         return texts;
     };
     std::vector<std::wstring> expected;
