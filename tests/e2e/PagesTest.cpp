@@ -1,8 +1,8 @@
 // Pages in the running program: each opens as the page to start on, takes one change as a user makes
 // it, and Apply stores it in the page's section of the real registry and tells a running host what to
 // reread. The pages' own rules are the in-process page tests'; the rows here are those whose values
-// take a way of their own (bits, a text, a combo, values the page rewrites), then pages whose
-// values come from a dialog of their own or a palette.
+// take a way of their own (bits, a text, a combo, values the page rewrites), then a page whose
+// values come from a dialog of its own.
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -17,7 +17,6 @@
 #include "support/OptionWindow.h"
 #include "support/Process.h"
 #include "support/Registry.h"
-#include "support/Screenshot.h"
 
 namespace {
 
@@ -28,7 +27,6 @@ constexpr wchar_t kListDraw[] = L"Software\\Tarnwick\\Qor\\Main001\\ListDraw";
 constexpr wchar_t kMouse[] = L"Software\\Tarnwick\\Qor\\Main001\\Mouse";
 constexpr wchar_t kTabStyle[] = L"Software\\Tarnwick\\Qor\\Main001\\TabStyle";
 constexpr wchar_t kColor[] = L"Software\\Tarnwick\\Qor\\Main001\\Color";
-constexpr wchar_t kViewFont[] = L"Software\\Tarnwick\\Qor\\Main001\\ViewFont";
 constexpr wchar_t kPlugins[] = L"Software\\Tarnwick\\QOR\\Main001\\PvPlugin";
 
 // What the user does on the page: a button pressed (a check or radio changes with it), a field typed,
@@ -100,42 +98,6 @@ TEST(Pages, EachPageStoresItsSectionAndTellsTheHostItsCode) {
                   host.Commands());
         EXPECT_EQ(0u, option.CloseDialog(dialog));
     }
-}
-
-// The black palette pressed on the colour page and applied: the values of each kind (fixed, the
-// system's, copied from another row) reach the registry, the extension lists stay and the font is
-// written with the colours. The palette's whole table is the in-process tests'.
-TEST(ColorPage, TheBlackPaletteAppliedReachesTheRegistryAndTheHost) {
-    reg::ScopedKey page{reg::kOptionPage}, color{kColor}, font{kViewFont};
-    reg::DeleteKey(kColor);
-    reg::WriteDword(reg::kOptionPage, L"Start", 26);
-    e2e::OptionBesideHost run;
-    auto& [host, option, dialog] = run;
-    ASSERT_TRUE(host.Window());
-    HWND palettes = dialog ? e2e::PageWith(dialog, 1304) : nullptr;
-    ASSERT_NE(nullptr, palettes);
-    e2e::Click(palettes, 1304);  // black
-    e2e::Click(dialog, kApply);
-    EXPECT_THAT(host.Commands(), testing::ElementsAre(48999u, 49001u, 49099u));
-    const auto stored = [](const wchar_t* name) {
-        return static_cast<int32_t>(reg::ReadDword(kColor, name).value_or(0xDEADBEEF));
-    };
-    EXPECT_EQ((std::vector<int32_t>{62, 0xFFFFFF, static_cast<int32_t>(GetSysColor(13)), 0x3C3C3C, 0x3C3C3C,
-                                    static_cast<int32_t>(GetSysColor(18)), 33204}),
-              (std::vector<int32_t>{stored(L"Color"), stored(L"1"), stored(L"9"), stored(L"16"), stored(L"24"),
-                                    stored(L"26"), stored(L"ApplicationLook")}));
-    for (const wchar_t* never : {L"14", L"23", L"s00", L"s04"}) {
-        EXPECT_FALSE(reg::ReadDword(kColor, never).has_value()) << testing::PrintToString(never);
-    }
-    EXPECT_EQ(L"exe,com,bat,scr,pif,vbs", reg::ReadString(kColor, L"Ex1").value_or(L"<absent>"));
-    EXPECT_TRUE(reg::ReadDword(kViewFont, L"Point").has_value()) << "the font is written with the colours";
-
-    // A picture for people to look at: the dark palette, a colour selected by the keyboard.
-    HWND grid = GetDlgItem(palettes, 2);
-    for (int row = 0; row < 4; ++row) PostMessageW(grid, WM_KEYDOWN, VK_DOWN, 0);
-    e2e::WaitUntilDialogIdle(dialog, option.Handle());
-    e2e::CaptureWindow(dialog, e2e::PicturePath(L"colour-grid.bmp"));
-    option.CloseDialog(dialog);
 }
 
 // A plug-in added through its editor, with the sample plug-ins beside the program, is registered with

@@ -83,31 +83,6 @@ TEST_F(CommandPickerTest, OkNeedsACommandAndSearchFindsOneByNumber) {
     COptionKeySetting::ReleaseShared();
 }
 
-// The key page's Edit opens the picker on the row's command; what is chosen there is the row's, and
-// Apply writes it into the key file of its mode.
-TEST_F(CommandPickerTest, TheKeyPageBindsARowThroughThePicker) {
-    COptionDlg dialog(app_);
-    HWND page = Open(dialog, 2);
-    ASSERT_NE(nullptr, page);
-    ui::ListView list(GetDlgItem(page, IDC_KEYSET_LIST));
-    ASSERT_EQ(76, list.GetItemCount());
-    list.SelectRow(1);
-    WhenShown(L"機能一覧", [](HWND picker) {
-        SetDlgItemTextW(picker, IDC_KEY_SETTING_ID, L"32811");
-        Click(picker, IDC_KEY_SETTING_SEARCH);
-        Click(picker, IDOK);
-    });
-    Click(page, IDC_KEYSET_EDIT);
-    EXPECT_EQ((std::pair<std::wstring, LPARAM>{L"詳細表示", 32811}),
-              (std::pair{list.GetItemText(1, 1), list.GetItemData(1)}));
-
-    Apply(dialog);
-    KeyTableSet saved;
-    LoadKeyTables(app_.directories.UserDirectory(), saved);
-    EXPECT_EQ(32811, saved.Word(0, kModifierNone, 1));
-    COptionKeySetting::ReleaseShared();
-}
-
 // The key page's other buttons on the block of a modifier: Edit and Clear want a row, Clear and each
 // reset ask first and a No changes nothing, the list goes into the folder chosen under its block's name.
 TEST_F(CommandPickerTest, TheKeyPageClearsResetsAndListsTheBlockShown) {

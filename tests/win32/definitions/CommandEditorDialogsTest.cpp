@@ -89,22 +89,4 @@ TEST_F(CommandEditorDialogsTest, TheEditorWritesEachChangeIntoItsRowAndSavesAtOk
     EXPECT_FALSE(IsWindowVisible(dialog));
 }
 
-TEST_F(CommandEditorDialogsTest, ThePageOpensEachOfTheSixListsByItsMode) {
-    SetStart(23);
-    DirectWriteInt(PageKey(), L"CmdDefMode", 1);
-    COptionDlg dialog(app_);
-    ASSERT_TRUE(dialog.Create(nullptr));
-    HWND page = dialog.Page(23)->hwnd();
-    EXPECT_EQ(1, SendDlgItemMessageW(page, 1151, CB_GETCURSEL, 0, 0));
-    SendDlgItemMessageW(page, 1151, CB_SETCURSEL, 0, 0);
-    for (int button : {1303, 1304, 1305, 1306, 1307, 1308}) Click(page, button);
-    std::vector<std::wstring> opened;
-    for (const auto& request : fake_.processes().shellRequests()) opened.push_back(request.file);
-    const std::wstring user = app_.directories.UserDirectory();
-    EXPECT_EQ((std::vector<std::wstring>{user + L"ExternalDefCommand.txt", user + L"ScriptCommand.txt",
-                                         user + L"ScriptNaviCommand.txt", user + L"ExternalUserCommand.txt",
-                                         user + L"UserMenuCommand.txt", user + L"PlugInCommand.txt"}),
-              opened);
-}
-
 }  // namespace

@@ -25,6 +25,8 @@ protected:
     void SetUp() override {
         OptionDialogFixture::SetUp();
         fake_.windows().AddHostWindow(kHost);
+        // A stored size, which the font row shows in points.
+        DirectWriteInt(L"Software\\Tarnwick\\QOR\\Main001\\ViewFont", L"Point", -12);
         SetStart(26);
         ASSERT_TRUE(dialog_.Create(nullptr));
         page_ = dynamic_cast<COptionColorGridDlg*>(dialog_.Page(26));
@@ -146,6 +148,8 @@ TEST_F(ColorGridPageTest, GroupsFoldByKeyboardAndAPaletteShowsItsColoursUnmarked
     EXPECT_EQ(0xFFFFFFu, model().at(leaves[2]).colour);
     EXPECT_TRUE(model().at(leaves[13]).check) << "the dark palettes colour camouflaged files";
     EXPECT_EQ(L"<absent>", DirectReadString(kColor, L"1", L"<absent>")) << "the palette is the draft's";
+    Key(VK_DOWN);
+    EXPECT_EQ(model().Rows()[0].id, model().selected()) << "from no selection Down takes the first row";
 
     // The vision palette handler answers though no button of the page reaches it.
     SendMessageW(page_->hwnd(), WM_COMMAND, MAKEWPARAM(IDC_COLOR_VISION_FIRST + 2, BN_CLICKED), 0);

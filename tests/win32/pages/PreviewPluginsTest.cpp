@@ -20,43 +20,6 @@ using testing_support::SystemText;
 constexpr const wchar_t* kEditorTitle = L"プレビュープラグイン";
 constexpr const wchar_t* kPluginSection = L"Software\\Tarnwick\\QOR\\Main001\\PvPlugin";
 
-// The sample plug-ins built beside the tests (<build>\tests\win32_tests.exe and <build>\sample\PvPlugIn\),
-// loaded with the system's own loader and error texts: the whole plug-in gives its extensions, the one
-// missing an export goes without a word, and what does not load is told in the system's words.
-TEST(PreviewPlugins, SamplePluginsLoadForRealOrAreRefused) {
-    wchar_t module[MAX_PATH] = {};
-    GetModuleFileNameW(nullptr, module, MAX_PATH);
-    const std::wstring tests(module, wcsrchr(module, L'\\') + 1);
-    platform::fake::FakePlatform fake;
-    platform::win32::Win32System system;
-    platform::win32::Win32Processes processes;
-    platform::Platform mixed{fake.registry(), fake.files(),     fake.environment(),  fake.prompts(),
-                             system,          fake.windows(),   fake.sharedMemory(), processes,
-                             fake.shell(),    fake.codePages(), fake.images()};
-    platform::Installed installed(mixed);
-    // clang-format off
-    struct Case { const wchar_t* name; int index; std::vector<std::wstring> messages; };
-    const Case cases[] = {
-        {L"TextPeek.dll", 0, {}}, {L"HalfPeek.dll", -1, {}},
-        {L"Broken.dll", -1, {SystemText(ERROR_BAD_EXE_FORMAT)}}, {L"Missing.dll", -1, {SystemText(ERROR_MOD_NOT_FOUND)}},
-    };
-    // clang-format on
-    for (const Case& c : cases) {
-        SCOPED_TRACE(testing::PrintToString(std::wstring(c.name)));
-        fake.prompts().Clear();
-        CPvPluginInfo plugins(system, tests + L"..\\sample\\Lang\\");
-        EXPECT_EQ(c.index, plugins.Add(c.name));
-        std::vector<std::wstring> messages;
-        for (const auto& shown : fake.prompts().shown()) messages.push_back(shown.text);
-        EXPECT_EQ(c.messages, messages);
-        if (c.index == 0) {
-            EXPECT_EQ(L"txt,log,ini,csv", plugins[0].DefaultFilter(CPvPluginInfo::kFilterUnits));
-        }
-        plugins.UnloadAll();
-        EXPECT_EQ(nullptr, GetModuleHandleW((tests + L"..\\sample\\PvPlugIn\\" + c.name).c_str()));
-    }
-}
-
 class PreviewPageTest : public OptionDialogFixture {
 protected:
     void SetUp() override {

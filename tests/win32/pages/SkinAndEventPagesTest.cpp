@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "pages/CDlgBkImage.h"
+#include "ui/ListBox.h"
 #include "ui/ListView.h"
 #include "unit/Utf16.h"
 #include "win32/support/OptionDialogFixture.h"
@@ -42,11 +43,8 @@ protected:
 };
 
 std::wstring ListBoxSelection(HWND page, int id) {
-    const LRESULT index = SendDlgItemMessageW(page, id, LB_GETCURSEL, 0, 0);
-    if (index == LB_ERR) return L"<none>";
-    std::wstring text(static_cast<size_t>(SendDlgItemMessageW(page, id, LB_GETTEXTLEN, index, 0)), L'\0');
-    SendDlgItemMessageW(page, id, LB_GETTEXT, index, reinterpret_cast<LPARAM>(text.data()));
-    return text;
+    const ui::ListBox list(GetDlgItem(page, id));
+    return list.GetCurSel() == LB_ERR ? L"<none>" : list.SelectedText();
 }
 
 // The stored skin is selected by the start of its name and its readme shown; Apply keeps the two

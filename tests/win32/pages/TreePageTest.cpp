@@ -73,9 +73,12 @@ TEST_F(TreePageTest, RootsAddedByBrowsingAndByNameAreStoredInOrder) {
     EXPECT_EQ((std::vector<std::wstring>{L"C:\\Data", kDesktop, L"FDD39AD0-238F-46AF-ADB4-6C85480369C7", L""}), stored);
 }
 
-// Thirty roots fill the list: adding one more is refused before the dialog opens.
+// Thirty roots, known folders and real folders alike, fill the list: adding one more is refused before
+// the dialog opens.
 TEST_F(TreePageTest, AFullListRefusesAnotherRoot) {
-    for (int n = 0; n < 30; ++n) DirectWriteString(kTreeInfo, L"TopNode" + std::to_wstring(n), kDesktop);
+    fake_.shell().addressNames[L"C:\\Data"] = L"Data";
+    for (int n = 0; n < 30; ++n)
+        DirectWriteString(kTreeInfo, L"TopNode" + std::to_wstring(n), n % 2 ? L"C:\\Data" : kDesktop);
     COptionDlg dialog(app_);
     HWND page = Open(dialog);
     ASSERT_NE(nullptr, page);

@@ -61,14 +61,6 @@ protected:
     HWND hosts_[2] = {};
 };
 
-TEST_F(HostWindowsTest, FindsEveryHostWindowFirstOneFirst) {
-    std::vector<WindowRef> all = windows.AllHostWindows();
-    ASSERT_EQ(2u, all.size());
-    EXPECT_EQ(windows.FindHostWindow(), all[0]);
-    EXPECT_NE(all[0], all[1]);
-    for (HWND host : hosts_) EXPECT_NE(all.end(), std::find(all.begin(), all.end(), reinterpret_cast<WindowRef>(host)));
-}
-
 TEST_F(HostWindowsTest, CommandsAndTextsArriveAsTheHostReadsThem) {
     auto host = reinterpret_cast<WindowRef>(hosts_[1]);
     windows.SetMainWindow(0x1234);
@@ -85,24 +77,6 @@ TEST_F(HostWindowsTest, CommandsAndTextsArriveAsTheHostReadsThem) {
         texts.push_back(r.what);
     }
     EXPECT_EQ(expected, texts);
-}
-
-// A sent message is handled before SendMessageW returns, a posted one once the queue is read.
-TEST_F(HostWindowsTest, MessagesByNumberAndAWindowThatHasGone) {
-    auto host = reinterpret_cast<WindowRef>(hosts_[0]);
-    windows.PostWindowMessage(host, WM_COMMAND, 5, -2);
-    windows.SendWindowMessage(host, WM_COMMAND, static_cast<uintptr_t>(-1), 3);
-    EXPECT_EQ(1u, received.size());
-    testing_support::PumpMessages(50);
-    std::vector<std::wstring> texts;
-    for (const Received& r : received) texts.push_back(r.what);
-    EXPECT_EQ((std::vector<std::wstring>{L"command 18446744073709551615 3", L"command 5 -2"}), texts);
-
-    EXPECT_TRUE(windows.IsWindow(host));
-    DestroyWindow(hosts_[0]);
-    hosts_[0] = nullptr;
-    EXPECT_FALSE(windows.IsWindow(host));
-    EXPECT_FALSE(windows.IsWindow(0));
 }
 
 }  // namespace

@@ -108,16 +108,6 @@ TEST(DropFilesOnWindows, ThePostedBlockReadsBackAsTheFiles) {
     DestroyWindow(window);
 }
 
-TEST_F(LaunchTest, ShellLaunchStartsTheProgramInItsOwnDirectory) {
-    std::wstring log = TempLog(L"option-shelllaunch.log");
-    ShellLaunch(HelperPath(L"DropTarget.exe"), L"--log \"" + log + L"\"", L"", true, SW_SHOWNORMAL);
-    std::string cwd = WaitForLine(log, "cwd ");
-    ASSERT_FALSE(cwd.empty());
-    while (cwd.back() == '\\') cwd.pop_back();
-    EXPECT_EQ(0, _stricmp(("cwd " + Utf8(testing_support::TestDirectory() + L"\\e2e")).c_str(), cwd.c_str())) << cwd;
-    EXPECT_EQ(Utf8(L"args --log \"" + log + L"\""), WaitForLine(log, "args"));
-}
-
 // The fake's prompts that also take a handle to the waiting program while the question is shown.
 class WatchingPrompts : public platform::fake::FakePrompts {
 public:

@@ -49,29 +49,4 @@ TEST_F(ControlsTest, ListViewRowsKeepTheirChecksDataAndLongTexts) {
     EXPECT_EQ(2, list.GetSelectedRow());
 }
 
-// The list editors' up and down buttons: the selected row's texts trade places with a neighbour's,
-// the selection and focus go with them and the item data stays in place.
-TEST_F(ControlsTest, AHiddenLabelSplitsAtEverySlashKeepingEmptyParts) {
-    HWND label = dialog_.Item(IDC_FW_LABEL);
-    ASSERT_FALSE(IsWindowVisible(label));
-    const struct {
-        const wchar_t* text;  // null: as the template has it
-        Parts parts;
-    } cases[] = {
-        {nullptr, {L"General", L"", L"View", L""}},
-        {L"外観", {L"外観"}},
-        {L" a / b ", {L" a ", L" b "}},
-        {L"/", {L"", L""}},
-        {L"", {}},
-    };
-    for (const auto& c : cases) {
-        if (c.text) SetWindowTextW(label, c.text);
-        Parts parts{L"left", L"over"};
-        EXPECT_EQ(static_cast<int>(c.parts.size()), ui::SplitControlText(label, parts));
-        EXPECT_EQ(c.parts, parts);
-    }
-    SetWindowTextW(label, std::wstring(3000, L'x').c_str());
-    EXPECT_EQ(3000u, ui::ControlText(label).size()) << "no length limit of its own";
-}
-
 }  // namespace

@@ -112,25 +112,6 @@ TEST_F(HostPlacementTest, EachModePlacesTheDialogAndBringsItForward) {
     }
 }
 
-TEST_F(HostPlacementTest, ModeThreeMakesTheHostTheParentAndLeavesTheDialogAlone) {
-    EXPECT_EQ(0u, HostParent(3)) << "no host: no parent";
-    StartHost();
-    HWND parent = reinterpret_cast<HWND>(HostParent(3));
-    EXPECT_EQ(host_, parent);
-    EXPECT_EQ(nullptr, reinterpret_cast<HWND>(HostParent(0)));
-    // Made hidden, as a dialog is until its OnInitDialog is over.
-    HWND owned = CreateWindowExW(0, kDialogClass, L"owned", WS_POPUP | WS_CAPTION, 5, 7, 300, 200, parent, nullptr,
-                                 GetModuleHandleW(nullptr), nullptr);
-    LONG_PTR before = GetWindowLongPtrW(owned, GWL_EXSTYLE);
-    ui::PrepareOptionDialog(owned, 3);
-    PumpMessages(50);
-    EXPECT_EQ(host_, GetWindow(owned, GW_OWNER));
-    EXPECT_EQ(5, Place(owned)[0]) << "where the system put it";
-    EXPECT_EQ(before, GetWindowLongPtrW(owned, GWL_EXSTYLE));
-    EXPECT_EQ(other_, GetForegroundWindow()) << "it does not come forward";
-    DestroyWindow(owned);
-}
-
 TEST_F(HostPlacementTest, HoldingCtrlKeepsTheDialogBackUntilTheKeyIsUp) {
     HoldCtrl(true);
     bringToFrontTimers = 0;

@@ -14,7 +14,6 @@
 #include <vector>
 
 #include "platform/fake/FakePlatform.h"
-#include "ui/DataExchange.h"
 #include "ui/Dialog.h"
 
 namespace testing_support {
@@ -29,9 +28,6 @@ public:
     std::function<bool(int id, int code)> command;
     std::function<std::optional<LRESULT>(const NMHDR&)> notify;
     std::function<void(UINT_PTR)> timer;
-    std::function<void()> ok;      // instead of the framework's OnOK
-    std::function<void()> cancel;  // instead of the framework's OnCancel
-    std::function<void(ui::DataExchange&)> exchange;
 
     // What reached the handlers, in order: "init", "ok", "cancel", "command 2202 0", "timer 5".
     std::vector<std::wstring> seen;
@@ -51,11 +47,11 @@ protected:
     }
     void OnOK() override {
         seen.push_back(L"ok");
-        ok ? ok() : Dialog::OnOK();
+        Dialog::OnOK();
     }
     void OnCancel() override {
         seen.push_back(L"cancel");
-        cancel ? cancel() : Dialog::OnCancel();
+        Dialog::OnCancel();
     }
     bool OnCommand(int id, int code) override {
         if (!command || !command(id, code)) return false;
@@ -66,9 +62,6 @@ protected:
     void OnTimer(UINT_PTR id) override {
         seen.push_back(L"timer " + std::to_wstring(id));
         if (timer) timer(id);
-    }
-    void DoDataExchange(ui::DataExchange& dx) override {
-        if (exchange) exchange(dx);
     }
 };
 
