@@ -1,7 +1,6 @@
-// The command definition editor in the running program: "/D" on a copy of a sample command list,
-// where Cancel leaves the file as it was and OK, once the user agrees, writes the edited rows; and
-// the command definition page, which opens the same editor in its own mode, and whose Apply tells the
-// host what to reread.
+// The command definition editor in the running program: "/D" on a copy of a sample command list, where Cancel leaves
+// the file as it was and OK, once the user agrees, writes the edited rows; and the command definition page, which opens
+// the same editor in its own mode, and whose Apply tells the host what to reread.
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 

@@ -66,10 +66,9 @@ std::vector<int> Buttons(HWND box) {
     return buttons;
 }
 
-// The editor starts with the script's command line, the selected file quoted in it. Sent messages
-// and texts reach the host in the script's order, each waiting for it, and the posted ones behind
-// them. The script's message boxes are the host's and their answers count; a line the script cannot
-// run is shown and ends the run.
+// The editor starts with the script's command line, the selected file quoted in it. Sent messages and texts reach the
+// host in the script's order, each waiting for it, and the posted ones behind them. The script's message boxes are the
+// host's and their answers count; a line the script cannot run is shown and ends the run.
 TEST(EditorScript, TheScriptStartsTheEditorSteersTheHostAndStopsAtABadLine) {
     e2e::FakeHost host({.hidden = true});
     ASSERT_TRUE(host.Window());

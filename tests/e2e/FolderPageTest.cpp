@@ -36,10 +36,9 @@ bool AnswerEditor(const e2e::Process& option, const wchar_t* path) {
     return e2e::Answer(editor, IDOK);
 }
 
-// The host leaves a state string in SetFolder and starts the program: the editor comes up on it before
-// anything else. Then a rule is added on the page; once applied each folder is a rule of its own, the
-// new one with the list's initial view and sorted by the folders-first key, the request gone, the
-// pattern rules rewritten with an empty end mark.
+// The host leaves a state string in SetFolder and starts the program: the editor comes up on it before anything else.
+// Then a rule is added on the page; once applied each folder is a rule of its own, the new one with the list's initial
+// view and sorted by the folders-first key, the request gone, the pattern rules rewritten with an empty end mark.
 TEST(FolderPage, AFolderTheHostAsksForAndARuleAddedAreWhatApplyStores) {
     reg::ScopedKey page{reg::kOptionPage}, folders{kFolderInfo}, patterns{kFolderInfoEx}, listInit{kListInit};
     for (const wchar_t* key : {kFolderInfo, kFolderInfoEx, kListInit}) reg::DeleteKey(key);

@@ -45,8 +45,7 @@ void WriteKeyFile(const fs::path& path, const std::vector<std::pair<int, uint16_
     e2e::WriteUtf16File(path.wstring(), units);
 }
 
-// A user directory of its own with the sample command lists, the English language, and an empty
-// output folder.
+// A user directory of its own with the sample command lists, the English language, and an empty output folder.
 class KeyListTest : public testing::Test {
 protected:
     void SetUp() override {
@@ -71,8 +70,7 @@ protected:
     fs::path out;
 };
 
-// Saved key files are what the lists show; each list already there is overwritten only when the
-// user says yes to it.
+// Saved key files are what the lists show; each list already there is overwritten only when the user says yes to it.
 TEST_F(KeyListTest, SavedKeysAreListedAndNoKeepsThatOneFile) {
     const int a = 0, shiftA = 76, ctrlShiftEnt = 3 * 76 + 75;
     WriteKeyFile(user / L"CommandMode.key", {{a, 33000}, {ctrlShiftEnt, 42600}});

@@ -56,10 +56,9 @@ HWND PressFor(HWND window, int id, const e2e::Process& option, const wchar_t* ti
     return e2e::FindVisibleWindow(option.Id(), title);
 }
 
-// A gesture composed in the trail dialog and bound through the picker, then the blank-area and wheel
-// pages: one Apply stores them all. The wheel page stores its two values wherever the blank-area page
-// left the store: both applied, they land in "ListMouse" beside the scripts, and an emptied script name
-// stays empty.
+// A gesture composed in the trail dialog and bound through the picker, then the blank-area and wheel pages: one Apply
+// stores them all. The wheel page stores its two values wherever the blank-area page left the store: both applied, they
+// land in "ListMouse" beside the scripts, and an emptied script name stays empty.
 TEST(MousePages, AGestureAndTheWheelValuesReachTheKeysTheHostReads) {
     reg::ScopedKey page{reg::kOptionPage}, gesture{kGesture}, mouse{kMouse}, listMouse{kListMouse};
     reg::DeleteKey(kGesture);

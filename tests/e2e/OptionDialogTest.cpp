@@ -38,10 +38,9 @@ std::wstring TakeMessageBox(const e2e::Process& option) {
     return text;
 }
 
-// Opened by a host in window mode 3, the dialog is owned by the host's window, serves the folder
-// request at once and answers the host's probe; Cancel stores nothing and sends the host nothing.
-// With LangOut on it writes its text file for translators, and a translated file is what the next
-// opening shows.
+// Opened by a host in window mode 3, the dialog is owned by the host's window, serves the folder request at once and
+// answers the host's probe; Cancel stores nothing and sends the host nothing. With LangOut on it writes its text file
+// for translators, and a translated file is what the next opening shows.
 TEST(OptionDialog, OpensOverTheHostInItsOwnOrTranslatedWordsAndOnlyAValidPassStores) {
     reg::ScopedKey page(reg::kOptionPage);
     reg::ScopedKey appInfo(reg::kAppInfo);

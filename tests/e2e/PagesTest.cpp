@@ -1,8 +1,7 @@
-// Pages in the running program: each opens as the page to start on, takes one change as a user makes
-// it, and Apply stores it in the page's section of the real registry and tells a running host what to
-// reread. The pages' own rules are the in-process page tests'; the rows here are those whose values
-// take a way of their own (bits, a text, a combo, values the page rewrites), then a page whose
-// values come from a dialog of its own.
+// Pages in the running program: each opens as the page to start on, takes one change as a user makes it, and Apply
+// stores it in the page's section of the real registry and tells a running host what to reread. The pages' own rules
+// are the in-process page tests'; the rows here are those whose values take a way of their own (bits, a text, a combo,
+// values the page rewrites), then a page whose values come from a dialog of its own.
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 

@@ -48,10 +48,9 @@ std::wstring NamingTheBlock(int windowMode, int reactivate, const wchar_t* word,
     return e2e::SwitchString(windowMode, reactivate, kBlockFirst, second, 1024, word);
 }
 
-// The program reads the block (leaving a zero where each tab was) exactly when the switch string
-// names it with "Share", and naming one that does not exist is no fault. The host comes forward
-// exactly when it asked with reactivate 1 in a string of ten fields, and hears nothing else. A copy
-// already running changes none of that.
+// The program reads the block (leaving a zero where each tab was) exactly when the switch string names it with "Share",
+// and naming one that does not exist is no fault. The host comes forward exactly when it asked with reactivate 1 in a
+// string of ten fields, and hears nothing else. A copy already running changes none of that.
 TEST(Startup, ARunThatEndsAtOnceReadsTheBlockAndHandsBackOnlyWhenAsked) {
     // clang-format off
     struct Case { const char* what; std::vector<std::wstring> args; std::wstring switches; bool read; bool forward; };

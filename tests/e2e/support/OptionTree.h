@@ -18,8 +18,7 @@ inline HTREEITEM NextTreeItem(HWND tree, HTREEITEM item, UINT how) {
     return reinterpret_cast<HTREEITEM>(SendMessageW(tree, TVM_GETNEXTITEM, how, reinterpret_cast<LPARAM>(item)));
 }
 
-// Every item from first on in the order the tree shows them, parents before children; expands each
-// on the way.
+// Every item from first on in the order the tree shows them, parents before children; expands each on the way.
 inline std::vector<HTREEITEM> ExpandAllTreeItems(HWND tree, HTREEITEM first = nullptr) {
     std::vector<HTREEITEM> items;
     for (HTREEITEM item = first ? first : NextTreeItem(tree, nullptr, TVGN_ROOT); item;
@@ -45,8 +44,7 @@ inline bool SelectTreeItem(HWND dialog, int id) {
     return false;
 }
 
-// Returns once the dialog's thread has handled what it was sent, painted what it must and waits
-// for input again.
+// Returns once the dialog's thread has handled what it was sent, painted what it must and waits for input again.
 inline void WaitUntilDialogIdle(HWND dialog, HANDLE process, DWORD timeoutMs = 10000) {
     DWORD_PTR result = 0;
     SendMessageTimeoutW(dialog, WM_NULL, 0, 0, SMTO_BLOCK, timeoutMs, &result);

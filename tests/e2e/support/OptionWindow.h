@@ -36,8 +36,7 @@ bool Answer(HWND dialog, int button, DWORD timeoutMs = 10000);
 // Selects and focuses a row of another process's list view; the item goes there through memory of
 // its own, so process needs PROCESS_VM_OPERATION and PROCESS_VM_WRITE.
 bool SelectListRow(HANDLE process, HWND list, int row);
-// Selects a folder in the browser of process by its path; process needs PROCESS_VM_OPERATION and
-// PROCESS_VM_WRITE.
+// Selects a folder in the browser of process by its path; process needs PROCESS_VM_OPERATION and PROCESS_VM_WRITE.
 bool SelectFolder(HANDLE process, HWND browser, const std::wstring& path);
 
 }  // namespace e2e

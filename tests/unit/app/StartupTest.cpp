@@ -139,8 +139,7 @@ TEST_F(StartupTest, SettingsReadAtStart) {
     EXPECT_EQ(0, fake.registry().OpenKey(L"Software\\Tarnwick\\QOR\\Main001\\Settings", key));
 }
 
-// The language library, the command lists and the presence mutex are there while the target runs and
-// gone after it.
+// The language library, the command lists and the presence mutex are there while the target runs and gone after it.
 TEST_F(StartupTest, WhatTheTargetFindsIsHeldForItAndLetGoAfterIt) {
     fake.files().AddFile(std::wstring(kUserDir) + L"PlugInCommand.txt", Utf16Bytes(L"41501\t\t\tx.dll\tPlug-in\r\n"));
     auto state = [&] {

@@ -24,9 +24,8 @@ std::vector<std::wstring> Shown(const FolderRules& rules, RuleKind kind) {
     return shown;
 }
 
-// What the page reads: the exact rules by their state strings (not the value names), virtual folders
-// by the shell's name, the pattern lists as far as 20 and 10 go; a state string too short to read
-// shows the path read before it.
+// What the page reads: the exact rules by their state strings (not the value names), virtual folders by the shell's
+// name, the pattern lists as far as 20 and 10 go; a state string too short to read shows the path read before it.
 TEST(FolderRules, LoadShowsWhatTheHostStored) {
     FakePlatform fake;
     fake.shell().names[L"::{20D04FE0-3AEA-1069-A2D8-08002B30309D}"] = L"My Computer";

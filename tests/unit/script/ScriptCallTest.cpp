@@ -1,5 +1,4 @@
-// "call" and "exec" as the system sees them: the process started, the waits, the question, the
-// result text.
+// "call" and "exec" as the system sees them: the process started, the waits, the question, the result text.
 #include <gtest/gtest.h>
 
 #include <optional>

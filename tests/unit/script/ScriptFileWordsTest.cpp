@@ -83,9 +83,8 @@ TEST_F(ScriptFileWordsTest, WhatTheOutputFileHolds) {
     }
 }
 
-// The data file is read line by line; the output file is the script's alone while it is open, and no
-// longer than the script runs. Every run starts with a data reader of its own, so each row reads from
-// the top.
+// The data file is read line by line; the output file is the script's alone while it is open, and no longer than the
+// script runs. Every run starts with a data reader of its own, so each row reads from the top.
 TEST_F(ScriptFileWordsTest, FileReadAndTheOutputFileHeldUntilClosed) {
     const std::wstring open = std::wstring(L"fileopen = ") + kOut;
     const std::wstring read = std::wstring(L"$x = fileread,") + kOut;

@@ -1,6 +1,5 @@
-// Scripts that start programs: "run" at once, "exrun" entries once the script has ended (each item it
-// started with goes to the first entry whose filter takes it), "call" and "exec", and the editor an
-// unknown line may open.
+// Scripts that start programs: "run" at once, "exrun" entries once the script has ended (each item it started with goes
+// to the first entry whose filter takes it), "call" and "exec", and the editor an unknown line may open.
 #include <gtest/gtest.h>
 
 #include <string>
@@ -53,9 +52,8 @@ protected:
     }
 };
 
-// An included script runs its own entries when it ends, before the parent goes on; a list that shrank
-// under the entries ends the whole run, the including scripts too, while without entries nothing is
-// looked at.
+// An included script runs its own entries when it ends, before the parent goes on; a list that shrank under the entries
+// ends the whole run, the including scripts too, while without entries nothing is looked at.
 TEST_F(ScriptLaunchTest, WhatStartsAndWhen) {
     const std::wstring include = std::wstring(L"include = ") + kScriptDirectory;
     AddScript(L"child.txt", {L"commandlineoption = ?SelFile?", L"exrun = child.exe"});

@@ -1,6 +1,5 @@
-// Every writer of a definition or list file, made to fail halfway: the file keeps what it held, no
-// temporary file stays behind, nothing new appears half written, and the user is told exactly what
-// he was told before.
+// Every writer of a definition or list file, made to fail halfway: the file keeps what it held, no temporary file stays
+// behind, nothing new appears half written, and the user is told exactly what he was told before.
 #include <gtest/gtest.h>
 
 #include <set>

@@ -1,6 +1,5 @@
-// The English dialog text files that come with the program: every text a dialog writes for its
-// translators has its English line, and with English chosen no page of the option dialog shows a
-// Japanese character anywhere.
+// The English dialog text files that come with the program: every text a dialog writes for its translators has its
+// English line, and with English chosen no page of the option dialog shows a Japanese character anywhere.
 #include <gtest/gtest.h>
 #include <windows.h>
 
@@ -197,9 +196,8 @@ TEST_F(EnglishDialogText, EveryTemplateTextHasItsEnglishLine) {
     if (!missing.str().empty()) ADD_FAILURE() << "without English:\n" << missing.str();
 }
 
-// Every text a window shows to the user: its own, and the items of a list, header, tab or tree. An
-// edit field holds the user's value (the status bar templates default to Japanese ones), not the
-// program's words.
+// Every text a window shows to the user: its own, and the items of a list, header, tab or tree. An edit field holds the
+// user's value (the status bar templates default to Japanese ones), not the program's words.
 std::vector<std::wstring> ShownTexts(HWND window) {
     wchar_t name[64] = {};
     GetClassNameW(window, name, 64);
@@ -246,11 +244,10 @@ std::vector<std::wstring> ShownTexts(HWND window) {
     return texts;
 }
 
-// With English chosen and the files the build writes beside the program, each page and group of the
-// option dialog, opened from its tree, shows no Japanese in any window of the dialog: labels, buttons,
-// hidden labels, list items and headers, combo entries, tabs, trees, the pages opened before included;
-// the confirmation page lists the English message file's texts. No page refuses a translated
-// label list, which it would say in a message box.
+// With English chosen and the files the build writes beside the program, each page and group of the option dialog,
+// opened from its tree, shows no Japanese in any window of the dialog: labels, buttons, hidden labels, list items and
+// headers, combo entries, tabs, trees, the pages opened before included; the confirmation page lists the English
+// message file's texts. No page refuses a translated label list, which it would say in a message box.
 TEST_F(EnglishDialogText, NoPageShowsJapaneseInEnglish) {
     UseLanguage(L".en-US");
     for (int id : DialogTemplates()) {

@@ -1,6 +1,5 @@
-// The run and extension-run editors and the script page with their real templates over fake files
-// and prompts: what a file shows, what OK refuses, asks and writes, and how the page opens a script
-// by its edit mode.
+// The run and extension-run editors and the script page with their real templates over fake files and prompts: what a
+// file shows, what OK refuses, asks and writes, and how the page opens a script by its edit mode.
 #include <gtest/gtest.h>
 #include <windows.h>
 

@@ -1,5 +1,4 @@
-// The folder settings page and its rule editor over their real templates, and the detail columns of
-// the real shell.
+// The folder settings page and its rule editor over their real templates, and the detail columns of the real shell.
 #include <gtest/gtest.h>
 #include <windows.h>
 
@@ -152,10 +151,9 @@ TEST_F(FolderSettingPageTest, TheButtonsEditTheListsWithinTheirLimits) {
     EXPECT_EQ(8, ui::ListView(regex).GetSelectedRow()) << "the last removed, the one before it is next";
 }
 
-// The list's initial page shows the stored view as the rule editor does (3 and 8 by the radios of 1
-// and 5, saved so) and the row of the stored order selected; Apply takes the order of the row the user
-// focused, and with none keeps the stored one, even of a column the shell no longer gives. The tree's
-// width is read with the group and never written.
+// The list's initial page shows the stored view as the rule editor does (3 and 8 by the radios of 1 and 5, saved so)
+// and the row of the stored order selected; Apply takes the order of the row the user focused, and with none keeps the
+// stored one, even of a column the shell no longer gives. The tree's width is read with the group and never written.
 TEST_F(FolderSettingPageTest, TheListsInitialPageMapsTheViewAndTakesTheFocusedOrder) {
     constexpr LPARAM kNone = 1000;
     // clang-format off

@@ -58,9 +58,8 @@ protected:
 // Apply with the framework's words and takes the focus with its text selected: nothing is stored or heard.
 TEST_F(OptionPagesTest, ControlsCarryTheirStoredValuesBothWays) {
     enum Kind { Check, Radio, Edit, Combo };
-    // A check is clicked, the radio button of the value set is clicked, a field is typed (or left when
-    // null), the combo item of the value set is picked. "Off" are the fields enabled as loaded that the
-    // setting turns off.
+    // A check is clicked, the radio button of the value set is clicked, a field is typed (or left when null), the combo
+    // item of the value set is picked. "Off" are the fields enabled as loaded that the setting turns off.
     // clang-format off
     struct Case { int page, control; Kind kind; const wchar_t *section, *name, *stored, *set; uint16_t code;
                   std::vector<int> off = {}; const wchar_t* refused = nullptr; };
@@ -384,9 +383,8 @@ std::span<const BitCheck> BitChecksOf(int page) {
     }
 }
 
-// Values made of bits show as checks; Apply makes them anew from the checks alone, with the bits no
-// check stands for gone. Digits compared as numbers are dropped on systems that lack them. A stored
-// value of -1 here is no value at all.
+// Values made of bits show as checks; Apply makes them anew from the checks alone, with the bits no check stands for
+// gone. Digits compared as numbers are dropped on systems that lack them. A stored value of -1 here is no value at all.
 TEST_F(OptionPagesTest, ListValuesOfBitsShowAsChecksAndAreMadeAnewFromThem) {
     // clang-format off
     struct Case { int page; const wchar_t *section, *name; int64_t stored; std::vector<int> ticked, clicks;
@@ -463,9 +461,8 @@ TEST_F(OptionPagesTest, ThumbnailSizesShowTheirStepAndTheFontBoxOpensOnScreenFon
     EXPECT_EQ((std::vector<int32_t>{32, 500, 96, 400}), stored);
 }
 
-// The folders automatic update leaves alone, as the user edits them: the input box adds and edits, a
-// full list takes no more, a button without a selection says so, and Apply stores the rows in order
-// behind an empty end mark.
+// The folders automatic update leaves alone, as the user edits them: the input box adds and edits, a full list takes no
+// more, a button without a selection says so, and Apply stores the rows in order behind an empty end mark.
 TEST_F(OptionPagesTest, WatchExclusionsAreEditedInTheInputBoxAndStoredInOrder) {
     fake_.files().AddFile(L"C:\\Msg.txt", Utf16Bytes(L"62301\tNothing selected.\r\n62316\tList full.\r\n", true));
     app_.messages.SetPath(L"C:\\Msg.txt");

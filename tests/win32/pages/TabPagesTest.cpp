@@ -1,5 +1,4 @@
-// The tab click table over its real template and the fake registry: the chooser and the disabled
-// restore checks.
+// The tab click table over its real template and the fake registry: the chooser and the disabled restore checks.
 #include <gtest/gtest.h>
 
 #include <windows.h>

@@ -88,9 +88,8 @@ TEST_F(TreePageTest, AFullListRefusesAnotherRoot) {
     EXPECT_EQ(app_.messages.Get(62316), told);
 }
 
-// The system's known-folder manager lists the desktop under its canonical name, and names every
-// folder it lists alike when asked for that one alone, by its identifier in either case. The shell
-// names a real folder for the address bar.
+// The system's known-folder manager lists the desktop under its canonical name, and names every folder it lists alike
+// when asked for that one alone, by its identifier in either case. The shell names a real folder for the address bar.
 TEST(KnownFolders, TheSystemCatalogueHasTheDesktop) {
     CoInitialize(nullptr);
     platform::win32::Win32ShellNamespace shell;

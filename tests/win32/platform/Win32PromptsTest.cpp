@@ -1,5 +1,4 @@
-// The real folder browser and file open box, run on a thread of their own and worked from the test's
-// thread.
+// The real folder browser and file open box, run on a thread of their own and worked from the test's thread.
 #include <gtest/gtest.h>
 #include <windows.h>
 #include <commctrl.h>
@@ -161,11 +160,10 @@ TEST(Win32Prompts, FileOpenBox) {
     std::filesystem::remove(file);
 }
 
-// Each question answers with the button pressed: the task dialog of program alternatives (one command
-// link per choice from 201 up), the application's message box, which shows the icon the framework's
-// box would (a warning for OK, a question mark for Yes/No, the caller's own when it names one), the
-// colour chooser on the colour given and the font chooser, which gives the face where the system has
-// it, else its first. Cancel gives nothing.
+// Each question answers with the button pressed: the task dialog of program alternatives (one command link per choice
+// from 201 up), the application's message box, which shows the icon the framework's box would (a warning for OK, a
+// question mark for Yes/No, the caller's own when it names one), the colour chooser on the colour given and the font
+// chooser, which gives the face where the system has it, else its first. Cancel gives nothing.
 TEST(Win32Prompts, EachQuestionGivesTheAnswerOfTheButtonPressed) {
     using Ask = std::function<std::wstring(platform::Prompts&)>;
     const Ask choice = [](platform::Prompts& prompts) {

@@ -1,7 +1,6 @@
-// Scripts run on the real system: the bytes the output file gets, values in the real registry, the
-// clipboard and the screen, and the trace window found by its title. (Programs a script starts are
-// the launch tests' and the editor script's business.)
-// Message boxes stay fake, so that a test sees them instead of blocking on them.
+// Scripts run on the real system: the bytes the output file gets, values in the real registry, the clipboard and the
+// screen, and the trace window found by its title. (Programs a script starts are the launch tests' and the editor
+// script's business.) Message boxes stay fake, so that a test sees them instead of blocking on them.
 #include <gtest/gtest.h>
 #include <windows.h>
 
@@ -209,8 +208,7 @@ TEST_F(ScriptOnWindows, ClipboardRoundTripAndMetrics) {
     EXPECT_TRUE(Messages().empty());
 }
 
-// The trace window, found by its title, hears of each script, where the parent goes on, and each line
-// and value.
+// The trace window, found by its title, hears of each script, where the parent goes on, and each line and value.
 TEST_F(ScriptOnWindows, TheTraceWindowHearsEachScript) {
     constexpr const wchar_t* kTraceClass = L"OptionTestsScriptTrace";
     testing_support::RegisterWindowClass(kTraceClass, TraceProc);

@@ -1,7 +1,6 @@
-// Our case-insensitive equality of paths against the system's StrCmpIW, which the folder rules'
-// duplicate check stands for: pairs across the scripts users name folders in, ligatures and units
-// that weigh nothing. Left out: a letter followed by a combining mark, which the system takes for its
-// precomposed form and we do not.
+// Our case-insensitive equality of paths against the system's StrCmpIW, which the folder rules' duplicate check stands
+// for: pairs across the scripts users name folders in, ligatures and units that weigh nothing. Left out: a letter
+// followed by a combining mark, which the system takes for its precomposed form and we do not.
 #include <gtest/gtest.h>
 
 #include <shlwapi.h>

@@ -69,9 +69,8 @@ double InterestingDouble(Generator& g) {
         1.7976931348623157e308, 0.1, 0.35, 2.675, 1.005, 123456789.0, 1e-5, 1e-4, 999999.5, 9.9999995,
         0.00001234567, 1e15, 1e16, 1e17, 3.0, 1.96875, 1.03125};
     // clang-format on
-    // Only the two quiet NaNs arithmetic makes: the reference names every negative NaN "-nan(ind)"
-    // and every positive one "nan", where the documented output tells payloads and signalling
-    // NaNs apart ("-nan", "nan(snan)"), as we do.
+    // Only the two quiet NaNs arithmetic makes: the reference names every negative NaN "-nan(ind)" and every positive
+    // one "nan", where the documented output tells payloads and signalling NaNs apart ("-nan", "nan(snan)"), as we do.
     static const uint64_t nonFinite[] = {0x7FF0000000000000, 0xFFF0000000000000, 0x7FF8000000000000,
                                          0xFFF8000000000000};
     switch (g.Below(6)) {

@@ -1,5 +1,4 @@
-// Starting real programs: one that takes dropped files and one that only waits, both built beside
-// the end-to-end tests.
+// Starting real programs: one that takes dropped files and one that only waits, both built beside the end-to-end tests.
 #include "services/ProcessLaunch.h"
 
 #include <windows.h>

@@ -93,9 +93,8 @@ inline void Click(HWND dialog, int id) {
     SendDlgItemMessageW(dialog, id, BM_CLICK, 0, 0);
 }
 
-// Acts on the next dialog titled so once it shows: a modal window the test has no other hold on. One
-// that has not come in five seconds fails the test, and the active window is cancelled so that its
-// modal loop ends.
+// Acts on the next dialog titled so once it shows: a modal window the test has no other hold on. One that has not come
+// in five seconds fails the test, and the active window is cancelled so that its modal loop ends.
 inline void WhenShown(const wchar_t* title, std::function<void(HWND)> act) {
     static std::wstring wanted;
     static std::function<void(HWND)> action;
@@ -171,8 +170,7 @@ protected:
         return texts;
     }
 
-    // A dialog text file, the option dialog's own unless another is named, in a language other than
-    // the templates' own.
+    // A dialog text file, the option dialog's own unless another is named, in a language other than the templates' own.
     void Translate(const std::wstring& text, const std::wstring& file = L"159") {
         DirectWriteString(kDirectSettingsPath, L"NLS", L".en-US");
         fake_.files().AddFile(L"C:\\Qor\\command\\Option\\.en-US\\Option\\" + file + L".txt", Utf16Bytes(text, true));

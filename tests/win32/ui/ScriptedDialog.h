@@ -1,6 +1,5 @@
-// A dialog of the framework whose reactions each test writes in, and the fixture of the framework's
-// tests: real windows, every other facility fake, so that a refused field's message box is recorded
-// instead of waiting for a click.
+// A dialog of the framework whose reactions each test writes in, and the fixture of the framework's tests: real
+// windows, every other facility fake, so that a refused field's message box is recorded instead of waiting for a click.
 #pragma once
 
 #include <gtest/gtest.h>
