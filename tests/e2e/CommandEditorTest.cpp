@@ -1,6 +1,4 @@
-// The command definition editor in the running program: "/D" on a copy of a sample command list, where Cancel leaves
-// the file as it was and OK, once the user agrees, writes the edited rows; and the command definition page, which opens
-// the same editor in its own mode, and whose Apply tells the host what to reread.
+// "/D" on a copy of a sample command list, and the page that opens the same editor in its own mode.
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 

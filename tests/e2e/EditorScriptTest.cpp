@@ -1,6 +1,4 @@
-// "/A" as the host uses it: a file that is no definition file opens through the user's editor
-// script. The scripts here start a test program that logs how it was started, and steer the test
-// host: messages and texts posted and sent to it, message boxes that its window owns.
+// "/A" on a file that is no definition file opens it through the user's editor script.
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -66,9 +64,8 @@ std::vector<int> Buttons(HWND box) {
     return buttons;
 }
 
-// The editor starts with the script's command line, the selected file quoted in it. Sent messages and texts reach the
-// host in the script's order, each waiting for it, and the posted ones behind them. The script's message boxes are the
-// host's and their answers count; a line the script cannot run is shown and ends the run.
+// Sent messages and texts reach the host in the script's order, each waiting for it, the posted ones behind
+// them; the script's message boxes are the host's, and a line the script cannot run ends the run.
 TEST(EditorScript, TheScriptStartsTheEditorSteersTheHostAndStopsAtABadLine) {
     e2e::FakeHost host({.hidden = true});
     ASSERT_TRUE(host.Window());

@@ -1,5 +1,3 @@
-// The folder settings page in the running program: a folder the host asks for is registered when the
-// dialog opens, and a rule added through the editor reaches the registry as the host reads it.
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -36,9 +34,8 @@ bool AnswerEditor(const e2e::Process& option, const wchar_t* path) {
     return e2e::Answer(editor, IDOK);
 }
 
-// The host leaves a state string in SetFolder and starts the program: the editor comes up on it before anything else.
-// Then a rule is added on the page; once applied each folder is a rule of its own, the new one with the list's initial
-// view and sorted by the folders-first key, the request gone, the pattern rules rewritten with an empty end mark.
+// The editor comes up on the host's SetFolder first; once applied, the new rule has the list's initial view
+// and the folders-first key, the request is gone and the pattern rules end with an empty mark.
 TEST(FolderPage, AFolderTheHostAsksForAndARuleAddedAreWhatApplyStores) {
     reg::ScopedKey page{reg::kOptionPage}, folders{kFolderInfo}, patterns{kFolderInfoEx}, listInit{kListInit};
     for (const wchar_t* key : {kFolderInfo, kFolderInfoEx, kListInit}) reg::DeleteKey(key);

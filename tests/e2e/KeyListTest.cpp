@@ -1,5 +1,4 @@
-// "/KEYLIST" run for real: the folder browser worked from here, the lists read back from disk. (A
-// virtual folder refused and the default keys are the writer's unit tests.)
+// "/KEYLIST" run for real: the folder browser worked from here, the lists read back from disk.
 #include <gtest/gtest.h>
 
 #include <windows.h>

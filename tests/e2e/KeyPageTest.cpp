@@ -1,5 +1,3 @@
-// The key page in the running program: a key bound through the command picker reaches the key files
-// and every host hears of it; Cancel leaves the files as they were.
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 

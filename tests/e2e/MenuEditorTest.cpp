@@ -1,6 +1,4 @@
-// The menu editor of "/M": a sample menu file opened, a line added through the line dialog and
-// saved as the host reads it; a file in a missing folder opens empty and cannot be saved; the load
-// test shows the saved file as a real popup menu where the file asks, or refuses a WILDCARD file.
+// The menu editor of "/M" on a sample menu file.
 #include <gtest/gtest.h>
 
 #include <windows.h>

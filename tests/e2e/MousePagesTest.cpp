@@ -1,5 +1,3 @@
-// The mouse pages in the running program: a gesture bound through the trail dialog reaches the host's
-// key, which holds exactly the table; the blank-area and wheel pages store where the host looks.
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -56,9 +54,8 @@ HWND PressFor(HWND window, int id, const e2e::Process& option, const wchar_t* ti
     return e2e::FindVisibleWindow(option.Id(), title);
 }
 
-// A gesture composed in the trail dialog and bound through the picker, then the blank-area and wheel pages: one Apply
-// stores them all. The wheel page stores its two values wherever the blank-area page left the store: both applied, they
-// land in "ListMouse" beside the scripts, and an emptied script name stays empty.
+// The wheel page stores its two values wherever the blank-area page left the store: both applied, they land
+// in "ListMouse" beside the scripts; an emptied script name stays empty.
 TEST(MousePages, AGestureAndTheWheelValuesReachTheKeysTheHostReads) {
     reg::ScopedKey page{reg::kOptionPage}, gesture{kGesture}, mouse{kMouse}, listMouse{kListMouse};
     reg::DeleteKey(kGesture);

@@ -1,5 +1,3 @@
-// The option dialog as the user and the host meet it: a window of the running Option.exe, its pages
-// worked as a user would, and what reaches the registry and every running host.
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -38,9 +36,8 @@ std::wstring TakeMessageBox(const e2e::Process& option) {
     return text;
 }
 
-// Opened by a host in window mode 3, the dialog is owned by the host's window, serves the folder request at once and
-// answers the host's probe; Cancel stores nothing and sends the host nothing. With LangOut on it writes its text file
-// for translators, and a translated file is what the next opening shows.
+// Window mode 3: owned by the host's window. With LangOut on it writes its text file for translators, and
+// a translated file is what the next opening shows.
 TEST(OptionDialog, OpensOverTheHostInItsOwnOrTranslatedWordsAndOnlyAValidPassStores) {
     reg::ScopedKey page(reg::kOptionPage);
     reg::ScopedKey appInfo(reg::kAppInfo);
@@ -104,9 +101,8 @@ TEST(OptionDialog, OpensOverTheHostInItsOwnOrTranslatedWordsAndOnlyAValidPassSto
     EXPECT_THAT(host.Commands(), testing::IsEmpty());
 }
 
-// Apply stores what the user changed on each page, stores the selected item as the page to open
-// next time, and tells every running host the codes of the groups to reread between the series'
-// brackets; each Apply says it all again, and OK closes after an Apply of its own.
+// The selected item is stored as the page to open next time; each Apply tells every host it all again,
+// and OK closes after an Apply of its own.
 TEST(OptionDialog, ApplyStoresEveryPageAndEveryHostHearsWhatToReread) {
     reg::ScopedKey page(reg::kOptionPage);
     reg::ScopedKey appInfo(reg::kAppInfo);

@@ -1,7 +1,5 @@
-// Pages in the running program: each opens as the page to start on, takes one change as a user makes it, and Apply
-// stores it in the page's section of the real registry and tells a running host what to reread. The pages' own rules
-// are the in-process page tests'; the rows here are those whose values take a way of their own (bits, a text, a combo,
-// values the page rewrites), then a page whose values come from a dialog of its own.
+// The pages' own rules are the in-process page tests'; the rows here are values that take a way of their own
+// (bits, a text, a combo, values the page rewrites), then a page whose values come from a dialog of its own.
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -28,8 +26,7 @@ constexpr wchar_t kTabStyle[] = L"Software\\Tarnwick\\Qor\\Main001\\TabStyle";
 constexpr wchar_t kColor[] = L"Software\\Tarnwick\\Qor\\Main001\\Color";
 constexpr wchar_t kPlugins[] = L"Software\\Tarnwick\\QOR\\Main001\\PvPlugin";
 
-// What the user does on the page: a button pressed (a check or radio changes with it), a field typed,
-// or an item of a combo picked.
+// A button pressed (a check or radio changes with it), a field typed, or a combo item picked.
 struct Change {
     int control;
     const wchar_t* typed = nullptr;
@@ -99,8 +96,7 @@ TEST(Pages, EachPageStoresItsSectionAndTellsTheHostItsCode) {
     }
 }
 
-// A plug-in added through its editor, with the sample plug-ins beside the program, is registered with
-// its own extensions and the host hears of it.
+// With the sample plug-ins beside the program.
 TEST(PreviewPage, APluginAddedIsRegisteredWithItsOwnExtensions) {
     reg::ScopedKey page(reg::kOptionPage);
     reg::ScopedKey plugins(kPlugins);

@@ -1,5 +1,4 @@
-// The run definition editors of "/R" and "/E" on the sample files, worked from another process: a
-// change saved with OK is on disk in the form the host reads, Cancel leaves the file byte for byte.
+// "/R" and "/E" on the sample files; Cancel leaves the file byte for byte.
 #include <gtest/gtest.h>
 
 #include <windows.h>

@@ -1,5 +1,3 @@
-// The skin, sound and event pages in the running program: a background chosen and then cancelled with the whole dialog
-// stores nothing; files picked in the system's file box are kept by their bare names and the host hears of each page.
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -77,8 +75,7 @@ protected:
     HWND dialog = nullptr;
 };
 
-// A sound and an event file picked and applied are stored by their bare names and every row is written, the empty ones
-// too; a background chosen afterwards and cancelled with the whole dialog stores nothing.
+// Every row is written, the empty ones too.
 TEST_F(SkinAndEventPagesTest, FilesAreStoredByTheirBareNamesAndACancelledBackgroundNothing) {
     e2e::FakeHost host;
     ASSERT_TRUE(host.Window());

@@ -1,5 +1,4 @@
-// Runs that end at once, as the host starts the program for a file ("/T"): what they read of the
-// block the host filled, what the host sees of them afterwards, and the language they speak in.
+// Runs that end at once, as the host starts the program for a file ("/T").
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -48,9 +47,8 @@ std::wstring NamingTheBlock(int windowMode, int reactivate, const wchar_t* word,
     return e2e::SwitchString(windowMode, reactivate, kBlockFirst, second, 1024, word);
 }
 
-// The program reads the block (leaving a zero where each tab was) exactly when the switch string names it with "Share",
-// and naming one that does not exist is no fault. The host comes forward exactly when it asked with reactivate 1 in a
-// string of ten fields, and hears nothing else. A copy already running changes none of that.
+// The block is read exactly when the switch string names it with "Share" (a missing one is no fault); the
+// host comes forward exactly on reactivate 1 in ten fields. A copy already running changes none of that.
 TEST(Startup, ARunThatEndsAtOnceReadsTheBlockAndHandsBackOnlyWhenAsked) {
     // clang-format off
     struct Case { const char* what; std::vector<std::wstring> args; std::wstring switches; bool read; bool forward; };
@@ -88,8 +86,7 @@ TEST(Startup, ARunThatEndsAtOnceReadsTheBlockAndHandsBackOnlyWhenAsked) {
     }
 }
 
-// A language whose message file exists but whose resource library does not: the program says so,
-// in that language's words (here the English file under a name of its own), and goes on.
+// A message file without its resource library (here the English file under a name of its own).
 TEST(Language, AMissingLibraryIsToldInTheChosenLanguage) {
     reg::ScopedKey settings(reg::kSettings);
     const std::wstring lang = e2e::StageRoot() + L"\\Lang\\";

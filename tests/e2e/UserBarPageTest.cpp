@@ -1,6 +1,3 @@
-// The user bar page in the running program: a folder the user made under "Bar", registered as the first
-// bar through the slot editor, gets its icon at Apply, the slot is stored where the host reads it, and
-// every host hears that the user bars changed.
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 

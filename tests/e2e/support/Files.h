@@ -1,5 +1,4 @@
-// Files as the tests prepare and read them: raw bytes, UTF-16 units as the program writes them, and
-// UTF-8 as the test programs log.
+// Raw bytes, UTF-16 units as the program writes them, and UTF-8 as the test programs log.
 #pragma once
 
 #include <optional>
@@ -18,8 +17,7 @@ std::wstring ReadUtf16File(const std::wstring& path);
 bool WriteUtf16File(const std::wstring& path, const std::wstring& text);
 std::string Utf8(const std::wstring& text);
 
-// Removes the file for as long as the object lives, so that a test may write it freely, and puts
-// back what was there, or nothing, afterwards.
+// Removes the file while it lives and puts back what was there, or nothing, afterwards.
 class ScopedFile {
 public:
     explicit ScopedFile(std::wstring path);
@@ -34,8 +32,7 @@ private:
     std::optional<std::string> saved_;
 };
 
-// Removes, when it goes, every file that has appeared directly in the folder while it lived: what a
-// run of the program writes there for translators.
+// Removes, when it goes, every file that appeared in the folder meanwhile: the files for translators.
 class ScopedNewFiles {
 public:
     explicit ScopedNewFiles(std::wstring folder);

@@ -1,5 +1,4 @@
-// The windows of a running Option.exe as another process finds and works them: the option dialog,
-// message boxes and the folder browser.
+// The windows of a running Option.exe as another process finds and works them.
 #pragma once
 
 #include <windows.h>
@@ -13,8 +12,7 @@ namespace e2e {
 HWND FindWindowOf(DWORD processId, const std::function<bool(HWND)>& match, DWORD timeoutMs = 10000, DWORD pollMs = 50);
 // The visible top-level window titled title that the process shows.
 HWND FindVisibleWindow(DWORD processId, const wchar_t* title, DWORD timeoutMs = 10000, DWORD pollMs = 50);
-// The page of the dialog that holds a control, found among the dialog's child windows: the one shown
-// when several hold it.
+// The page that holds a control: the one shown when several hold it.
 HWND PageWith(HWND dialog, int controlId);
 
 // Presses a button of a window as the user would, and waits until the window has handled it.

@@ -32,8 +32,7 @@ std::optional<std::wstring> ReadString(const std::wstring& path, const std::wstr
 void WriteDword(const std::wstring& path, const std::wstring& name, DWORD value);
 void WriteString(const std::wstring& path, const std::wstring& name, const std::wstring& value);
 
-// Saves a key with everything below it and puts it back as it was when the scope ends
-// (removing it when it did not exist), so a test may change it freely.
+// Puts a key with everything below it back as it was (or away) when the scope ends.
 class ScopedKey {
 public:
     explicit ScopedKey(std::wstring path);

@@ -29,9 +29,8 @@ public:
     }
 };
 
-// Opened pages apply in id order; when all agree, every host window hears the series (48999, the codes
-// recorded, 49099) and "Start" keeps the page shown. A refusal stops the chain: nothing is sent, "Start"
-// stays, and the next Apply sends everything still pending.
+// When all pages agree every host hears 48999, the codes, 49099, and "Start" keeps the page shown; a
+// refusal sends nothing, and the next Apply sends everything still pending.
 TEST(ApplyChain, OpenedPagesApplyInIdOrderAndEveryHostHearsTheSeries) {
     // refusing: on the first Apply only; series: what it sends, empty when it fails; again: what the next one sends.
     // clang-format off

@@ -55,8 +55,7 @@ protected:
     AppServices app{96};
 };
 
-// The last switch and the last plain argument win; a switch without the file it needs, or one that is
-// not exactly a known letter, opens the option dialog.
+// A switch without the file it needs, or not exactly a known letter, opens the option dialog.
 TEST_F(StartupTest, DispatchesOnTheEffectiveSwitch) {
     fake.files().AddFile(L"C:\\f.txt", Utf16Bytes(L"x"));
     // clang-format off
@@ -78,8 +77,7 @@ TEST_F(StartupTest, DispatchesOnTheEffectiveSwitch) {
     EXPECT_TRUE(fake.prompts().shown().empty());
 }
 
-// "/A" opens a file of one "run" line in the run editor, of one "exrun" line in the exrun editor, and
-// anything else as a script.
+// "/A": a file of one "run" or "exrun" line opens in its editor, anything else runs as a script.
 TEST_F(StartupTest, AutomaticSwitchFollowsTheFileKind) {
     const std::wstring opened[] = {L"script C:\\d.txt", L"editor 1 C:\\d.txt", L"editor 2 C:\\d.txt"};
     // clang-format off
@@ -113,9 +111,8 @@ TEST_F(StartupTest, MissingLanguageLibraryIsToldAndTheProgramGoesOn) {
               fake.prompts().shown());
 }
 
-// The option dialog reads the settings it shows at start; only the editors read the confirmations, with
-// every one on when none are stored. The host's window mode comes from its switch string, and the host
-// is brought back at the end when it asked for it.
+// Only the editors read the confirmations, all on when none are stored; the host's window mode and
+// whether it comes back at the end are its switch string's.
 TEST_F(StartupTest, SettingsReadAtStart) {
     Run({L"/D", L"x"});
     EXPECT_EQ(-1, app.store.Message);

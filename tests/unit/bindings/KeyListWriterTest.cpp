@@ -60,9 +60,8 @@ protected:
     std::unique_ptr<platform::ResourceLibrary> library;
 };
 
-// The run through the real program, with its folder browser, message boxes and saved keys, is an
-// end-to-end test; here are the texts of commands that have no name, a name with quotes, and a user who
-// picks a virtual folder until he gives up.
+// The rest of the run is end-to-end: here commands without a name or with quotes, and a user who picks
+// a virtual folder until he gives up.
 TEST_F(KeyListWriterTest, CommandsWithoutANameAreListedByTheirNumberOrAsMissing) {
     fake.prompts().ChooseFolder({true, L"C:\\Out"});
     Run();

@@ -44,8 +44,7 @@ TEST(GestureTrail, ButtonsComposeATrailOfChangesOnly) {
     }
 }
 
-// What the host left under its key is shown with arrows and written back with letters; characters that
-// are not direction letters stay as they stand, and an empty table leaves an empty key.
+// Shown with arrows, written back with letters; other characters stay, and an empty table leaves an empty key.
 TEST(GestureTrail, TheTableGoesThroughTheRegistryAsLetters) {
     struct Case {
         NamedValues stored;
@@ -104,8 +103,7 @@ TEST(WheelScript, TheNameSaysEveryBoxAndTheTestWantsAHeldOne) {
     EXPECT_EQ(512u, names.size()) << "one script per combination";
 }
 
-// The test button: an existing script is opened untouched; a missing one is made with the byte order
-// mark alone when the user says Yes, and a folder that is not there says so.
+// A missing script is made (a byte order mark alone) only on Yes; a missing folder says so.
 TEST(WheelScript, TheTestOpensExistingScriptsAndMakesMissingOnesOnlyWhenAsked) {
     struct Case {
         const char* label;

@@ -1,5 +1,3 @@
-// The command definition editor's rules on its document: the range a list's name gives, adding rows,
-// the codes the detail controls write, and what OK refuses.
 #include <gtest/gtest.h>
 
 #include <string>
@@ -44,8 +42,7 @@ TEST_F(CommandListEditingTest, TheNameOfTheFileGivesItsRange) {
     }
 }
 
-// A new row takes the smallest identifier no row shows as a plain number, or the first of the range
-// again when all are taken; it is then saved like any other.
+// The smallest identifier no row shows as a plain number, or the first of the range when all are taken.
 TEST_F(CommandListEditingTest, AddingTakesTheSmallestFreeIdentifier) {
     std::wstring full;
     for (int id = 41501; id <= 41600; ++id) full += std::to_wstring(id) + L"\t\tN--\tx\ty\r\n";
@@ -70,8 +67,7 @@ TEST_F(CommandListEditingTest, AddingTakesTheSmallestFreeIdentifier) {
     }
 }
 
-// What the detail controls write back after a click: flags of other modes and rules of the other
-// folder condition stay in the controls but not in the codes.
+// Flags of other modes and rules of the other folder condition stay in the controls, not in the codes.
 TEST_F(CommandListEditingTest, TheDetailsWriteOnlyTheCodesTheirModeHas) {
     struct Case {
         const wchar_t *communication, *condition;

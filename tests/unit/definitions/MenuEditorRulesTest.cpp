@@ -1,5 +1,3 @@
-// What the menu editor's line dialog enables and accepts for each keyword, and how the menu page
-// lists the files of the menu folder.
 #include <gtest/gtest.h>
 
 #include <string>

@@ -14,8 +14,7 @@ std::wstring Saved(platform::fake::FakePlatform& fake) {
     return Utf16Text(bytes);
 }
 
-// What the editor shows of a file reads back the same once saved, whatever form of the keys the file
-// held and whatever else it held.
+// Whatever form of the keys a file held, and whatever else, what the editor shows reads back the same.
 TEST(RunDefinitionTest, ReadsEveryFormItMeetsAndSavesTheFixedForm) {
     // clang-format off
     struct Case { const wchar_t* content; RunDefinition read; };

@@ -42,8 +42,7 @@ TEST(ClickTable, StoredValuesMustNameAnAction) {
     }
 }
 
-// Labels join the group and the modifier; a swap of the two groups, done twice, gives back what was
-// stored, and Store puts every row into its own setting.
+// A swap of the two groups, done twice, gives back what was stored.
 TEST(ClickTable, RowsAreLabelledSwappedAndStoredByGroup) {
     ClickTable table = MakeTable(10);
     ASSERT_EQ(8u, table.size());

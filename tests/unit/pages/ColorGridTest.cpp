@@ -1,5 +1,3 @@
-// The colour page's grid as the host sees its result: what the grid shows of the stored values, what
-// it gives back, the palettes and the skin radios.
 #include <gtest/gtest.h>
 
 #include <string>

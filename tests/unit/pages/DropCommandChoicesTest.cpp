@@ -10,8 +10,7 @@
 
 namespace {
 
-// The named commands of the last group of external commands only, whichever list names them, in the
-// order of their numbers.
+// Whichever list names them, in the order of their numbers.
 TEST(DropCommandChoices, OfferTheNamedCommandsOfTheLastExternalGroup) {
     platform::fake::FakePlatform fake;
     fake.files().AddFile(L"C:\\User\\ExternalUserCommand.txt", Utf16Bytes(L"42600\t\t-\tmail.exe\tMail\r\n"

@@ -24,8 +24,8 @@ std::vector<std::wstring> Shown(const FolderRules& rules, RuleKind kind) {
     return shown;
 }
 
-// What the page reads: the exact rules by their state strings (not the value names), virtual folders by the shell's
-// name, the pattern lists as far as 20 and 10 go; a state string too short to read shows the path read before it.
+// Rules by their state strings (not the value names), virtual folders by the shell's name; a state string too
+// short to read shows the path read before it.
 TEST(FolderRules, LoadShowsWhatTheHostStored) {
     FakePlatform fake;
     fake.shell().names[L"::{20D04FE0-3AEA-1069-A2D8-08002B30309D}"] = L"My Computer";
@@ -50,9 +50,8 @@ TEST(FolderRules, LoadShowsWhatTheHostStored) {
     EXPECT_EQ(10u, rules.rows(RuleKind::Regex).size());
 }
 
-// The add buttons stop at 500, 20 and 10 rows. A folder the host asks for is offered once, as an exact
-// rule: cancelled, it is gone; accepted, it goes into the list the user chose beyond its limit, and
-// Apply writes it too, while the host reads only the first 20.
+// A folder the host asks for is offered once: cancelled, it is gone; accepted, it goes in beyond the
+// limit and Apply writes it too, while the host reads only the first 20.
 TEST(FolderRules, ListsAreFullAtTheirLimits) {
     FakePlatform fake;
     SettingsStore store;
@@ -92,8 +91,7 @@ TEST(FolderRules, ListsAreFullAtTheirLimits) {
     EXPECT_EQ(L"*\\requested", store.ReadString(L"wp020", L""));
 }
 
-// Apply writes "FolderInfo" anew, named by each rule's path, and the patterns from index 0 closed by
-// an empty pair; higher pairs of an older save stay. Unedited rules keep their strings to the letter.
+// Higher pattern pairs of an older save stay behind the empty pair; unedited rules keep their strings.
 TEST(FolderRules, ApplyRewritesTheKeyAndClosesThePatternLists) {
     FakePlatform fake;
     const std::wstring hostOwned = L"0 1 0 02 00 0 00000100 00010000 00000000 07 00\tC:\\Kept";
@@ -126,8 +124,7 @@ TEST(FolderRules, ApplyRewritesTheKeyAndClosesThePatternLists) {
                                          value(L"ws003"), value(L"wp004"), value(L"rp000"), value(L"rs000")}));
 }
 
-// The editor's sort list: the built-in keys in their fixed order, the shown columns in the order of
-// the host's table, then the others; untitled columns and those the table lacks are left out.
+// Built-in keys, shown columns in the host's order, then the others; untitled and unknown columns left out.
 TEST(FolderRules, SortListGroupsTheKeys) {
     FakePlatform fake;
     fake.shell().columns = {{L"Name", 30}, {L"Size", 10}, {L"", 10}, {L"Type", 20}, {L"Tags", 15}, {L"Owner", 12}};

@@ -17,8 +17,7 @@ TEST(FolderState, AStringTooShortLeavesEverythingAsItWas) {
     }
 }
 
-// The radios order the host's view numbers their own way; 3 and 8 show as list and tiles and are
-// saved as 1 and 5; an unknown number shows as the list; a reserved radio keeps what was stored.
+// 3 and 8 show as list and tiles and are saved as 1 and 5; a reserved radio keeps what was stored.
 TEST(FolderState, ViewNumbersMapToTheRadiosAndBack) {
     // clang-format off
     struct Case { int32_t stored; int radio; int32_t saved; };
@@ -35,8 +34,7 @@ TEST(FolderState, ViewNumbersMapToTheRadiosAndBack) {
     for (int reserved : {7, 8, -1}) EXPECT_EQ(8, ViewNumberOfRadio(reserved, 8));
 }
 
-// What the host stores and what the rule editor shows: every field both ways, the sort key below
-// zero, the old view numbers, the fields only the host writes, paths that carry a TAB of their own.
+// Every field both ways: a sort key below zero, old view numbers, host-only fields, paths with a TAB.
 TEST(FolderState, ReadsAndWritesEveryColumn) {
     // clang-format off
     struct Case { const wchar_t* stored; FolderState read; const wchar_t* written; };

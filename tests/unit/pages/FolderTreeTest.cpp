@@ -12,8 +12,7 @@ namespace {
 
 constexpr const wchar_t* kDesktop = L"B4BFCC3A-DB2C-424C-B029-7FE99A87C641";
 
-// The twelve rows in order: Enter, left and middle click, each by modifier, under the names the host
-// reads; a stored action outside the four is refused rather than shown half right.
+// A stored action outside the four is refused rather than shown half right.
 TEST(FolderTree, ClickRowsAreEnterLeftAndMiddleUnderTheTreesNames) {
     const std::vector<std::wstring> buttons = {L"Enter", L"Dbl", L"Left", L"Right", L"Mid"};
     const std::vector<std::wstring> modifiers = {L"", L"+C", L"+S", L"+CS"};
@@ -61,8 +60,7 @@ TEST(FolderTree, StoredRootsShowByNameOrAreLost) {
     for (const Case& c : cases) EXPECT_EQ(c.shown, ResolveTreeRoot(c.stored, fake.shell())) << c.stored;
 }
 
-// The catalogue asks the shell once, keeps the shell's order with upper-case identifiers, and refuses
-// an index it does not have (the root dialog's OK without a choice).
+// Upper-case identifiers in the shell's order; an unknown index is the root dialog's OK without a choice.
 TEST(FolderTree, CatalogueIsReadOnceAndRefusesAnUnknownIndex) {
     platform::fake::FakePlatform fake;
     KnownFolderCatalog catalog;
@@ -78,8 +76,7 @@ TEST(FolderTree, CatalogueIsReadOnceAndRefusesAnUnknownIndex) {
     EXPECT_THROW(catalog.At(2), std::invalid_argument);
 }
 
-// Editing the list: where a new root goes, which row is selected after a delete or a move, and the
-// texts Apply stores. Rows are named by their texts "a", "b", "c".
+// Rows are named by their texts "a", "b", "c".
 TEST(FolderTree, RootListEditsKeepTheOrderTheUserGives) {
     enum Op { Insert, Remove, Move };
     struct Case {

@@ -15,8 +15,7 @@ ContextMenuChecks Checks(std::initializer_list<int> on) {
     return checks;
 }
 
-// In each place: the shell's items on top need the extra and the shell's items, the extended ones the
-// shell's items; the places do not bear on each other.
+// Shell items on top need the extra and the shell items, the extended ones the shell items; per place.
 TEST(ContextMenuChecks, WhatMayBeChangedFollowsTheFirstTwoChecksOfEachPlace) {
     // clang-format off
     struct Case { const char* what; ContextMenuChecks ticked, disabled; };

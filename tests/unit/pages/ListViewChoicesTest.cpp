@@ -8,8 +8,7 @@
 
 namespace {
 
-// A size shows as the item of its step, rounded down, and is saved as that item's size; one the list
-// lacks shows no item and stays as stored.
+// Rounded down to a step and saved as it; a size the list lacks shows no item and stays as stored.
 TEST(ListViewChoices, ThumbnailSizesShowAsTheirStep) {
     // clang-format off
     struct Case { int32_t stored; std::optional<int> item; int32_t saved; };
@@ -36,8 +35,7 @@ TEST(ListViewChoices, DigitsAsNumbersAreDroppedOnlyWhereTheSystemLacksThem) {
     for (const Case& c : cases) EXPECT_EQ(c.stored, CustomSortFlagsFor(c.ticked, c.version)) << c.version;
 }
 
-// What the user typed loses one trailing separator and then its surrounding blanks; the list stores
-// its rows in order, trimmed, up to the first one left empty.
+// One trailing separator goes, then the blanks; rows are stored trimmed up to the first empty one.
 TEST(ListViewChoices, WatchExclusionsAsTypedAndAsStored) {
     // clang-format off
     const std::pair<std::wstring, std::wstring> typed[] = {

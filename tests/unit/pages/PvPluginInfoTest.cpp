@@ -39,9 +39,8 @@ protected:
     SettingsStore store_;
 };
 
-// What is registered, what of it loads (and what the user is told of what does not), and what saving
-// the list writes back: gone plug-ins dropped, a plug-in without extensions asked for its own, and an
-// empty pair closing the list whatever stood behind it.
+// Gone plug-ins are dropped, one without extensions is asked for its own, and an empty pair closes the
+// list whatever stood behind it.
 TEST_F(PvPluginInfoTest, RegistrationKeepsOnlyPluginsThatStillLoad) {
     // clang-format off
     struct Case { std::vector<std::wstring> registered, loaded, messages, saved; };
@@ -80,8 +79,7 @@ TEST_F(PvPluginInfoTest, RegistrationKeepsOnlyPluginsThatStillLoad) {
     }
 }
 
-// A plug-in is asked for its extensions with room for 520 characters, a control it made is closed
-// before its library goes, and unloading ends with the system's sweep of unused libraries.
+// Extensions are asked for with room for 520 characters; the sweep of unused libraries comes last.
 TEST_F(PvPluginInfoTest, UnloadingClosesControlsBeforeFreeingLibraries) {
     CPvPluginInfo plugins(fake_.system(), L"C:\\Qor\\command\\Option\\");
     EXPECT_EQ(-1, plugins.Add(L"Half.dll"));

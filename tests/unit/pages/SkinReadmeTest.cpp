@@ -127,8 +127,7 @@ TEST(SkinFolders, FoldersAndBackgroundModes) {
     }
 }
 
-// Reading the skin groups loads what they name: the background by its mode, the strips from the
-// program's own directory, and no animation for "Default".
+// The background by its mode, the strips from the program's directory, no animation for "Default".
 TEST(SkinFolders, LoadingTheGroupsLoadsTheirPictures) {
     // clang-format off
     struct Case { int32_t mode; std::wstring anime; bool picture; int thumbnails; int animeFrames; };

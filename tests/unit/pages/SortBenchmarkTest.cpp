@@ -77,8 +77,7 @@ std::wstring Report(const std::vector<int64_t>& times) {
     return text;
 }
 
-// The search ends after ten measurements without a new best; the setting takes the best threshold and stays as it was
-// when no measurement beats 99,999,999 ticks. (The button, on the real clock, is tried with the page on Windows.)
+// The setting stays as it was when no measurement beats 99,999,999 ticks.
 TEST(SortBenchmark, SearchStopsAfterTenMeasurementsWithoutANewBest) {
     std::vector<uint64_t> falling(1000);
     for (size_t t = 0; t < falling.size(); ++t) falling[t] = 5000 - t;

@@ -23,8 +23,7 @@ std::vector<std::wstring> NumberLabels() {
     return labels;
 }
 
-// Each gesture's row and the value under its name after a load and a store: the host keeps 16 bits,
-// and any command but the sixteen shows and comes back as closing the tab. Unstored: the default.
+// The host keeps 16 bits; any command but the sixteen comes back as closing the tab.
 TEST(TabClicks, EachGestureShowsItsCommandAndWritesItUnderItsOwnName) {
     struct Case {
         const wchar_t *name, *row;

@@ -11,8 +11,7 @@
 
 namespace {
 
-// The checks a stored style shows and the style written back from them: without the list, multiple
-// selection is lost too (4 reads back with it off).
+// Without the list, multiple selection is lost too (4 reads back with it off).
 TEST(UserBars, TheStyleShowsTwoChecksAndIsWrittenAsThreeFourOrSeven) {
     struct Case {
         int32_t stored, list, multiSelect, written;
@@ -27,8 +26,7 @@ TEST(UserBars, TheStyleShowsTwoChecksAndIsWrittenAsThreeFourOrSeven) {
     }
 }
 
-// What a slot shows of what was read, and what Apply writes for the cells it then holds: name and folder
-// always, the width only from a cell that has one, leaving the older width (999) in place.
+// Name and folder are always written, the width only from a cell that has one (else 999 stays).
 TEST(UserBars, ASlotShowsItsWidthOnlyWhenWholeAndWritesOnlyAWidthItShows) {
     struct Case {
         const char* label;
@@ -60,8 +58,7 @@ TEST(UserBars, ASlotShowsItsWidthOnlyWhenWholeAndWritesOnlyAWidthItShows) {
     }
 }
 
-// Every bar with a folder has its icon from the program's template, made once: what is there stays, and
-// without a place for the icon nothing is made.
+// What is there stays, and without a place for the icon nothing is made.
 TEST(UserBars, EachBarWithAFolderGetsTheTemplateIconOnce) {
     const std::wstring program = L"C:\\Qor\\command\\Option\\", icons = L"C:\\User\\Bar\\";
     struct Case {

@@ -1,5 +1,4 @@
-// Contract tests run one body against every implementation of an interface: the fake always,
-// the real one in the Windows build.
+// One body against every implementation: the fake always, the real one in the Windows build.
 #pragma once
 
 #include <gtest/gtest.h>

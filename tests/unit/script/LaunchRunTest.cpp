@@ -1,5 +1,3 @@
-// What a "run" line and an "exrun" entry ask of the system: which programs start, with which
-// arguments and how, for which items.
 #include <gtest/gtest.h>
 
 #include <string>

@@ -10,8 +10,8 @@ protected:
     VariableTable variables;
 };
 
-// A line's text as the script sees it: variables first, then directories, dates (one reading of the clock), places and,
-// inside a loop, the item's macros; names compare with case except the environment's.
+// Variables, directories, dates (one reading of the clock), places, then the item's; case counts but for
+// the environment's names.
 TEST_F(MacroExpansionTest, EachGroupInItsOrder) {
     fake.environment().SetVariable(L"TEMP", L"C:\\Temp");
     variables.Set(L"TARGET", L"?SelFile?");

@@ -1,5 +1,3 @@
-// The output file and the data file of a script: what ends up in the file, what the variables get and
-// what the user is told.
 #include <gtest/gtest.h>
 
 #include <string>
@@ -83,8 +81,7 @@ TEST_F(ScriptFileWordsTest, WhatTheOutputFileHolds) {
     }
 }
 
-// The data file is read line by line; the output file is the script's alone while it is open, and no longer than the
-// script runs. Every run starts with a data reader of its own, so each row reads from the top.
+// The output file is the script's alone while open, no longer than the run; each run reads data from the top.
 TEST_F(ScriptFileWordsTest, FileReadAndTheOutputFileHeldUntilClosed) {
     const std::wstring open = std::wstring(L"fileopen = ") + kOut;
     const std::wstring read = std::wstring(L"$x = fileread,") + kOut;

@@ -49,8 +49,7 @@ protected:
                           options);
     }
 
-    // Runs the lines as a script of their own with a fresh variable table, kept for the checks, and
-    // fresh run options; questions get the answers in turn.
+    // Fresh variables, kept for the checks; questions get the answers in turn.
     int32_t RunLines(const std::vector<std::wstring>& lines) {
         variables = VariableTable();
         fake.prompts().Clear();

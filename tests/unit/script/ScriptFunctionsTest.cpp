@@ -85,8 +85,7 @@ TEST_F(ScriptFunctionsTest, RandomPicksAnEntryOfThePattern) {
     EXPECT_EQ((std::vector<std::wstring>{L"qy\t", L"qy\tk"}), reports);
 }
 
-// call waits with the time-out of the options and starts in bootdir; exec does not wait. As functions
-// they store the exit code; a program that cannot start leaves the command line.
+// call waits as the options say and starts in bootdir; a program that cannot start leaves the command line.
 TEST_F(ScriptFunctionsTest, CallAndExecStoreTheExitCode) {
     fake.processes().SetProgram({.exitCode = 7});
     Check({"exit codes",

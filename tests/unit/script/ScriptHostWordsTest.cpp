@@ -1,5 +1,3 @@
-// The words that steer the host and the script's message boxes: what reaches the host's window, in
-// order, what the user is shown, and whether the run goes on.
 #include <gtest/gtest.h>
 
 #include <string>

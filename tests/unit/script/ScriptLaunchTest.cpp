@@ -1,5 +1,4 @@
-// Scripts that start programs: "run" at once, "exrun" entries once the script has ended (each item it started with goes
-// to the first entry whose filter takes it), "call" and "exec", and the editor an unknown line may open.
+// "exrun" entries run once the script has ended, each item to the first entry whose filter takes it.
 #include <gtest/gtest.h>
 
 #include <string>
@@ -52,8 +51,7 @@ protected:
     }
 };
 
-// An included script runs its own entries when it ends, before the parent goes on; a list that shrank under the entries
-// ends the whole run, the including scripts too, while without entries nothing is looked at.
+// An included script runs its entries before the parent goes on; a list that shrank under them ends the whole run.
 TEST_F(ScriptLaunchTest, WhatStartsAndWhen) {
     const std::wstring include = std::wstring(L"include = ") + kScriptDirectory;
     AddScript(L"child.txt", {L"commandlineoption = ?SelFile?", L"exrun = child.exe"});
@@ -151,8 +149,7 @@ TEST_F(ScriptLaunchTest, AlternativesAreOfferedPerItem) {
               fake.prompts().offered()[1]);
 }
 
-// An unknown line answered No ends the run; a checkgrammar option other than "1" is the user's
-// editor, started at that line with handles inherited, or the reason it could not start.
+// A checkgrammar other than "1" is the user's editor, started at that line with handles inherited.
 TEST_F(ScriptLaunchTest, UnknownLineAnsweredNoOpensTheEditorAtIt) {
     const std::wstring editor = L"edit.exe /l:?ErrorLine?";
     // what, the option, whether the editor starts, what started

@@ -8,8 +8,7 @@ using platform::fake::SentCopyData;
 
 class ScriptRunnerTest : public ScriptFixture {};
 
-// A missing script shows its path: include lines are what runs so far, so their failures show which
-// lines ran and what their paths became.
+// Include lines are what runs so far: their failures show which lines ran and what their paths became.
 TEST_F(ScriptRunnerTest, WhichLinesRun) {
     struct Case {
         const char* label;
@@ -52,8 +51,7 @@ TEST_F(ScriptRunnerTest, FilesThatCannotBeRead) {
     for (const auto& shown : fake.prompts().shown()) EXPECT_EQ(platform::kStyleOk, shown.style);
 }
 
-// The longest last line a script may end with, without a line end, still runs; one unit longer is
-// taken for the end of the file.
+// Without a line end the longest last line still runs; one unit longer is taken for the end of the file.
 TEST_F(ScriptRunnerTest, TheLongestLastLineWithoutALineEnd) {
     for (const size_t length : {size_t{32767}, size_t{32768}}) {
         const std::wstring last = L"x = &" + std::wstring(length - 5, L'a');
@@ -64,8 +62,7 @@ TEST_F(ScriptRunnerTest, TheLongestLastLineWithoutALineEnd) {
     }
 }
 
-// An included script shares the variables, the selection and the messages, but has labels of its own:
-// a label twice (blanks and tabs around it trimmed) runs nothing of that script.
+// Labels are the script's own: one twice (blanks and tabs trimmed) runs nothing of that script.
 TEST_F(ScriptRunnerTest, IncludedScriptsShareTablesAndSelectionButNotLabels) {
     VariableTable variables;
     variables.Set(L"NAME", L"grand");
@@ -80,9 +77,8 @@ TEST_F(ScriptRunnerTest, IncludedScriptsShareTablesAndSelectionButNotLabels) {
               Messages());
 }
 
-// Without a debug line before the end of the file, or without the window when the script starts,
-// nothing is traced. Otherwise each script is announced as it starts and again when the parent goes
-// on; then each line that runs and each value it stores, comments and blank lines left out.
+// Nothing is traced without a debug line or without the window at the start; a script is announced
+// again when the parent goes on, and comments and blank lines are left out.
 TEST_F(ScriptRunnerTest, TheTraceWindowHearsOfScriptsLinesAndValues) {
     const std::wstring child = AddScript(L"child.txt", {L"debug"});
     EXPECT_EQ(0, Run(child));

@@ -64,8 +64,7 @@ TEST_F(ScriptSelectionTest, CommandsChangeTheList) {
     }
 }
 
-// A listing stops once the list holds 1001 items, looked at behind each entry, so that a full list
-// still takes one more; the shell of old systems is searched in the plain style.
+// 1001 is looked at behind each entry, so a full list takes one more; old systems' shells get the plain style.
 TEST_F(ScriptSelectionTest, ListingStopsAtItsLimit) {
     for (int i = 0; i < 1100; ++i) fake.files().AddFile(L"C:\\Many\\f" + std::to_wstring(i), std::string_view());
     fake.files().SetShellVersion(600);

@@ -1,5 +1,3 @@
-// The words that reach the system: the registry, the clipboard, the screen's metrics, waiting, and
-// the speech words that only check their value.
 #include <gtest/gtest.h>
 
 #include <memory>

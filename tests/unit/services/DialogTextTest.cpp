@@ -137,9 +137,7 @@ TEST(DialogText, ExportWritesTheFileByteForByte) {
         << "an empty title still has its line, and an existing file is replaced";
 }
 
-// The first opening of a dialog in a language that uses text files writes its file, later ones read it; a file
-// that cannot be written changes nothing and is not told. (".ja-JP" with and without LangOut is tried with a
-// real dialog on Windows.)
+// The first opening writes the file, later ones read it; a file that cannot be written is not told.
 TEST(DialogText, LanguageDecidesWhetherFilesAreUsed) {
     struct Case {
         const char* label;

@@ -4,8 +4,7 @@
 
 namespace {
 
-// Each mode's placement, parent and coming forward, and the texts a host receives, are tried with real
-// windows on Windows; here is where the dialog goes beside the edges of the work area.
+// The rest of the handshake is tried with real windows; here, the edges of the work area.
 TEST(HostHandshake, CentresOnTheHostInsideTheWorkArea) {
     const ScreenRect work{0, 0, 1280, 1000};
     // clang-format off

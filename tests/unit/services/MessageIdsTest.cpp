@@ -1,5 +1,4 @@
-// Every message the program can show has a text in every sample language, and the code names
-// messages only through the one list, so that a missing text is found here and not by a user.
+// The code names messages only through the one list, so a missing text is found here and not by a user.
 #include <gtest/gtest.h>
 
 #include <algorithm>

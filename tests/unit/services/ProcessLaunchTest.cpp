@@ -17,10 +17,8 @@ using platform::fake::PostedDrop;
 using platform::fake::ShownMessage;
 using Strings = std::vector<std::wstring>;
 
-// Waited launches and the drop block are tried with real programs on Windows; here are the
-// failures of a drop that a real program cannot be made to show on cue.
-// A drop waits for the program to be idle, polls every 50 ms for ten seconds for its first window, brings that
-// window forward and posts the files on it; each failure is told in the texts of the message file and ends the drop.
+// Failures a real program cannot be made to show on cue: the drop polls every 50 ms for ten seconds for the
+// program's first window, and each failure is told from the message file and ends the drop.
 TEST(ProcessLaunch, DropLaunchDropsTheFilesOnTheProgramsFirstWindowOnceItShows) {
     // clang-format off
     struct Case { const char* what; FakeProgram program; Strings files; std::vector<ShownMessage> shown; Strings events;

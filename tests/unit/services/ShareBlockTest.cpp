@@ -16,8 +16,7 @@ std::vector<uint16_t> Units(std::wstring_view text, size_t count = 0) {
     return units;
 }
 
-// The plain layouts are read from a real mapping on Windows; here is how the others split. The split leaves the
-// inspection text to the reader.
+// The plain layouts are read from a real mapping on Windows; here the others.
 TEST(ShareBlock, SplitsTabEndedFieldsAndOverwritesEachTabItPasses) {
     // clang-format off
     struct Case { const char* what; std::wstring text; size_t limit; ShareBlock expected; std::wstring after; };
@@ -43,8 +42,7 @@ TEST(ShareBlock, SplitsTabEndedFieldsAndOverwritesEachTabItPasses) {
     }
 }
 
-// Read through the fake host's block: mapped, split under the host's mutex, the view let go before the
-// mutex; a mapping the system refuses is told and skipped.
+// The view is let go before the host's mutex; a mapping the system refuses is told and skipped.
 TEST(ShareBlock, ReadsUnderTheHostsMutexAndTellsAFailedMapping) {
     platform::fake::FakePlatform fake;
     fake.sharedMemory().AddBlock(L"ShareMem_7_8", Units(L"1\t0\tC:\\w\t\ta\t", 32));

@@ -1,5 +1,4 @@
-// Every writer of a definition or list file, made to fail halfway: the file keeps what it held, no temporary file stays
-// behind, nothing new appears half written, and the user is told exactly what he was told before.
+// Every writer made to fail halfway: the old file stays whole, no temporary file stays, the same words are told.
 #include <gtest/gtest.h>
 
 #include <set>

@@ -40,9 +40,8 @@ inline void LoadAndSave(SettingsStore& store, SettingsGroup group, const std::fu
     SaveGroup(store, group);
 }
 
-// Whatever a group writes on an empty registry, it reads again and writes back as the host left it:
-// every value is bound to a member of its own, and no other value or section is touched. A list read
-// to its end gains only its empty end mark.
+// Every value is bound to a member of its own, and no other value or section is touched; a list read to
+// its end gains only its empty end mark.
 inline void ExpectEveryGroupWritesBackWhatTheHostStored() {
     // Values that only keep some of their bits, stored as the host would store them.
     const std::map<std::wstring, int32_t> kept = {

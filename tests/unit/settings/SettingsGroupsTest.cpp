@@ -92,8 +92,7 @@ TEST(SettingsGroups, ValuesTheHostOwnsAreReadAndNeverWritten) {
     }
 }
 
-// What the host finds after a page loaded a group over what was stored, the user changed it, and
-// Apply saved it: the values named are as given (nullopt: absent), the others as they were.
+// Load over what was stored, the user's change, Apply: the values named (nullopt: absent).
 TEST(SettingsGroups, ApplyWritesWhatTheHostReads) {
     using Named = std::pair<std::wstring, std::optional<Stored>>;
     struct Case {

@@ -51,8 +51,7 @@ TEST(SettingsStore, ARegistryThatRefusesWritesLosesThemSilently) {
     EXPECT_EQ(L".ja-JP", DirectReadString(kDirectSettingsPath, L"NLS", L".ja-JP"));
 }
 
-// The host reads numbers as DWORD and texts as strings; a font is twelve values, and underline and
-// strike-out are never kept.
+// Numbers as DWORD, texts as strings; underline and strike-out are never kept.
 TEST(SettingsStore, WritesKeepTheirTypesAndAFontIsTwelveValues) {
     FakePlatform fake;
     SettingsStore store;

@@ -1,5 +1,4 @@
-// What the store reads from values the host or another program left, and how it keeps its key: the
-// same rules over the fake registry and the real one.
+// The same rules over the fake registry and the real one.
 #pragma once
 
 #include <gtest/gtest.h>

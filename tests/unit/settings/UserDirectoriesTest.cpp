@@ -72,8 +72,7 @@ TEST_F(UserDirectoriesTest, TheFirstAnswerHoldsForTheProcess) {
     EXPECT_EQ(L"C:\\Qor\\Ubar\\tester\\", directories.UserDirectory());
 }
 
-// Tokens expand as spelt, environment variables after them; a path compresses to the first token that
-// fits it, in any letter case.
+// Environment variables after the tokens; a path compresses to the first token that fits, in any case.
 TEST_F(UserDirectoriesTest, TokensExpandAndPathsCompress) {
     SetMode(1);
     fake.environment().SetVariable(L"DATA", L"%User_dir%x");

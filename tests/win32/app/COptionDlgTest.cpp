@@ -93,8 +93,7 @@ TEST_F(COptionDlgTest, EnterAndEscapeAnywhereCloseTheWholeDialog) {
     }
 }
 
-// Help opens the manual page of the selection, asked by F1 as the keyboard gives it to the dialog in
-// the foreground with the focus in the tree, by WM_HELP, or by the help command.
+// By F1 as the keyboard gives it with the focus in the tree, by WM_HELP, or by the help command.
 TEST_F(COptionDlgTest, HelpOpensTheManualPageOfTheSelection) {
     enum How { Keyboard, HelpMessage, Command };
     // clang-format off

@@ -1,5 +1,3 @@
-// The English dialog text files that come with the program: every text a dialog writes for its translators has its
-// English line, and with English chosen no page of the option dialog shows a Japanese character anywhere.
 #include <gtest/gtest.h>
 #include <windows.h>
 
@@ -122,11 +120,9 @@ protected:
     }
 };
 
-// Each template the program holds writes, in a language without files, what a translator starts
-// from; the English file has a line for every text of it and the same number of entries for every
-// Japanese list it fills, and no Japanese. Pages come from the option dialog as the user opens them, the
-// command editor fills its keyword list itself, and every other template (a new one too) is made
-// bare. The rows the English files miss are printed in the form of sample/Lang/dialogs.tsv.
+// The English file has the same number of entries for every Japanese list a template fills, and no Japanese.
+// Every template other than the pages and the command editor (a new one too) is made bare. The rows the
+// English files miss are printed in the form of sample/Lang/dialogs.tsv.
 TEST_F(EnglishDialogText, EveryTemplateTextHasItsEnglishLine) {
     UseLanguage(L".xx-XX");
     COptionDlg dialog(app_);
@@ -244,10 +240,8 @@ std::vector<std::wstring> ShownTexts(HWND window) {
     return texts;
 }
 
-// With English chosen and the files the build writes beside the program, each page and group of the option dialog,
-// opened from its tree, shows no Japanese in any window of the dialog: labels, buttons, hidden labels, list items and
-// headers, combo entries, tabs, trees, the pages opened before included; the confirmation page lists the English
-// message file's texts. No page refuses a translated label list, which it would say in a message box.
+// Hidden labels, list items, headers, combo entries, tabs and trees too, the pages opened before included. No
+// page refuses a translated label list, which it would say in a message box.
 TEST_F(EnglishDialogText, NoPageShowsJapaneseInEnglish) {
     UseLanguage(L".en-US");
     for (int id : DialogTemplates()) {

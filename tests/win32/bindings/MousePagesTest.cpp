@@ -1,5 +1,3 @@
-// The click and gesture pages over their real templates and the fake registry: the click table's
-// chooser and swap, a stored action it cannot show, and the gesture table's edit rules and defaults.
 #include <gtest/gtest.h>
 
 #include <windows.h>

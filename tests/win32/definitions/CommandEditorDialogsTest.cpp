@@ -1,6 +1,3 @@
-// The command definition editor and its page with their real templates over fake files and prompts:
-// the editor writes every change of its controls into the focused row, refuses what cannot be saved
-// and saves at OK; the page shows its stored edit mode and opens each list by the mode chosen.
 #include <gtest/gtest.h>
 #include <windows.h>
 

@@ -1,7 +1,3 @@
-// The menu page, the menu editor and its line dialog with their real templates over fake files and
-// prompts: the page lists the menu folder and stores its edit mode; the line dialog follows the
-// keyword chosen and fills a file as a macro path; the editor checks its rows, copies and pastes
-// one, and saves the list with the indentation the host reads.
 #include <gtest/gtest.h>
 #include <windows.h>
 

@@ -1,5 +1,3 @@
-// The run and extension-run editors and the script page with their real templates over fake files and prompts: what a
-// file shows, what OK refuses, asks and writes, and how the page opens a script by its edit mode.
 #include <gtest/gtest.h>
 #include <windows.h>
 
@@ -40,8 +38,7 @@ protected:
     }
 };
 
-// The file's values in the controls, an open mode out of range refused until one is chosen, the
-// confirmation's No keeping the file, and the saved file in the writer's form.
+// An open mode out of range is refused until one is chosen; the confirmation's No keeps the file.
 TEST_F(RunDefinitionDialogsTest, TheRunEditorShowsTheFileRefusesAnUnknownModeAndSavesAtOK) {
     const std::wstring original =
         L"\uFEFF// mine\r\nRUN = C:\\Qor\\Tools\\x.exe /a=b\r\nopenmode=7\r\n"
@@ -116,8 +113,7 @@ TEST_F(RunDefinitionDialogsTest, ADefinitionWithoutAProgramIsAskedAbout) {
     }
 }
 
-// Two commands behind one filter are two rows; the edits write through to the focused row; added,
-// moved and deleted rows are saved each with its own filter line.
+// Two commands behind one filter are two rows; each row is saved with its own filter line.
 TEST_F(RunDefinitionDialogsTest, TheExtensionEditorEditsItsRowsInPlaceAndSavesThemAll) {
     fake_.files().AddFile(
         kScripts + L"Ext.txt",

@@ -1,5 +1,3 @@
-// The colour page's grid worked by the keyboard as a user works it: a tick, a colour from the chooser, a text edited in
-// place, groups folded; what is marked as edited, what a palette does to it, and what Apply stores and tells the host.
 #include <gtest/gtest.h>
 #include <windows.h>
 

@@ -62,9 +62,7 @@ TEST_F(FolderSettingPageTest, TheRealShellGivesTheDetailColumns) {
     CoUninitialize();
 }
 
-// The editor shows the sort keys in their three groups with the rule's key selected, the kind
-// locked as asked; an empty path is refused and the dialog stays; OK gives the view number of the
-// radio (8 saved as 5) and the key of the selected row.
+// The rule's key is selected and the kind locked as asked; an empty path keeps the dialog; 8 is saved as 5.
 TEST_F(FolderSettingPageTest, TheEditorGroupsTheSortKeysAndGivesBackTheRule) {
     DirectWriteInt(L"Software\\Tarnwick\\QOR\\Main001\\Detail", L"Col01", 0);
     CDlgFolderSettingInfo editor(app_);
@@ -151,9 +149,8 @@ TEST_F(FolderSettingPageTest, TheButtonsEditTheListsWithinTheirLimits) {
     EXPECT_EQ(8, ui::ListView(regex).GetSelectedRow()) << "the last removed, the one before it is next";
 }
 
-// The list's initial page shows the stored view as the rule editor does (3 and 8 by the radios of 1 and 5, saved so)
-// and the row of the stored order selected; Apply takes the order of the row the user focused, and with none keeps the
-// stored one, even of a column the shell no longer gives. The tree's width is read with the group and never written.
+// Views as the rule editor shows them; with no row focused Apply keeps the stored order, even of a column the
+// shell no longer gives. The tree's width is read with the group and never written.
 TEST_F(FolderSettingPageTest, TheListsInitialPageMapsTheViewAndTakesTheFocusedOrder) {
     constexpr LPARAM kNone = 1000;
     // clang-format off

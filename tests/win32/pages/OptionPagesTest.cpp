@@ -1,5 +1,3 @@
-// The small pages as a user works them in the dialog: what they show of the stored settings, what
-// their buttons do, and what Apply stores and tells the host.
 #include <gtest/gtest.h>
 #include <windows.h>
 
@@ -52,10 +50,8 @@ protected:
     void Type(HWND page, int id, const wchar_t* text) const { SetWindowTextW(GetDlgItem(page, id), text); }
 };
 
-// A control of each kind per page shows what was stored, and what the user sets there is what Apply
-// stores, after which the host hears the page's code (none for the title bar). Fields that mean something
-// only with a switch on follow it. A field out of range or typed with no number of its kind refuses
-// Apply with the framework's words and takes the focus with its text selected: nothing is stored or heard.
+// The host hears the page's code (none for the title bar); fields that mean something only with a switch on
+// follow it. A refused field takes the focus with its text selected, and nothing is stored or heard.
 TEST_F(OptionPagesTest, ControlsCarryTheirStoredValuesBothWays) {
     enum Kind { Check, Radio, Edit, Combo };
     // A check is clicked, the radio button of the value set is clicked, a field is typed (or left when null), the combo
@@ -253,10 +249,8 @@ constexpr const wchar_t* kMoveInBackground = L"内部コマンド:シェルの�
 constexpr const wchar_t* kMoveWaiting = L"内部コマンド:シェルのファイル移動(同期モード)";
 constexpr const wchar_t* kCommonOperationText = L"C:\\Qor\\command\\Option\\.en-US\\Option\\196.txt";
 
-// The drop combos offer the shell's operations, then the user's external commands; taking and showing
-// the values again changes neither list, and a stored command that is gone shows, and is stored, as the
-// waiting shell operation. In another language the shell's operations are the dialog text file's and
-// still stand for the shell; the user's commands never go into the file written for translators.
+// A stored command that is gone shows, and is stored, as the waiting shell operation. In another language the
+// shell's operations are the text file's; the user's commands never go into the file for translators.
 TEST_F(OptionPagesTest, CommonOperationOffersTheShellOperationsAndTheUsersCommandsForDrops) {
     // clang-format off
     struct Case { const char* what; const wchar_t* nls; const wchar_t* file; std::vector<std::wstring> copy; };
@@ -307,8 +301,7 @@ TEST_F(OptionPagesTest, CommonOperationOffersTheShellOperationsAndTheUsersComman
     }
 }
 
-// The script limit's spin goes as far as the field may; the browser starts on the field and fills it
-// with the folder picked; the open button shows the user directory in force.
+// The spin goes as far as the field may; the browser starts on the field; "open" shows the directory in force.
 TEST_F(OptionPagesTest, OtherPageBrowsesAndOpensTheUserDirectory) {
     DirectWriteString(kSettings, L"UserDir", L"D:\\Mine");
     DirectWriteInt(kSettings, L"UserDirMode", 2);
@@ -335,8 +328,7 @@ TEST_F(OptionPagesTest, OtherPageBrowsesAndOpensTheUserDirectory) {
     EXPECT_EQ(app_.directories.UserDirectory(), fake_.processes().shellRequests()[0].file);
 }
 
-// A preset fills the three templates at once. A macro from the macro helper, open on the one tab of the
-// status area, takes the place of the selected text, and Undo takes it back.
+// A macro from the helper, open on the status area's tab, replaces the selected text; Undo takes it back.
 TEST_F(OptionPagesTest, StatusTemplatesComeFromPresetsAndTheMacroHelper) {
     app_.dialogLanguage.Load();
     const std::wstring file = MacroHelperFilePath(app_.directories.ProgramDirectory(), app_.dialogLanguage.tag(), 5);
@@ -383,8 +375,8 @@ std::span<const BitCheck> BitChecksOf(int page) {
     }
 }
 
-// Values made of bits show as checks; Apply makes them anew from the checks alone, with the bits no check stands for
-// gone. Digits compared as numbers are dropped on systems that lack them. A stored value of -1 here is no value at all.
+// Bits no check stands for are gone; digits compared as numbers are dropped on systems that lack them. A
+// stored value of -1 here is no value at all.
 TEST_F(OptionPagesTest, ListValuesOfBitsShowAsChecksAndAreMadeAnewFromThem) {
     // clang-format off
     struct Case { int page; const wchar_t *section, *name; int64_t stored; std::vector<int> ticked, clicks;
@@ -434,9 +426,7 @@ TEST_F(OptionPagesTest, ListValuesOfBitsShowAsChecksAndAreMadeAnewFromThem) {
     }
 }
 
-// Each size shows as the item of its step, rounded down, and is stored as that item's size; a size the
-// list lacks shows no item and stays. The base follows the large size when it has none of its own.
-// The font button opens the font box on screen fonts of one script.
+// The base follows the large size when it has none of its own; the font box shows screen fonts of one script.
 TEST_F(OptionPagesTest, ThumbnailSizesShowTheirStepAndTheFontBoxOpensOnScreenFonts) {
     DirectWriteInt(kThumb, L"ImgSize0", 40);
     DirectWriteInt(kThumb, L"ImgSize1", 500);
@@ -461,8 +451,7 @@ TEST_F(OptionPagesTest, ThumbnailSizesShowTheirStepAndTheFontBoxOpensOnScreenFon
     EXPECT_EQ((std::vector<int32_t>{32, 500, 96, 400}), stored);
 }
 
-// The folders automatic update leaves alone, as the user edits them: the input box adds and edits, a full list takes no
-// more, a button without a selection says so, and Apply stores the rows in order behind an empty end mark.
+// A full list takes no more, a button without a selection says so; rows are stored behind an empty end mark.
 TEST_F(OptionPagesTest, WatchExclusionsAreEditedInTheInputBoxAndStoredInOrder) {
     fake_.files().AddFile(L"C:\\Msg.txt", Utf16Bytes(L"62301\tNothing selected.\r\n62316\tList full.\r\n", true));
     app_.messages.SetPath(L"C:\\Msg.txt");

@@ -61,10 +61,8 @@ protected:
     }
 };
 
-// Adding checks the plug-in and fills in its own extensions; a name already listed in any letter case
-// is refused, also when editing another row, while editing a row may keep its own name. A DLL that is
-// no plug-in keeps the editor open. Up, down and delete work on the selection; the font box opens on
-// the stored font. Apply registers the rows as they stand.
+// A name already listed in any letter case is refused, also when editing another row, while a row may keep
+// its own name; a DLL that is no plug-in keeps the editor open. The font box opens on the stored font.
 TEST_F(PreviewPageTest, TheListIsEditedInMemoryAndRegisteredAtApply) {
     COptionDlg dialog(app_);
     HWND page = Open(dialog, 6);

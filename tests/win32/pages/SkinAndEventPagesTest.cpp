@@ -1,5 +1,3 @@
-// The skin, animation, sound and event pages as a user works them: the installed folders with their
-// readmes, the background picture's dialog, and the rows of files chosen from one folder.
 #include <gtest/gtest.h>
 #include <windows.h>
 
@@ -47,9 +45,8 @@ std::wstring ListBoxSelection(HWND page, int id) {
     return list.GetCurSel() == LB_ERR ? L"<none>" : list.SelectedText();
 }
 
-// The stored skin is selected by the start of its name and its readme shown; Apply keeps the two
-// choices and drops the icon caches. A skin no folder has leaves nothing selected, and Apply keeps
-// nothing at all, not even the transparency typed.
+// Selected by the start of its name; Apply drops the icon caches. A skin no folder has leaves nothing
+// selected, and Apply keeps nothing at all, not even the transparency typed.
 TEST_F(SkinAndEventPagesTest, SkinPageChoosesFromTheInstalledFolders) {
     // clang-format off
     struct Case { const wchar_t* stored; const wchar_t* selected; const wchar_t* readme; bool kept; };
@@ -132,9 +129,8 @@ TEST_F(SkinAndEventPagesTest, BackgroundDialogFollowsItsMode) {
     }
 }
 
-// A row's file comes from the page's one folder and is kept by its name: a namesake picked elsewhere
-// is as good, a file the folder lacks is refused with the page's own words. The box starts on the
-// row's file or the pattern. Apply writes every row, the empty ones too.
+// A namesake picked elsewhere is as good, a file the folder lacks is refused; the box starts on the row's
+// file or the pattern. Apply writes every row, the empty ones too.
 TEST_F(SkinAndEventPagesTest, RowsKeepBareNamesFromTheirFolder) {
     const std::wstring sounds = L"C:\\Qor\\command\\Sound\\";
     const std::wstring scripts = user_ + L"Script\\";

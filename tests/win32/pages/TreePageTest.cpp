@@ -1,5 +1,3 @@
-// The folder tree page over its real template: roots added through the root dialog, by browsing for a
-// folder or by picking a known folder, and the system's own catalogue of known folders.
 #include <gtest/gtest.h>
 
 #include <windows.h>
@@ -30,9 +28,8 @@ protected:
     }
 };
 
-// A folder typed that does not exist is told and the dialog stays; one browsed for is added before the
-// selected root, by the shell's name. A known folder picked by name goes in by its identifier. Apply
-// stores the list in its order and ends it with an empty value.
+// A missing folder typed is told and the dialog stays; one browsed for goes before the selected root, a
+// known folder by its identifier. The list ends with an empty value.
 TEST_F(TreePageTest, RootsAddedByBrowsingAndByNameAreStoredInOrder) {
     DirectWriteString(kTreeInfo, L"TopNode0", L"::{B4BFCC3A-DB2C-424C-B029-7FE99A87C641}");
     fake_.files().AddDirectory(L"C:\\Data");
@@ -73,8 +70,7 @@ TEST_F(TreePageTest, RootsAddedByBrowsingAndByNameAreStoredInOrder) {
     EXPECT_EQ((std::vector<std::wstring>{L"C:\\Data", kDesktop, L"FDD39AD0-238F-46AF-ADB4-6C85480369C7", L""}), stored);
 }
 
-// Thirty roots, known folders and real folders alike, fill the list: adding one more is refused before
-// the dialog opens.
+// Thirty roots, known and real alike, fill the list: one more is refused before the dialog opens.
 TEST_F(TreePageTest, AFullListRefusesAnotherRoot) {
     fake_.shell().addressNames[L"C:\\Data"] = L"Data";
     for (int n = 0; n < 30; ++n)
@@ -88,8 +84,7 @@ TEST_F(TreePageTest, AFullListRefusesAnotherRoot) {
     EXPECT_EQ(app_.messages.Get(62316), told);
 }
 
-// The system's known-folder manager lists the desktop under its canonical name, and names every folder it lists alike
-// when asked for that one alone, by its identifier in either case. The shell names a real folder for the address bar.
+// Every folder listed is named alike when asked for alone, by its identifier in either case.
 TEST(KnownFolders, TheSystemCatalogueHasTheDesktop) {
     CoInitialize(nullptr);
     platform::win32::Win32ShellNamespace shell;

@@ -14,10 +14,8 @@ namespace {
 using namespace optiontest;
 using UserBarPageTest = OptionDialogFixture;
 
-// A bar item's left click does what each bar defines, by default. In the slot editor the width's range
-// is the framework's check and comes first; then a name and a folder are needed, and the folder must
-// be there under "Bar", though a plain file of the name will do. A refused slot keeps the editor open
-// and the row as it was. Deleting asks with the slot's name and folder; No keeps the row, Yes empties it.
+// The width's range is checked first; the folder must be under "Bar", though a plain file of the name will
+// do. A refused slot keeps the editor open and the row as it was; deleting empties the row only on Yes.
 TEST_F(UserBarPageTest, TheSlotEditorKeepsOnlyANamedSlotWhoseFolderIsThere) {
     const std::wstring range = L"Please enter an integer between 1 and 500.";
     struct Case {

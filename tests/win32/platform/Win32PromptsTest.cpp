@@ -160,10 +160,8 @@ TEST(Win32Prompts, FileOpenBox) {
     std::filesystem::remove(file);
 }
 
-// Each question answers with the button pressed: the task dialog of program alternatives (one command link per choice
-// from 201 up), the application's message box, which shows the icon the framework's box would (a warning for OK, a
-// question mark for Yes/No, the caller's own when it names one), the colour chooser on the colour given and the font
-// chooser, which gives the face where the system has it, else its first. Cancel gives nothing.
+// Command links count from 201; the message box shows the icon the framework's would (a warning for OK, a
+// question mark for Yes/No, the caller's own); the font chooser gives the face where the system has it.
 TEST(Win32Prompts, EachQuestionGivesTheAnswerOfTheButtonPressed) {
     using Ask = std::function<std::wstring(platform::Prompts&)>;
     const Ask choice = [](platform::Prompts& prompts) {

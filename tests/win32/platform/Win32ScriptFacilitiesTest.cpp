@@ -1,5 +1,4 @@
-// What the script engine asks of the system beyond the other facilities: a thread of its own, with
-// its own (empty) main window, and the folders of the shell's name space.
+// A thread of its own with its own (empty) main window, and the folders of the shell's name space.
 #include <gtest/gtest.h>
 #include <objbase.h>
 #include <windows.h>

@@ -1,6 +1,4 @@
-// Scripts run on the real system: the bytes the output file gets, values in the real registry, the clipboard and the
-// screen, and the trace window found by its title. (Programs a script starts are the launch tests' and the editor
-// script's business.) Message boxes stay fake, so that a test sees them instead of blocking on them.
+// Scripts on the real system; message boxes stay fake, so that a test sees them instead of blocking on them.
 #include <gtest/gtest.h>
 #include <windows.h>
 

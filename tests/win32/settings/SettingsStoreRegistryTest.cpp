@@ -1,5 +1,4 @@
-// The store against the real registry: every group over the real registry keeps what the host stored
-// through a page's Load and Apply.
+// Every group over the real registry keeps what the host stored through a page's Load and Apply.
 #include <gtest/gtest.h>
 
 #include "platform/win32/Win32Platform.h"

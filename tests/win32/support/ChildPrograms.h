@@ -1,5 +1,4 @@
-// The small programs built beside the end-to-end tests, as in-process tests start them: where they
-// are, the logs they write, and closing the windows they leave open.
+// The small programs built beside the end-to-end tests, as in-process tests start them.
 #pragma once
 
 #include <windows.h>

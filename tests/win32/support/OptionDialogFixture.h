@@ -1,6 +1,5 @@
-// The option dialog in the test's own process, with its real templates and windows; registry, files,
-// prompts, launches and host windows are the fakes', so each test starts from a clean slate and sees
-// every message box, launch and host message.
+// The option dialog in the test's own process with its real templates; everything else is the fakes', so
+// each test starts clean and sees every message box, launch and host message.
 #pragma once
 
 #include <gtest/gtest.h>

@@ -1,6 +1,4 @@
-// The control wrappers where a message's details are easy to get wrong: check boxes of a list view,
-// long item texts, and hidden labels that hold "/"-separated lists. The tree, the combo
-// boxes and the spin are worked through the option dialog and its pages.
+// The wrappers where a message's details are easy to get wrong; the others are worked through the pages.
 #include <gtest/gtest.h>
 #include <windows.h>
 

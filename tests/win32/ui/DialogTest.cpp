@@ -1,5 +1,4 @@
-// Life of a framework dialog: how a modal one ends, and what reaches its handlers and what the sender
-// gets back. (Enter and Escape in a page are tried in the option dialog itself.)
+// How a modal dialog ends, what reaches its handlers and what the sender gets back.
 #include "ui/Dialog.h"
 
 #include <gtest/gtest.h>

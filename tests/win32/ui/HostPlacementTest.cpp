@@ -1,5 +1,4 @@
-// The option dialog's placement and coming forward, on plain windows of this process: one of the
-// host's class, one that stands for the dialog, and one that holds the foreground before.
+// On plain windows of this process: one of the host's class, one for the dialog, one holding the foreground.
 #include "ui/HostPlacement.h"
 
 #include <gtest/gtest.h>
