@@ -174,7 +174,6 @@ TEST_F(MenuDefinitionTest, CheckOfOneLineAndTheLoadTest) {
     catalog.LoadCommandLists(kUserDir);
     fake.prompts().Clear();
     const std::wstring computer = L"::{20D04FE0-3AEA-1069-A2D8-08002B30309D}";
-    // clang-format off
     const std::pair<MenuLine, std::wstring> cases[] = {
         {{L"OPEN", L"x", L"C:\\Data\\a.txt"}, L"Exist:C:\\Data\\a.txt"},
         {{L"script", L"x", L"%Menu_dir%no.txt"}, L"Not found:" + kUserDir + L"Menu\\no.txt"},
@@ -194,7 +193,6 @@ TEST_F(MenuDefinitionTest, CheckOfOneLineAndTheLoadTest) {
         {{L"<comment>", L"C:\\Data\\a.txt"}, L""},
         {{L"WILDCARD", L"w", L"C:\\Data\\a.txt"}, L""},
     };
-    // clang-format on
     for (const auto& [line, check] : cases) {
         EXPECT_EQ(check, CheckMenuLine(line, catalog, nullptr, directories)) << testing::PrintToString(line);
         EXPECT_EQ(line.command == L"WILDCARD", MenuTestRefused(VectorMenuRows({{L"MENUITEM"}, line})));
