@@ -46,7 +46,6 @@ protected:
     }
     void TearDown() override { fs::remove_all(folder); }
 
-    // The editor of "/M" on the file.
     HWND Open(const fs::path& file) {
         option = e2e::StartOption({L"/M", file.wstring()});
         editor = option ? e2e::FindVisibleWindow(option.Id(), L"Menu Edit") : nullptr;
@@ -80,8 +79,7 @@ TEST_F(MenuEditorTest, AFileInAMissingFolderOpensEmptyAndCannotBeSaved) {
     EXPECT_FALSE(fs::exists(file));
 }
 
-// A line added through the line dialog is saved as the host reads it; the load test shows the popup
-// where the file asks, or refuses a wildcard file.
+// The load test shows the popup where the file asks, or refuses a wildcard file.
 TEST_F(MenuEditorTest, ALineAddedIsSavedAsTheHostReadsItAndTheLoadTestShowsThePopup) {
     const fs::path file = folder / kSampleMenu;
     fs::copy_file(fs::path(e2e::StageRoot()) / L"User" / L"Menu" / kSampleMenu, file);

@@ -75,8 +75,7 @@ TEST(OptionDialog, OpensOverTheHostInItsOwnOrTranslatedWordsAndOnlyAValidPassSto
     ASSERT_TRUE(text.starts_with(L"\uFEFFオプション\r\n")) << "no dialog text file written";
     EXPECT_NE(std::wstring::npos, text.find(L"1301\tButton\t適用\r\n"));
 
-    // No page stored and no switch string this time, and a value out of range: the framework says so,
-    // yet OK closes the dialog, stores nothing, tells no host anything and leaves the page unset.
+    // A value out of range: the framework says so, yet OK closes the dialog, stores and tells nothing.
     reg::DeleteKey(reg::kOptionPage);
     reg::WriteDword(reg::kAppInfo, L"UsePing", 0);
     reg::WriteDword(reg::kAppInfo, L"NetworkTimeout", 500);
@@ -135,8 +134,7 @@ TEST(OptionDialog, ApplyStoresEveryPageAndEveryHostHearsWhatToReread) {
     EXPECT_EQ(2u, reg::ReadDword(reg::kAppInfo, L"TitleBarType").value_or(0));
     expectHeard({kSeriesStart, kSeriesEnd});
 
-    // The confirmation page: its rows follow the stored bits, a preset changes the checks, and the
-    // bits are stored with the higher ones kept.
+    // The confirmation page: a preset changes the checks, and the higher bits are kept.
     ASSERT_TRUE(e2e::SelectTreeItem(dialog, 39));
     HWND confirmations = e2e::PageWith(dialog, 1601);
     ASSERT_NE(nullptr, confirmations);

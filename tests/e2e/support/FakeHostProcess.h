@@ -19,8 +19,7 @@ struct FakeHostOptions {
     bool hidden = false;
 };
 
-// One FakeHost.exe with its own log file. The constructor returns once its window exists;
-// the destructor closes it and removes the log.
+// One FakeHost.exe with its own log file, there once the constructor returns and gone with the object.
 class FakeHost {
 public:
     explicit FakeHost(FakeHostOptions options = {}, std::source_location where = std::source_location::current());
@@ -48,8 +47,7 @@ private:
 // Reads a UTF-8 text file into lines without their line ends; shared so that a writer may keep it open.
 std::vector<std::string> ReadLogLines(const std::wstring& path);
 
-// The option program started beside a fake host on the page "Start" names, its dialog found; a test
-// binds the three by `auto& [host, option, dialog] = run;` and asserts on the host and the dialog.
+// The option program beside a fake host on the page "Start" names: `auto& [host, option, dialog] = run;`.
 struct OptionBesideHost {
     FakeHost host;
     Process option = StartOption();

@@ -1,5 +1,4 @@
-// Working the option dialog's tree from another process: item handles are plain values there, so
-// walking, expanding and selecting need no memory in the other process.
+// Tree item handles are plain values, so working the tree needs no memory in the other process.
 #pragma once
 
 #include <windows.h>

@@ -23,8 +23,7 @@ HWND AddEdit(HWND page, DWORD style = 0) {
                            reinterpret_cast<HMENU>(100), GetModuleHandleW(nullptr), nullptr);
 }
 
-// A translation whose label list lost words is told with the framework's words; the tree keeps the
-// roots before the faulty list, and a page stays out of the dialog and of Apply.
+// The tree keeps the roots before the faulty list, and a page stays out of the dialog and of Apply.
 TEST_F(COptionDlgTest, ATranslationWithAWrongLabelCountIsToldAndKeepsItsPartOut) {
     // clang-format off
     struct Case { int page; const wchar_t* file; const wchar_t* text; const wchar_t* told; };
@@ -58,8 +57,7 @@ TEST_F(COptionDlgTest, ATranslationWithAWrongLabelCountIsToldAndKeepsItsPartOut)
     }
 }
 
-// Enter and Escape in a page belong to the page, which closes the whole dialog; a multi-line edit keeps
-// its Enter, and a focused button takes it as a click (the version check's reset stores at once).
+// A multi-line edit keeps its Enter, and a focused button takes it as a click (the reset stores at once).
 TEST_F(COptionDlgTest, EnterAndEscapeAnywhereCloseTheWholeDialog) {
     // clang-format off
     struct Case { const char* what; std::function<void(COptionDlg&, HWND)> act; INT_PTR result; bool reset = false; };

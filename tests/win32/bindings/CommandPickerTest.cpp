@@ -42,8 +42,7 @@ protected:
     }
 };
 
-// Opened on no command, OK is refused with "nothing selected"; a number typed and searched selects
-// its command, and OK gives the number and the tree's text.
+// OK gives the number and the tree's text of the command found.
 TEST_F(CommandPickerTest, OkNeedsACommandAndSearchFindsOneByNumber) {
     COptionKeySetting& picker = COptionKeySetting::Shared(app_);
     EXPECT_EQ(&picker, &COptionKeySetting::Shared(app_)) << "one picker for the process";
@@ -83,8 +82,8 @@ TEST_F(CommandPickerTest, OkNeedsACommandAndSearchFindsOneByNumber) {
     COptionKeySetting::ReleaseShared();
 }
 
-// The key page's other buttons on the block of a modifier: Edit and Clear want a row, Clear and each
-// reset ask first and a No changes nothing, the list goes into the folder chosen under its block's name.
+// Edit and Clear want a row, Clear and each reset ask first and a No changes nothing; the list is named by
+// its block.
 TEST_F(CommandPickerTest, TheKeyPageClearsResetsAndListsTheBlockShown) {
     COptionDlg dialog(app_);
     HWND page = Open(dialog, 2);

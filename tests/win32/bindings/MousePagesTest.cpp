@@ -67,7 +67,6 @@ TEST_F(MousePagesTest, ClickActionsAreChosenSwappedAndStoredAndAnUnknownOneKeeps
 }
 
 // Keeping a row's own trail is no duplicate; taking another row's is refused with the old trail back.
-// The standard table replaces all rows, and Apply writes exactly the list with letters.
 TEST_F(MousePagesTest, GestureRowsKeepTheirTrailsUniqueAndTheDefaultsReplaceThem) {
     fake_.files().AddFile(L"C:\\Msg.txt",
                           Utf16Bytes(L"62301\tnone\r\n62307\ttaken\r\n63014\treplace?\r\n63019\treset?", true));

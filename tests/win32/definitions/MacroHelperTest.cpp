@@ -27,9 +27,7 @@ std::vector<std::wstring> State(HWND dialog) {
     return state;
 }
 
-// Opened on its start tab with only the caller's tabs usable; a double click takes the selected row's
-// macro. A tab click reads that tab's file, and an entry without a tab is reported once after the rows
-// before it; OK with no row selected gives an empty result.
+// Only the caller's tabs are usable; an entry without a tab is reported once, after the rows before it.
 TEST_F(MacroHelperTest, TabsRowsAndResult) {
     const std::wstring folder = L"C:\\Qor\\command\\Option\\.ja-JP\\Option\\MacroHelper\\";
     fake_.files().AddFile(folder + L"macro_input.txt", Utf16Bytes(L"?SelFile?\tquoted/?Name?\tname\r\n", true));

@@ -110,8 +110,7 @@ void AnswerWhenShown(const wchar_t* title, int button, bool pickFirstRow) {
     });
 }
 
-// The words of a position come from the macro helper's tab of positions, a macro goes where the caret
-// is, a folder comes back as a macro path; the command picker adds its choice behind a list.
+// A macro goes where the caret is, a folder comes back as a macro path, a command goes behind a list.
 TEST_F(MenuEditorDialogsTest, TheLineDialogTakesWordsMacrosFoldersAndCommands) {
     app_.dialogLanguage.Load();
     const std::wstring program = app_.directories.ProgramDirectory(), tag = app_.dialogLanguage.tag();

@@ -85,8 +85,7 @@ TEST_F(RunDefinitionDialogsTest, TheRunEditorShowsTheFileRefusesAnUnknownModeAnd
         File(L"Run.txt"));
 }
 
-// A definition without a program is asked about with its word; No closes the editor unsaved, and a
-// file that is not there is told first.
+// No closes the editor unsaved; a file that is not there is told first.
 TEST_F(RunDefinitionDialogsTest, ADefinitionWithoutAProgramIsAskedAbout) {
     fake_.files().AddFile(kScripts + L"Empty.txt", Utf16Bytes(L"\uFEFFFilter=txt\r\nRun=\r\n"));
     // clang-format off
@@ -159,8 +158,7 @@ TEST_F(RunDefinitionDialogsTest, TheExtensionEditorEditsItsRowsInPlaceAndSavesTh
         File(L"Ext.txt"));
 }
 
-// The page's mode comes from the tool's own key; mode 2 takes a run definition to its editor, and the
-// folder view lists the script files.
+// The mode comes from the tool's own key; mode 2 takes a run definition to its editor.
 TEST_F(RunDefinitionDialogsTest, TheScriptPageOpensScriptsByItsModeAndStoresIt) {
     fake_.files().AddFile(kScripts + L"Editor.txt", Utf16Bytes(L"\uFEFFRun=notepad.exe\r\n"));
     fake_.files().AddFile(kScripts + L"Mine.txt", Utf16Bytes(L"\uFEFFexec=x\r\n"));

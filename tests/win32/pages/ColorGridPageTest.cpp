@@ -47,8 +47,7 @@ protected:
     }
     HWND EditInPlace() { return FindWindowExW(grid_, nullptr, L"Edit", nullptr); }
 
-    // What the user sees of the grid: the selected property and its value, how many rows are shown
-    // from which, the text being edited, and how many choosers have opened.
+    // The selected property and value, the rows shown and from which, the text edited, the choosers opened.
     std::wstring State() {
         const ui::Property& property = Selected();
         std::wstring value = property.kind == ui::PropertyKind::Boolean  ? (property.check ? L"on" : L"off")

@@ -41,8 +41,7 @@ protected:
     }
 };
 
-// The desktop's columns as the shell gives them, each with the host's defaults when "Detail" is empty;
-// a virtual folder shows by the name the shell gives it.
+// The host's defaults when "Detail" is empty; a virtual folder shows by the name the shell gives it.
 TEST_F(FolderSettingPageTest, TheRealShellGivesTheDetailColumns) {
     CoInitialize(nullptr);
     platform::win32::Win32ShellNamespace shell;
@@ -106,8 +105,7 @@ TEST_F(FolderSettingPageTest, TheEditorGroupsTheSortKeysAndGivesBackTheRule) {
     EXPECT_EQ(1, editor.kind);
 }
 
-// The page's buttons: an add refused when the list is full, a duplicate replaced only on Yes, a change
-// that would duplicate refused, a move and a delete, and nothing but a message without a selection.
+// A duplicate is replaced only on Yes, a change that would duplicate refused; without a selection, a message.
 TEST_F(FolderSettingPageTest, TheButtonsEditTheListsWithinTheirLimits) {
     DirectWriteString(kFolderInfo, L"C:\\Work", BuildFolderState({.path = L"C:\\Work"}));
     for (int n = 0; n < 10; ++n) {

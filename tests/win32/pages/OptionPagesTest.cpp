@@ -54,8 +54,7 @@ protected:
 // follow it. A refused field takes the focus with its text selected, and nothing is stored or heard.
 TEST_F(OptionPagesTest, ControlsCarryTheirStoredValuesBothWays) {
     enum Kind { Check, Radio, Edit, Combo };
-    // A check is clicked, the radio button of the value set is clicked, a field is typed (or left when null), the combo
-    // item of the value set is picked. "Off" are the fields enabled as loaded that the setting turns off.
+    // A null "set" leaves the field as loaded; "off" are the fields enabled as loaded that the setting turns off.
     // clang-format off
     struct Case { int page, control; Kind kind; const wchar_t *section, *name, *stored, *set; uint16_t code;
                   std::vector<int> off = {}; const wchar_t* refused = nullptr; };

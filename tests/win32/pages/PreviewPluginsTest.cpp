@@ -33,8 +33,7 @@ protected:
         app_.messages.SetPath(L"C:\\Qor\\Lang\\Msg.txt");
     }
 
-    // Opens the editor with the page's button and fills it in as the user would; a refused plug-in
-    // keeps the editor open, and it is cancelled then.
+    // A refused plug-in keeps the editor open, and it is cancelled then.
     void Edit(HWND page, int button, const wchar_t* name, const wchar_t* extensions, bool refused) {
         WhenShown(kEditorTitle, [=](HWND editor) {
             SetDlgItemTextW(editor, 1001, name);

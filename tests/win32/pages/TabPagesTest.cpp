@@ -21,8 +21,7 @@ constexpr int kPage = 31;
 
 using TabPagesTest = OptionDialogFixture;
 
-// Nothing selected is refused; the chooser offers the sixteen commands for the row's gesture. With the
-// tabs not restored, the restore checks are disabled but still saved as they stand.
+// With the tabs not restored, the restore checks are disabled but still saved as they stand.
 TEST_F(TabPagesTest, TheChooserChangesAGestureAndDisabledChecksAreStillSaved) {
     DirectWriteInt(kTabStyle, L"LastTab", 0);
     DirectWriteInt(kTabStyle, L"LastTabVir", 0);
