@@ -16,6 +16,12 @@ inline std::vector<uint8_t> Utf16Bytes(std::wstring_view text, bool byteOrderMar
     return bytes;
 }
 
+// The same bytes as a byte string, so that expectations read alongside ANSI ones.
+inline std::string Wide(std::wstring_view text) {
+    const std::vector<uint8_t> bytes = Utf16Bytes(text);
+    return std::string(bytes.begin(), bytes.end());
+}
+
 // The other way: the units of a file's bytes as text, byte order mark included.
 inline std::wstring Utf16Text(const std::vector<uint8_t>& bytes) {
     std::wstring text;

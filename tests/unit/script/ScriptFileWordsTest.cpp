@@ -9,12 +9,6 @@ namespace {
 
 constexpr const wchar_t* kOut = L"C:\\data\\out.txt";
 
-// UTF-16 little-endian bytes as a byte string, so that expectations read alongside ANSI ones.
-std::string Wide(std::wstring_view text) {
-    const std::vector<uint8_t> bytes = Utf16Bytes(text);
-    return std::string(bytes.begin(), bytes.end());
-}
-
 const std::string kMark = "\xFF\xFE";
 
 class ScriptFileWordsTest : public ScriptFixture {

@@ -51,13 +51,6 @@ protected:
             rows.push_back(list.GetItemText(row, 0) + L"=" + list.GetItemText(row, 1));
         return rows;
     }
-
-    std::vector<std::wstring> Messages() {
-        std::vector<std::wstring> texts;
-        for (const auto& shown : fake_.prompts().shown()) texts.push_back(shown.text);
-        fake_.prompts().Clear();
-        return texts;
-    }
 };
 
 // A name already listed in any letter case is refused, also when editing another row, while a row may keep
@@ -88,10 +81,11 @@ TEST_F(PreviewPageTest, TheListIsEditedInMemoryAndRegisteredAtApply) {
         SCOPED_TRACE(testing::Message() << s.button << " "
                                         << testing::PrintToString(std::wstring(s.name ? s.name : L"")));
         if (s.select >= 0) list.SelectRow(s.select);
+        const size_t shown = fake_.prompts().shown().size();
         const bool refused = s.messages.size() && s.messages.back() == L"Not plugin file...";
         s.name ? Edit(page, s.button, s.name, s.extensions, refused) : Click(page, s.button);
         EXPECT_EQ(s.rows, Rows(page));
-        EXPECT_EQ(s.messages, Messages());
+        EXPECT_EQ(s.messages, Messages(shown));
     }
     Click(page, 1301);
     EXPECT_EQ(std::vector<unsigned>{0x1800401}, fake_.prompts().fontOpenings());
@@ -103,8 +97,9 @@ TEST_F(PreviewPageTest, TheListIsEditedInMemoryAndRegisteredAtApply) {
     // A full list takes one row more, then refuses before the editor opens.
     while (list.GetItemCount() <= 100)
         list.InsertItem(list.GetItemCount(), L"Row" + std::to_wstring(list.GetItemCount()));
+    const size_t shown = fake_.prompts().shown().size();
     Click(page, 1302);
-    EXPECT_EQ((std::vector<std::wstring>{L"The list is full."}), Messages());
+    EXPECT_EQ((std::vector<std::wstring>{L"The list is full."}), Messages(shown));
 }
 
 }  // namespace

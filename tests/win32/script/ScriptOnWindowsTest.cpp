@@ -33,11 +33,6 @@ bool KeyExists(const std::wstring& path) {
     return true;
 }
 
-std::string Wide(std::wstring_view text) {
-    const std::vector<uint8_t> bytes = Utf16Bytes(text);
-    return std::string(bytes.begin(), bytes.end());
-}
-
 // Opened without sharing, which only works once nobody else holds the file.
 std::string ReadBytes(const std::wstring& path) {
     HANDLE file = CreateFileW(path.c_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr);
