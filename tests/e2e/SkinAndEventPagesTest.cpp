@@ -44,7 +44,6 @@ protected:
     }
     void TearDown() override { fs::remove_all(user); }
 
-    // The option dialog open on the page; the page's window.
     HWND Open(int pageId, int controlId) {
         reg::WriteDword(reg::kOptionPage, L"Start", static_cast<DWORD>(pageId));
         option = e2e::StartOption();

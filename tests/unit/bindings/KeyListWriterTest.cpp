@@ -84,7 +84,6 @@ TEST_F(KeyListWriterTest, CommandsWithoutANameAreListedByTheirNumberOrAsMissing)
     EXPECT_EQ(3u, fake.prompts().browsed().size());
 }
 
-// A list that cannot be opened, here a folder by its name, is asked for and then passed silently.
 TEST_F(KeyListWriterTest, AListThatCannotBeOpenedIsPassedSilently) {
     const std::wstring folder = L"C:\\Out\\Command mode.csv";
     fake.files().AddDirectory(folder);

@@ -10,7 +10,6 @@ namespace {
 
 class CommandListEditingTest : public testing::Test {
 protected:
-    // The document of a list file holding the text.
     CommandListDocument Open(const std::wstring& name, const std::wstring& text) {
         const std::wstring path = L"C:\\User\\" + name;
         fake.files().AddFile(path, Utf16Bytes(text, true));

@@ -6,7 +6,6 @@
 
 namespace {
 
-// Shorter than the fixed columns and a TAB, a string changes nothing: not the fields, not the path.
 TEST(FolderState, AStringTooShortLeavesEverythingAsItWas) {
     const FolderState before{1, 1, 4, 2, -5, 3, true, L"C:\\Before"};
     for (const wchar_t* text : {L"", L"C:\\Work", L"0 0 0 02 00 0 00000100 00000000 00000000 00 00"}) {

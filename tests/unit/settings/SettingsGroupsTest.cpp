@@ -46,16 +46,12 @@ TEST(SettingsGroups, ValuesTheHostOwnsAreReadAndNeverWritten) {
         {G::General,      L"Settings",   L"IME",              &S::IME,              nullptr,              true},
         {G::General,      L"AppInfo",    L"CasheExCmd",       &S::CasheExCmd,       nullptr,              true},
         {G::StartUp,      L"AppInfo",    L"Alfa",             &S::Alfa,             nullptr,              false},
-        {G::StartUp,      L"AppInfo",    L"DoubleBuffer",     &S::DoubleBuffer,     nullptr,              false},
         {G::IncrementalSearch, L"AppInfo", L"IncliMentTime",  &S::IncliMentTime,    nullptr,              true},
         {G::Network,      L"AppInfo",    L"NoNetwork",        &S::NoNetwork,        nullptr,              false},
         {G::VersionCheck, L"AppInfo",    L"VersionCheckTime", nullptr,              &S::VersionCheckTime, false},
         {G::Other,        L"Settings",   L"NLS",              nullptr,              &S::NLS,              false},
         {G::Other,        L"Settings",   L"EveryFront",       &S::EveryFront,       nullptr,              true},
         {G::KeyPage,      L"Settings",   L"CheckMode",        &S::CheckMode,        nullptr,              false},
-        {G::KeyPage,      L"Settings",   L"KeyLayout",        &S::KeyLayout,        nullptr,              false},
-        {G::KeyPage,      L"Settings",   L"BarLock",          &S::BarLock,          nullptr,              false},
-        {G::KeyPage,      L"Settings",   L"DefaultDrop",      &S::DefaultDrop,      nullptr,              false},
         {G::Sound,        L"Sound",      L"SoundGuestureGo",  nullptr,              &S::SoundGuestureGo,  true},
         {G::ListInitial,  L"TreeInfo",   L"InsideTreeWidth",  &S::InsideTreeWidth,  nullptr,              false},
         {G::ListInitial,  L"TreeInfo",   L"InitShowInsideTree", &S::InitShowInsideTree, nullptr,          true},
@@ -203,7 +199,6 @@ TEST(SettingsGroups, LoadGivesThePagesWhatTheHostStored) {
     EXPECT_GT(RangeOf(&S::NoLine).low, RangeOf(&S::NoLine).high) << "any value";
 }
 
-// The wheel page writes into whatever section the page applied before it left selected.
 TEST(SettingsGroups, TheWheelValuesLandInTheSectionLeftSelected) {
     FakePlatform fake;
     SettingsStore store;

@@ -201,7 +201,6 @@ TEST_F(ScriptOnWindows, ClipboardRoundTripAndMetrics) {
     EXPECT_TRUE(Messages().empty());
 }
 
-// The trace window, found by its title, hears of each script, where the parent goes on, and each line and value.
 TEST_F(ScriptOnWindows, TheTraceWindowHearsEachScript) {
     constexpr const wchar_t* kTraceClass = L"OptionTestsScriptTrace";
     testing_support::RegisterWindowClass(kTraceClass, TraceProc);
