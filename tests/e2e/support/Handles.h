@@ -1,5 +1,4 @@
-// Owners for the handles the end-to-end tests hold; null stands for "none", so callers turn
-// INVALID_HANDLE_VALUE into null before they store it.
+// Handle owners; null is "none", so callers turn INVALID_HANDLE_VALUE into null before they store it.
 #pragma once
 
 #include <windows.h>

@@ -29,8 +29,7 @@ bool IsVisibleDialog(HWND window, bool withTree) {
            (FindWindowExW(window, nullptr, L"SysTreeView32", nullptr) != nullptr) == withTree;
 }
 
-// Selects in the browser until its tree shows name as the selection: the browser may still be
-// filling its tree. The selection's argument and the tree's answer live in the browser's process.
+// Selects until the tree shows name as the selection: the browser may still be filling its tree.
 bool SendSelection(HANDLE process, HWND browser, BOOL isPath, const void* data, size_t size, const std::wstring& name) {
     constexpr int kChars = 260;
     const size_t itemAt = (size + 15) / 16 * 16, textAt = itemAt + sizeof(TVITEMW);

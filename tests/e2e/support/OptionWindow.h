@@ -31,8 +31,7 @@ HWND FindFolderBrowser(DWORD processId, DWORD timeoutMs = 10000);
 // Answers a dialog with a button and waits until it is gone.
 bool Answer(HWND dialog, int button, DWORD timeoutMs = 10000);
 
-// Selects and focuses a row of another process's list view; the item goes there through memory of
-// its own, so process needs PROCESS_VM_OPERATION and PROCESS_VM_WRITE.
+// The item goes through memory of its own: process needs PROCESS_VM_OPERATION and PROCESS_VM_WRITE.
 bool SelectListRow(HANDLE process, HWND list, int row);
 // Selects a folder in the browser of process by its path; process needs PROCESS_VM_OPERATION and PROCESS_VM_WRITE.
 bool SelectFolder(HANDLE process, HWND browser, const std::wstring& path);

@@ -26,8 +26,7 @@ using platform::FileSystem;
 using platform::FindData;
 using platform::FindStyle;
 
-// A file system, an empty scratch directory that is also the current directory, and what the
-// interface itself cannot do: learn an entry's 8.3 name.
+// An empty scratch directory that is also the current directory, and an entry's 8.3 name.
 class FileSystemHarness {
 public:
     virtual ~FileSystemHarness() = default;

@@ -13,7 +13,6 @@
 #include "settings/UserDirectories.h"
 #include "unit/Utf16.h"
 
-// A script and what a user sees of its run: values left in variables, messages shown, the result.
 // Rows name what they check; what they leave out is expected empty, and the result 0.
 struct ScriptCase {
     using Values = std::vector<std::pair<std::wstring, std::wstring>>;

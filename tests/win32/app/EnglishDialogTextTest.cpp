@@ -79,8 +79,7 @@ std::vector<int> DialogTemplates() {
     return ids;
 }
 
-// A dialog whose code puts no text of its own into it: the template, its initial list data and the
-// translation step, as every dialog of the program begins.
+// The template, its initial list data and the translation step, as every dialog of the program begins.
 class BareDialog : public ui::Dialog {
 public:
     BareDialog(int id, DialogLanguage& language) : ui::Dialog(id), language_(language) {}
