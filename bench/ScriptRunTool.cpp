@@ -64,15 +64,20 @@ std::string Utf8(const std::wstring& text) {
 }
 
 // Arguments are taken as Latin-1 or ASCII: enough for paths of test files.
-std::wstring Widen(const std::string& text) { return std::wstring(text.begin(), text.end()); }
+std::wstring Widen(const std::string& text) {
+    return std::wstring(text.begin(), text.end());
+}
 
 std::optional<Options> ParseArguments(int argc, char** argv) {
     Options options;
     int i = 1;
     for (; i < argc && argv[i][0] == '-'; ++i) {
-        if (std::strcmp(argv[i], "--real") == 0) options.real = true;
-        else if (std::strcmp(argv[i], "--bench") == 0 && i + 1 < argc) options.benchRuns = std::atoi(argv[++i]);
-        else return std::nullopt;
+        if (std::strcmp(argv[i], "--real") == 0)
+            options.real = true;
+        else if (std::strcmp(argv[i], "--bench") == 0 && i + 1 < argc)
+            options.benchRuns = std::atoi(argv[++i]);
+        else
+            return std::nullopt;
     }
     if (i >= argc) return std::nullopt;
     options.script = argv[i++];

@@ -185,8 +185,8 @@ TEST_F(EnglishDialogText, EveryTemplateTextHasItsEnglishLine) {
             for (const std::wstring& entry : list) row(line[0], L"ComboBox", entry);
         }
         for (const std::wstring& control : named)
-            EXPECT_TRUE(controls.count(control)) << "the English file of " << id << " names control " << e2e::Utf8(control)
-                                                 << ", which has no text in the dialog";
+            EXPECT_TRUE(controls.count(control)) << "the English file of " << id << " names control "
+                                                 << e2e::Utf8(control) << ", which has no text in the dialog";
     }
     if (!missing.str().empty()) ADD_FAILURE() << "without English:\n" << missing.str();
 }
@@ -267,7 +267,8 @@ TEST_F(EnglishDialogText, NoPageShowsJapaneseInEnglish) {
         for (HWND window : windows)
             for (const std::wstring& text : ShownTexts(window))
                 if (HasJapanese(text))
-                    japanese.insert(e2e::Utf8(label) + ", " + std::to_string(GetDlgCtrlID(window)) + ": " + e2e::Utf8(text));
+                    japanese.insert(e2e::Utf8(label) + ", " + std::to_string(GetDlgCtrlID(window)) + ": " +
+                                    e2e::Utf8(text));
     });
     std::string found;
     for (const std::string& line : japanese) found += line + "\n";
