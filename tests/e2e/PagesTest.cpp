@@ -1,5 +1,5 @@
-// The pages' own rules are the in-process page tests'; the rows here are values that take a way of their own
-// (bits, a text, a combo, values the page rewrites), then a page whose values come from a dialog of its own.
+// The pages' own rules are the in-process page tests'; here: values that take a way of their own (bits, a
+// text, a combo, values the page rewrites), the colour page's palette, a page with a dialog of its own.
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -24,6 +24,7 @@ constexpr wchar_t kListDraw[] = L"Software\\Tarnwick\\Qor\\Main001\\ListDraw";
 constexpr wchar_t kMouse[] = L"Software\\Tarnwick\\Qor\\Main001\\Mouse";
 constexpr wchar_t kTabStyle[] = L"Software\\Tarnwick\\Qor\\Main001\\TabStyle";
 constexpr wchar_t kColor[] = L"Software\\Tarnwick\\Qor\\Main001\\Color";
+constexpr wchar_t kViewFont[] = L"Software\\Tarnwick\\Qor\\Main001\\ViewFont";
 constexpr wchar_t kPlugins[] = L"Software\\Tarnwick\\QOR\\Main001\\PvPlugin";
 
 // A button pressed (a check or radio changes with it), a field typed, or a combo item picked.
@@ -93,6 +94,41 @@ TEST(Pages, EachPageStoresItsSectionAndTellsTheHostItsCode) {
         EXPECT_EQ((c.code ? std::vector<unsigned>{48999, c.code, 49099} : std::vector<unsigned>{48999, 49099}),
                   host.Commands());
         EXPECT_EQ(0u, option.CloseDialog(dialog));
+    }
+}
+
+// Applied, one value of each kind (fixed, the system's, copied from another row) is stored, the extension lists
+// stay and the font is written with the colours.
+TEST(ColorPage, TheBlackPaletteCancelledStoresNothingAndAppliedReachesTheRegistryAndTheHost) {
+    reg::ScopedKey page{reg::kOptionPage}, color{kColor}, font{kViewFont};
+    reg::WriteDword(reg::kOptionPage, L"Start", 26);
+    for (const int button : {IDCANCEL, kApply}) {
+        reg::DeleteKey(kColor);
+        e2e::OptionBesideHost run;
+        auto& [host, option, dialog] = run;
+        HWND palettes = dialog ? e2e::PageWith(dialog, 1304) : nullptr;
+        ASSERT_NE(nullptr, palettes);
+        e2e::Click(palettes, 1304);
+        if (button == IDCANCEL) {
+            option.CloseDialog(dialog);
+            EXPECT_FALSE(reg::ReadDword(kColor, L"Color").has_value());
+            EXPECT_TRUE(host.Commands().empty());
+            continue;
+        }
+        e2e::Click(dialog, kApply);
+        EXPECT_THAT(host.Commands(), testing::ElementsAre(48999u, 49001u, 49099u));
+        const auto stored = [](const wchar_t* name) {
+            return static_cast<int32_t>(reg::ReadDword(kColor, name).value_or(0xDEADBEEF));
+        };
+        EXPECT_EQ((std::vector<int32_t>{62, 0xFFFFFF, static_cast<int32_t>(GetSysColor(13)), 0x3C3C3C, 0x3C3C3C,
+                                        static_cast<int32_t>(GetSysColor(18)), 33204}),
+                  (std::vector<int32_t>{stored(L"Color"), stored(L"1"), stored(L"9"), stored(L"16"), stored(L"24"),
+                                        stored(L"26"), stored(L"ApplicationLook")}));
+        for (const wchar_t* never : {L"14", L"23", L"s00", L"s04"})
+            EXPECT_FALSE(reg::ReadDword(kColor, never).has_value()) << testing::PrintToString(never);
+        EXPECT_EQ(L"exe,com,bat,scr,pif,vbs", reg::ReadString(kColor, L"Ex1").value_or(L"<absent>"));
+        EXPECT_TRUE(reg::ReadDword(kViewFont, L"Point").has_value());
+        option.CloseDialog(dialog);
     }
 }
 
