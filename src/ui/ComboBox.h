@@ -23,6 +23,15 @@ public:
     void ResetContent() const { Send(CB_RESETCONTENT); }
     int GetCount() const { return static_cast<int>(Send(CB_GETCOUNT)); }
     int GetCurSel() const { return static_cast<int>(Send(CB_GETCURSEL)); }
+    // Empty for an index out of range.
+    std::wstring GetText(int index) const {
+        const LRESULT length = Send(CB_GETLBTEXTLEN, static_cast<WPARAM>(index));
+        if (length <= 0) return {};
+        std::wstring text(static_cast<size_t>(length) + 1, L'\0');
+        text.resize(
+            static_cast<size_t>(Send(CB_GETLBTEXT, static_cast<WPARAM>(index), reinterpret_cast<LPARAM>(text.data()))));
+        return text;
+    }
     // -1 clears the selection.
     int SetCurSel(int index) const { return static_cast<int>(Send(CB_SETCURSEL, static_cast<WPARAM>(index))); }
     LPARAM GetItemData(int index) const { return Send(CB_GETITEMDATA, static_cast<WPARAM>(index)); }

@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "services/DialogText.h"
+#include "ui/ComboBox.h"
 
 namespace ui {
 
@@ -27,16 +28,10 @@ std::wstring ClassName(HWND window) {
     return name;
 }
 
-std::vector<std::wstring> ComboEntries(HWND combo) {
+std::vector<std::wstring> ComboEntries(HWND window) {
+    const ComboBox combo(window);
     std::vector<std::wstring> entries;
-    LRESULT count = SendMessageW(combo, CB_GETCOUNT, 0, 0);
-    for (LRESULT index = 0; index < count; ++index) {
-        LRESULT length = SendMessageW(combo, CB_GETLBTEXTLEN, index, 0);
-        if (length < 0) length = 0;  // CB_ERR
-        std::vector<wchar_t> text(static_cast<size_t>(length) + 1, 0);
-        SendMessageW(combo, CB_GETLBTEXT, index, reinterpret_cast<LPARAM>(text.data()));
-        entries.emplace_back(text.data());
-    }
+    for (int index = 0; index < combo.GetCount(); ++index) entries.push_back(combo.GetText(index));
     return entries;
 }
 

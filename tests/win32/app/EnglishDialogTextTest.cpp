@@ -13,6 +13,7 @@
 
 #include "definitions/CDlgMenuCommand.h"
 #include "e2e/support/Files.h"
+#include "ui/ComboBox.h"
 #include "ui/ListBox.h"
 #include "ui/ListView.h"
 #include "ui/LocaliseDialog.h"
@@ -200,38 +201,37 @@ std::vector<std::wstring> ShownTexts(HWND window) {
     if (kind == L"Edit") return {};
     std::vector<std::wstring> texts{TextOf(window)};
     wchar_t buffer[1024];
-    auto send = [&](UINT message, WPARAM w, LPARAM l) { return SendMessageW(window, message, w, l); };
-    if (kind == L"ComboBox") {
-        const LRESULT count = send(CB_GETCOUNT, 0, 0);
-        for (LRESULT i = 0; i < count; ++i) {
+    // Each item's text, read into the buffer by get.
+    const auto items = [&](int count, auto get) {
+        for (int i = 0; i < count; ++i) {
             buffer[0] = 0;
-            if (send(CB_GETLBTEXTLEN, i, 0) < 1024) send(CB_GETLBTEXT, i, reinterpret_cast<LPARAM>(buffer));
+            get(i);
             texts.push_back(buffer);
         }
+    };
+    if (kind == L"ComboBox") {
+        const ui::ComboBox combo(window);
+        for (int i = 0; i < combo.GetCount(); ++i) texts.push_back(combo.GetText(i));
     } else if (kind == L"ListBox") {
         const ui::ListBox list(window);
         for (int i = 0; i < list.GetCount(); ++i) texts.push_back(list.GetText(i));
     } else if (kind == WC_HEADERW) {
-        for (int i = 0; i < Header_GetItemCount(window); ++i) {
+        items(Header_GetItemCount(window), [&](int i) {
             HDITEMW item{};
-            item.mask = HDI_TEXT;
-            item.pszText = buffer, item.cchTextMax = 1024, buffer[0] = 0;
+            item.mask = HDI_TEXT, item.pszText = buffer, item.cchTextMax = 1024;
             Header_GetItem(window, i, &item);
-            texts.push_back(buffer);
-        }
+        });
     } else if (kind == WC_LISTVIEWW) {
         const ui::ListView list(window);
         for (int row = 0; row < list.GetItemCount(); ++row)
             for (int column = 0; column < std::max(list.GetColumnCount(), 1); ++column)
                 texts.push_back(list.GetItemText(row, column));
     } else if (kind == WC_TABCONTROLW) {
-        for (int i = 0; i < TabCtrl_GetItemCount(window); ++i) {
+        items(TabCtrl_GetItemCount(window), [&](int i) {
             TCITEMW item{};
-            item.mask = TCIF_TEXT;
-            item.pszText = buffer, item.cchTextMax = 1024, buffer[0] = 0;
+            item.mask = TCIF_TEXT, item.pszText = buffer, item.cchTextMax = 1024;
             TabCtrl_GetItem(window, i, &item);
-            texts.push_back(buffer);
-        }
+        });
     } else if (kind == WC_TREEVIEWW) {
         ui::TreeView tree(window);
         for (HTREEITEM item : AllItems(tree, tree.GetRootItem())) texts.push_back(tree.GetItemText(item));

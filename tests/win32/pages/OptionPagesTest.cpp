@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "definitions/MacroHelperData.h"
+#include "ui/ComboBox.h"
 #include "ui/ListBox.h"
 #include "ui/ListView.h"
 #include "pages/ListViewChoices.h"
@@ -233,12 +234,9 @@ int ComboSelection(HWND page, int id) {
 }
 
 std::vector<std::wstring> ComboItems(HWND page, int id) {
+    const ui::ComboBox combo(GetDlgItem(page, id));
     std::vector<std::wstring> items;
-    for (LRESULT i = 0, count = SendDlgItemMessageW(page, id, CB_GETCOUNT, 0, 0); i < count; ++i) {
-        std::wstring item(SendDlgItemMessageW(page, id, CB_GETLBTEXTLEN, i, 0), L'\0');
-        SendDlgItemMessageW(page, id, CB_GETLBTEXT, i, reinterpret_cast<LPARAM>(item.data()));
-        items.push_back(item);
-    }
+    for (int i = 0; i < combo.GetCount(); ++i) items.push_back(combo.GetText(i));
     return items;
 }
 
