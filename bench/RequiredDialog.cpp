@@ -18,6 +18,7 @@
 
 #include "app/OptionPageTable.h"
 #include "resources/app/AppIds.h"
+#include "services/Tokenizer.h"
 
 namespace {
 
@@ -51,14 +52,8 @@ void FillTree(HWND dialog) {
     std::vector<OptionTreeItem> items;
     std::vector<HTREEITEM> handles;
     for (int list = kFirstLabelList; list <= kLastLabelList; ++list) {
-        const std::wstring text = ControlText(dialog, list);
         std::vector<std::wstring> labels;
-        for (size_t start = 0; start <= text.size();) {
-            size_t end = text.find(L'/', start);
-            if (end == std::wstring::npos) end = text.size();
-            labels.push_back(text.substr(start, end - start));
-            start = end + 1;
-        }
+        Tokenize(labels, ControlText(dialog, list), L'/', false, true);
         const size_t first = items.size();
         AddTreeItems(list, labels, items);
         for (size_t i = first; i < items.size(); ++i)
